@@ -1,0 +1,73 @@
+#pragma once
+
+#include "core/platform/HttpTransport.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QVariantMap>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+/// One request on its way. `finished` is emitted once, after the callbacks, whatever came of it: also when the tool calls
+/// neither of them.
+class RequestOperation : public QObject {
+    Q_OBJECT
+public:
+    explicit RequestOperation(QString requestUrl) : url(std::move(requestUrl)) {}
+    const QString url;
+
+Q_SIGNALS:
+    void finished();
+};
+
+/// Null where no request was sent: an answer from the stored copy, an unknown method.
+using Operation = std::shared_ptr<RequestOperation>;
+
+/// A request without a decoded answer: `failure` when there was no response, otherwise the status of one that could not be
+/// used.
+struct RequestError {
+    std::optional<HttpFailure> failure;
+    int status = 0;
+};
+
+/// A function that belongs to an owner: once the owner is gone, calling it does nothing.
+template <typename Argument> class OwnedCallback {
+public:
+    using Function = std::function<void(const Operation &, const Argument &)>;
+
+    OwnedCallback() = default;
+    OwnedCallback(const QObject *callbackOwner, Function callback)
+        : owner(callbackOwner), owned(true), function(std::move(callback))
+    {
+    }
+
+    void operator()(const Operation &operation, const Argument &argument) const
+    {
+        if (function && (!owned || owner))
+            function(operation, argument);
+    }
+
+protected:
+    explicit OwnedCallback(Function callback) : function(std::move(callback)) {}
+
+private:
+    QPointer<const QObject> owner;
+    bool owned = false;
+    Function function;
+};
+
+/// Receives the decoded answer. Default-made it is empty and does nothing.
+class Success : public OwnedCallback<QVariantMap> {
+public:
+    using OwnedCallback::OwnedCallback;
+    /// For the tools' own wrappers, which live as long as the call.
+    static Success unowned(Function callback) { return Success(std::move(callback)); }
+};
+
+class Failure : public OwnedCallback<RequestError> {
+public:
+    using OwnedCallback::OwnedCallback;
+    static Failure unowned(Function callback) { return Failure(std::move(callback)); }
+};

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "core/net/Callbacks.h"
+
+#include <QVariantMap>
+
+/// The one door to the service's HTTPS JSON API. Holds nothing between requests: token and headers are read from the
+/// settings for each of them. Callbacks run on the main thread.
+class KRAFHTTPClient {
+public:
+    KRAFHTTPClient() = delete;
+
+    /// Adds parts to a multipart body.
+    using ConstructBody = std::function<void()>;
+
+    static Operation get(const QString &url, const QVariantMap &dict, Success done, Failure error);
+    static Operation post(const QString &url, const QVariantMap &dict, Success done, Failure error);
+    /// `multiPart` is the local file's URL, sent under the form name `andPartName` besides the parameters.
+    static Operation post(const QString &url, const QVariantMap &dict, const QString &multiPart,
+                          const QString &andPartName, Success done, Failure error);
+    static Operation put(const QString &url, const QVariantMap &dict, Success done, Failure error);
+    /// Kept on purpose: `constructingBodyWithBlock` is taken and never used, the request is a plain form POST.
+    static Operation POST(const QString &url, const QVariantMap &parameters, const ConstructBody &constructingBodyWithBlock,
+                          Success success, Failure failure);
+    /// `method` is "GET", "POST" or "PUT" to the letter; with any other nothing is sent, no callback runs, null is returned.
+    static Operation execute(const QString &url, const QString &method, const QVariantMap &dict, const QString &mutiPart,
+                             const QString &andPartName, const ConstructBody &constructingBodyWithBlock, Success done,
+                             Failure error);
+    /// Shows the "message" of an answer; hides the waiting indicator when it is no success.
+    static void showMsgWithDict(const QVariantMap &dict, const QString &url);
+};

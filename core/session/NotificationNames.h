@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+/// The notifications that screens of different areas share.
+namespace NotificationNames {
+inline const QString refreshHome = QStringLiteral("refreshHome");
+inline const QString refreshAccount = QStringLiteral("refreshAccount");
+inline const QString reachabilityChanged = QStringLiteral("kNetworkReachabilityChangedNotification");
+inline const QString remoteMsg = QStringLiteral("remote_msg");
+inline const QString remoteStock = QStringLiteral("remote_stock");
+} // namespace NotificationNames

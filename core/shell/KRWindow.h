@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QAbstractListModel>
+#include <QObject>
+
+#include <memory>
+#include <vector>
+
+class KRBaseController;
+class KRDialog;
+class KRNavigationController;
+class KRSideMenu;
+
+/// A list of QObjects for views; the role is "item".
+class ObjectListModel : public QAbstractListModel {
+    Q_OBJECT
+    Q_PROPERTY(int count READ count NOTIFY countChanged)
+public:
+    using QAbstractListModel::QAbstractListModel;
+    int count() const { return static_cast<int>(items.size()); }
+    QObject *at(int row) const { return items.at(row); }
+    int indexOf(const QObject *item) const { return static_cast<int>(items.indexOf(const_cast<QObject *>(item))); }
+    void append(QObject *item);
+    void removeAt(int row);
+    int rowCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : count(); }
+    QVariant data(const QModelIndex &index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+Q_SIGNALS:
+    void countChanged();
+
+private:
+    QList<QObject *> items;
+};
+
+/// The main window: its root (the guide or the side menu), the stacks presented over it, the dialogs over those. Owns them
+/// all. Banners and the waiting indicator are `OverlayHost`'s.
+class KRWindow : public QObject {
+    Q_OBJECT
+    /// A KRBaseController (the guide) or a KRSideMenu.
+    Q_PROPERTY(QObject *root READ root NOTIFY rootChanged)
+    Q_PROPERTY(ObjectListModel *presented READ presented CONSTANT)
+    Q_PROPERTY(ObjectListModel *dialogs READ dialogs CONSTANT)
+public:
+    explicit KRWindow(QObject *parent = nullptr);
+    ~KRWindow() override;
+
+    QObject *root() const { return rootObject; }
+    ObjectListModel *presented() { return &presentedStacks; }
+    ObjectListModel *dialogs() { return &shownDialogs; }
+
+    /// Replaces the root; what was presented over the old one goes with it.
+    void setRoot(std::unique_ptr<KRBaseController> root);
+    void setRoot(std::unique_ptr<KRSideMenu> root);
+    KRSideMenu *sideMenu() const;
+
+    /// Presents over whatever is on screen.
+    KRNavigationController *present(std::unique_ptr<KRNavigationController> stack);
+    KRNavigationController *present(std::unique_ptr<KRBaseController> screen);
+    void dismiss(KRNavigationController *stack);
+
+    /// The dialog lives until it is removed.
+    void show(std::unique_ptr<KRDialog> dialog);
+    void remove(KRDialog *dialog);
+
+    /// The stack on top: the last presented, else the content of the side menu, else null.
+    KRNavigationController *topStack() const;
+    /// Takes the focus from the field being edited and closes the keyboard.
+    void endEditing() { Q_EMIT editingEnded(); }
+
+    /// Called by the side menu when its content changes.
+    void updateVisibility();
+
+Q_SIGNALS:
+    void rootChanged();
+    void editingEnded();
+
+private:
+    void replaceRoot(QObject *root);
+
+    ObjectListModel presentedStacks;
+    ObjectListModel shownDialogs;
+    QObject *rootObject = nullptr;
+};

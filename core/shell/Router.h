@@ -1,0 +1,48 @@
+#pragma once
+
+#include "core/util/OwnedAction.h"
+
+class KRBaseController;
+class KRNavigationController;
+class QString;
+struct TZEntrustsTodayModel;
+struct TZMessageModel;
+struct TZStockInfoModel;
+struct TZUserIndexModel;
+struct TZWebModel;
+struct TZZorvanePageStocksModel;
+
+/// Runs after a sign-in that was asked for on the way to something else.
+using ToSomeController = OwnedAction;
+
+/// Every door from one area's screens to another's. `from` is the screen that asks: its stack receives what is pushed, its
+/// window what is presented.
+class Router {
+public:
+    virtual ~Router() = default;
+
+    /// Presents the sign-in entry in a stack of its own; `toSomeController` (may be empty) runs once sign-in is complete.
+    virtual void openSignIn(KRBaseController &from, ToSomeController toSomeController) = 0;
+    /// Roots of the main frame, each in a new stack in the content area; closes the menu.
+    virtual void showHome(KRBaseController &from) = 0;
+    virtual void showMyAccount(KRBaseController &from) = 0;
+    virtual void showCommissions(KRBaseController &from) = 0;
+    /// Builds the main frame anew with home as its content.
+    virtual void setupSideMenuController() = 0;
+
+    virtual void openRealTrading(KRBaseController &from) = 0;
+    virtual void openStockCapital(KRBaseController &from) = 0;
+    virtual void openMessages(KRBaseController &from) = 0;
+    virtual void openWeb(KRBaseController &from, const TZWebModel &model) = 0;
+    /// Reads the recharge information and opens the first unfinished step of the account, or the recharge screen.
+    virtual void openRechargeGate(KRBaseController &from) = 0;
+    virtual void openWithdraw(KRBaseController &from) = 0;
+    virtual void openFundRecords(KRBaseController &from) = 0;
+    virtual void openPersonal(KRBaseController &from) = 0;
+    virtual void openWarning(KRBaseController &from) = 0;
+    virtual void openMarginTopUp(KRBaseController &from) = 0;
+
+    /// A pushed message's detail, presented over everything.
+    virtual void presentMessageDetail(const TZMessageModel &model) = 0;
+    virtual void presentOrderDetail(const TZEntrustsTodayModel &model) = 0;
+};

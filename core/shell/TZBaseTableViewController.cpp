@@ -1,0 +1,78 @@
+#include "core/shell/TZBaseTableViewController.h"
+
+#include "core/util/Service.h"
+
+TZBaseTableViewController::~TZBaseTableViewController()
+{
+    hidenWaitngView();
+}
+
+void TZBaseTableViewController::viewDidLoad()
+{
+    KRBaseController::viewDidLoad();
+    changeNavStyle();
+    changeBlueBgColor();
+}
+
+void TZBaseTableViewController::viewWillDisappear()
+{
+    endEditing();
+    KRBaseController::viewWillDisappear();
+}
+
+void TZBaseTableViewController::viewDidDisappear()
+{
+    hidenWaitngView();
+}
+
+void TZBaseTableViewController::beginRefreshing()
+{
+    if (headerRefreshing)
+        return;
+    setRefreshing(true);
+    refreshData();
+}
+
+void TZBaseTableViewController::beginLoadingMore()
+{
+    if (footerRefreshing || headerRefreshing)
+        return;
+    setLoadingMore(true);
+    loadMoreData();
+}
+
+void TZBaseTableViewController::endRefreshing()
+{
+    guard.stop();
+    setRefreshing(false);
+    setLoadingMore(false);
+}
+
+void TZBaseTableViewController::endRefreshingAfter(std::chrono::seconds delay)
+{
+    guard.startOnce(delay, [this] { endRefreshing(); });
+}
+
+void TZBaseTableViewController::setNoData(bool noData)
+{
+    if (empty == noData)
+        return;
+    empty = noData;
+    Q_EMIT noDataChanged();
+}
+
+void TZBaseTableViewController::setRefreshing(bool refreshing)
+{
+    if (headerRefreshing == refreshing)
+        return;
+    headerRefreshing = refreshing;
+    Q_EMIT refreshingChanged();
+}
+
+void TZBaseTableViewController::setLoadingMore(bool loading)
+{
+    if (footerRefreshing == loading)
+        return;
+    footerRefreshing = loading;
+    Q_EMIT loadingMoreChanged();
+}

@@ -1,0 +1,30 @@
+#include "core/shell/TZInfoAlertView.h"
+
+TZInfoAlertView::TZInfoAlertView(TZInfoAlertViewModel alertModel, OwnedAction left, OwnedAction right)
+    : model(std::move(alertModel)), leftAction(std::move(left)), rightAction(std::move(right))
+{
+}
+
+void TZInfoAlertView::leftBtnClick()
+{
+    close(leftAction);
+}
+
+void TZInfoAlertView::rightBtnClick()
+{
+    close(rightAction);
+}
+
+void TZInfoAlertView::cancel()
+{
+    close(model.leftTitle.isEmpty() ? rightAction : OwnedAction());
+}
+
+void TZInfoAlertView::close(const OwnedAction &action)
+{
+    if (!window())
+        return;
+    const OwnedAction chosen = action;
+    removeFromWindow();
+    chosen();
+}

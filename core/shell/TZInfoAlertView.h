@@ -1,0 +1,41 @@
+#pragma once
+
+#include "core/shell/KRDialog.h"
+#include "core/util/OwnedAction.h"
+
+/// The texts of an alert; an empty `leftTitle` leaves one button.
+struct TZInfoAlertViewModel {
+    QString titleText;
+    QString ensureText;
+    QString leftTitle;
+    QString rightTitle;
+};
+
+/// A dialog with a title, a text and one or two buttons. A button's action runs after the dialog is
+/// gone.
+class TZInfoAlertView : public KRDialog {
+    Q_OBJECT
+    Q_PROPERTY(QString titleText READ titleText CONSTANT)
+    Q_PROPERTY(QString ensureText READ ensureText CONSTANT)
+    Q_PROPERTY(QString leftTitle READ leftTitle CONSTANT)
+    Q_PROPERTY(QString rightTitle READ rightTitle CONSTANT)
+public:
+    TZInfoAlertView(TZInfoAlertViewModel alertModel, OwnedAction left, OwnedAction right);
+
+    QString view() const override { return QStringLiteral("TZInfoAlertView"); }
+    QString titleText() const { return model.titleText; }
+    QString ensureText() const { return model.ensureText; }
+    QString leftTitle() const { return model.leftTitle; }
+    QString rightTitle() const { return model.rightTitle; }
+
+    Q_INVOKABLE void leftBtnClick();
+    Q_INVOKABLE void rightBtnClick();
+    void cancel() override;
+
+private:
+    void close(const OwnedAction &action);
+
+    TZInfoAlertViewModel model;
+    OwnedAction leftAction;
+    OwnedAction rightAction;
+};

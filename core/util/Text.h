@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QMetaObject>
+#include <QString>
+#include <QVariantMap>
+
+/// How values of decoded answers are read everywhere.
+
+/// Integral numbers without a point, booleans "1"/"0", other numbers as the shortest text that reads back; null and absent
+/// give "".
+QString textForm(const QVariant &value);
+/// The leading number of a text, blanks before it skipped; 0 when there is none.
+double doubleValue(const QVariant &value);
+/// The leading whole number of a text, blanks before it skipped, clamped to the type; 0 when there is none.
+qint64 integerValue(const QVariant &value);
+/// A number that is not zero; a text whose first significant character is Y, y, T, t or 1 to 9.
+bool boolValue(const QVariant &value);
+
+/// Fills a gadget of QString properties from the entries of the same names; others stay empty.
+void fillGadget(const QMetaObject &type, void *gadget, const QVariantMap &map);
+QVariantMap gadgetToMap(const QMetaObject &type, const void *gadget);
+
+template <typename Model> Model fromDictionary(const QVariant &dictionary)
+{
+    Model model;
+    fillGadget(Model::staticMetaObject, &model, dictionary.toMap());
+    return model;
+}
+
+template <typename Model> QList<Model> fromArray(const QVariant &array)
+{
+    QList<Model> models;
+    const QVariantList rows = array.toList();
+    for (const QVariant &row : rows)
+        models.append(fromDictionary<Model>(row));
+    return models;
+}
+
+template <typename Model> QVariantMap toDictionary(const Model &model)
+{
+    return gadgetToMap(Model::staticMetaObject, &model);
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "core/shell/KRBaseController.h"
+#include "core/shell/KRDialog.h"
+#include "core/shell/KRNavigationController.h"
+#include "core/shell/KRSideMenu.h"
+#include "core/shell/KRWindow.h"
+#include "core/shell/OverlayHost.h"
+#include "core/shell/TZBaseTableViewController.h"
+#include "core/shell/TZInfoAlertView.h"
+#include "ui/ViewType.h"
+
+// The classes that views of every area know.
+struct GadgetListModelForViews {
+    Q_GADGET
+    ZV_VIEW_TYPE(GadgetListModel)
+};
+struct KRBaseControllerForViews {
+    Q_GADGET
+    ZV_VIEW_TYPE(KRBaseController)
+};
+struct KRDialogForViews {
+    Q_GADGET
+    ZV_VIEW_TYPE(KRDialog)
+};
+struct KRNavigationControllerForViews {
+    Q_GADGET
+    ZV_VIEW_TYPE(KRNavigationController)
+};
+struct KRSideMenuForViews {
+    Q_GADGET
+    ZV_VIEW_TYPE(KRSideMenu)
+};
+struct KRWindowForViews {
+    Q_GADGET
+    ZV_VIEW_TYPE(KRWindow)
+};
+struct ObjectListModelForViews {
+    Q_GADGET
+    ZV_VIEW_TYPE(ObjectListModel)
+};
+struct OverlayHostForViews {
+    Q_GADGET
+    ZV_VIEW_TYPE(OverlayHost)
+};
+struct TZBaseTableViewControllerForViews {
+    Q_GADGET
+    ZV_VIEW_TYPE(TZBaseTableViewController)
+};
+struct TZInfoAlertViewForViews {
+    Q_GADGET
+    ZV_VIEW_TYPE(TZInfoAlertView)
+};
