@@ -1,0 +1,66 @@
+#pragma once
+
+#include "core/platform/Timer.h"
+#include "core/shell/KRDialog.h"
+
+#include <QPointer>
+
+/// Receives the password typed into the prompt, once for each prompt.
+class TZTradePwdAlertDelegate {
+public:
+    virtual void checkTradePwd(const QString &password) = 0;
+
+protected:
+    ~TZTradePwdAlertDelegate() = default;
+};
+
+/// The box that asks for the six-digit trade password before an order or a withdrawal. With the sixth digit
+/// it hides, and one second after hiding began it hands the password to its delegate and is gone; until then
+/// it still covers the window, so that no second prompt can be asked for meanwhile. It goes without a call
+/// when it is closed or its owner is destroyed.
+class TZTradePwdAlertView : public KRDialog {
+    Q_OBJECT
+    /// The digits typed so far, 0 to 6 of them. What is written is cleaned first.
+    Q_PROPERTY(QString inputTextField READ inputTextField WRITE setInputTextField NOTIFY inputChanged)
+    /// How many of the six dots are lit.
+    Q_PROPERTY(int btns READ btns NOTIFY inputChanged)
+    Q_PROPERTY(bool shown READ isShown NOTIFY shownChanged)
+    /// Milliseconds of the running fade: 250 in, 200 out.
+    Q_PROPERTY(int fadeDuration READ fadeDuration NOTIFY shownChanged)
+public:
+    enum class Animation { None, Fade };
+
+    /// Shows a prompt on `window`, which owns it. `delegate` lives as long as `owner`: usually they are one
+    /// screen.
+    static TZTradePwdAlertView *showAlertView(KRWindow &window, const QObject &owner,
+                                              TZTradePwdAlertDelegate &delegate);
+    ~TZTradePwdAlertView() override;
+
+    /// Kept on purpose: without an animation it only ends editing.
+    void hideAlertView(Animation animation);
+
+    QString inputTextField() const { return digits; }
+    void setInputTextField(const QString &text);
+    int btns() const { return static_cast<int>(digits.size()); }
+    bool isShown() const { return shown; }
+    int fadeDuration() const;
+
+    QString view() const override { return QStringLiteral("TZTradePwdAlertView"); }
+    Q_INVOKABLE void closeBtnClick();
+    void cancel() override { closeBtnClick(); }
+
+Q_SIGNALS:
+    void inputChanged();
+    void shownChanged();
+
+private:
+    TZTradePwdAlertView(const QObject &owner, TZTradePwdAlertDelegate &delegate);
+    void sendTradePwd();
+    void wipe();
+
+    QPointer<const QObject> owner;
+    TZTradePwdAlertDelegate &delegate;
+    QString digits;
+    Timer sending;
+    bool shown = true;
+};
