@@ -1,0 +1,192 @@
+#include "Sandbox.h"
+
+#include "http/Routes.h"
+#include "http/Shapes.h"
+
+#include <condition_variable>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace sandbox {
+namespace {
+
+constexpr const char *demoCell = "13800138000";
+constexpr std::chrono::milliseconds heartbeat{200};
+
+Millis realNow()
+{
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(system_clock::now().time_since_epoch()).count();
+}
+
+/// The data directory, readable by its owner only and used by one sandbox at a time.
+class DataDirectory {
+public:
+    explicit DataDirectory(const std::filesystem::path &path) : m_path(path)
+    {
+        std::error_code error;
+        std::filesystem::create_directories(path, error);
+        if (!error)
+            ::chmod(path.c_str(), 0700);
+        m_lock = error ? -1 : ::open((path / "lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+        if (m_lock < 0)
+            throw StartError("cannot write to " + path.string() + ": " +
+                             (error ? error.message() : std::generic_category().message(errno)) +
+                             "; choose another folder with --data-dir");
+        if (::flock(m_lock, LOCK_EX | LOCK_NB) != 0) {
+            ::close(m_lock);
+            throw StartError("another sandbox uses " + path.string() +
+                             "; stop it or choose another --data-dir");
+        }
+    }
+    ~DataDirectory() { ::close(m_lock); }
+    DataDirectory(const DataDirectory &) = delete;
+    DataDirectory &operator=(const DataDirectory &) = delete;
+
+    [[nodiscard]] std::string database() const { return (m_path / "sandbox.db").string(); }
+
+private:
+    std::filesystem::path m_path;
+    int m_lock = -1;
+};
+
+/// Brings the market forward and pushes what happened to orders, five times a second.
+class Heartbeat {
+public:
+    explicit Heartbeat(http::Service &service) : m_service(service), m_thread([this] { run(); }) {}
+    ~Heartbeat()
+    {
+        {
+            const std::scoped_lock lock(m_mutex);
+            m_stopping = true;
+        }
+        m_wake.notify_all();
+        m_thread.join();
+    }
+    Heartbeat(const Heartbeat &) = delete;
+    Heartbeat &operator=(const Heartbeat &) = delete;
+
+private:
+    void run()
+    {
+        std::unique_lock lock(m_mutex);
+        while (!m_wake.wait_for(lock, heartbeat, [this] { return m_stopping; })) {
+            m_service.brokerage.tick();
+            m_service.orderWatch.look(m_service.push.listeners(), [this](const Order &order) {
+                http::push(m_service, order.user, 3, http::entrustJson(order, m_service.brokerage.stocks()));
+            });
+        }
+    }
+
+    http::Service &m_service;
+    std::mutex m_mutex;
+    std::condition_variable m_wake;
+    bool m_stopping = false;
+    std::thread m_thread;
+};
+
+void makeDemoUser(http::Service &service)
+{
+    const identity::User user = http::registerUser(service, demoCell, {});
+    service.users.setNick(user.id, "体验用户");
+    service.users.setTradePassword(user.id, "123456");
+    service.users.setRealName(user.id, "张三丰", "110101199003070011");
+    service.users.setCard(user.id, {"招商银行", "CMB", "7890"});
+    messages::Message news;
+    news.user = user.id;
+    news.source = messages::source::activity;
+    news.title = "新手指南";
+    news.summary = "三分钟学会下单";
+    news.content = "选择一只股票，点一下盘口中的价格，填写数量并确认。买入数量须为100股的整数倍，当天买入的股"
+                   "票下一个交易日才能卖出。";
+    service.messages.add(std::move(news));
+}
+
+} // namespace
+
+struct Sandbox::Parts {
+    Parts(const Options &options, const std::function<void(const std::string &)> &print)
+        : directory(options.dataDir), caFile(options.dataDir / "ca.pem"),
+          certificate(tls::serverIdentity(options.dataDir, tls::Clock::now())),
+          brokerage({directory.database(), options.seed.value_or(1), options.marketHours}, clock),
+          users(directory.database(), realNow),
+          sms(directory.database(), realNow,
+              [print](const identity::Sms &sent) { print("SMS " + sent.cell + ": " + sent.code); }),
+          messages(directory.database(), realNow),
+          orderWatch(brokerage), service{clock,    brokerage, users,      sms,    sessions,
+                                         messages, push,      orderWatch, faults, options.dataDir / "images"},
+          server(certificate, router, faults, options.quiet ? http::Server::Log{} : http::Server::Log{print})
+    {
+        if (users.all().empty())
+            makeDemoUser(service);
+        for (const identity::User &user : users.all())
+            user.cell == demoCell ? brokerage.createDemoAccount(user.id) : brokerage.createAccount(user.id);
+        http::addAccountRoutes(router, service);
+        http::addStockRoutes(router, service);
+        http::addTradingRoutes(router, service);
+        http::addFundRoutes(router, service);
+        http::addHomeRoutes(router, service);
+        http::addMessageRoutes(router, service);
+        http::addSandboxRoutes(router, service);
+        port = server.start(options.host, options.port);
+    }
+    ~Parts()
+    {
+        push.close();
+        server.stop();
+    }
+    Parts(const Parts &) = delete;
+    Parts &operator=(const Parts &) = delete;
+
+    DataDirectory directory;
+    std::filesystem::path caFile;
+    tls::Identity certificate;
+    Clock clock;
+    Brokerage brokerage;
+    identity::Users users;
+    identity::SmsCodes sms;
+    identity::Sessions sessions;
+    messages::Messages messages;
+    messages::PushHub push;
+    http::OrderWatch orderWatch;
+    http::Faults faults;
+    http::Service service;
+    http::Router router;
+    http::Server server;
+    int port = 0;
+    Heartbeat beat{service};
+};
+
+Sandbox::Sandbox(const Options &options, std::function<void(const std::string &)> print)
+{
+    try {
+        m_parts = std::make_unique<Parts>(options, print);
+    } catch (const StoreError &error) {
+        throw StartError((options.dataDir / "sandbox.db").string() + " cannot be used: " + error.what() +
+                         "; move it away or choose another --data-dir");
+    } catch (const std::system_error &error) {
+        throw StartError(std::string(error.what()) + "; choose another folder with --data-dir");
+    }
+}
+
+Sandbox::~Sandbox() = default;
+
+int Sandbox::port() const
+{
+    return m_parts->port;
+}
+
+std::string Sandbox::readyLine() const
+{
+    return "ready https://127.0.0.1:" + std::to_string(m_parts->port) + "/ ca " +
+           std::filesystem::absolute(m_parts->caFile).string();
+}
+
+http::Service &Sandbox::service()
+{
+    return m_parts->service;
+}
+
+} // namespace sandbox

@@ -1,0 +1,42 @@
+#include "http/Call.h"
+
+#include "http/Envelope.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace sandbox::http {
+
+std::string Call::text(std::string_view name, std::size_t longest) const
+{
+    const auto found = fields.find(name);
+    if (found == fields.end())
+        return {};
+    if (characters(found->second) > longest)
+        throw Refusal("输入内容过长");
+    return found->second;
+}
+
+std::string Call::need(std::string_view name, const std::string &title) const
+{
+    std::string value = text(name);
+    const bool blank = std::all_of(value.begin(), value.end(), [](char c) { return c == ' ' || c == '\t'; });
+    if (blank)
+        throw Refusal("请输入" + title);
+    return value;
+}
+
+int Call::number(std::string_view name, int otherwise, int least, int most) const
+{
+    const std::string value = text(name);
+    if (value.empty())
+        return otherwise;
+    int result = 0;
+    const char *end = value.data() + value.size();
+    const auto [rest, error] = std::from_chars(value.data(), end, result);
+    if (error != std::errc() || rest != end)
+        throw Refusal("页码不正确");
+    return std::clamp(result, least, most);
+}
+
+} // namespace sandbox::http

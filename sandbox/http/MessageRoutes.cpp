@@ -1,0 +1,75 @@
+#include "http/Routes.h"
+#include "http/Shapes.h"
+
+#include <charconv>
+
+namespace sandbox::http {
+namespace {
+
+/// On the wire: 1 unread, 2 read, 3 all.
+messages::Show show(const Call &call)
+{
+    switch (call.number("status", 3, 1, 3)) {
+    case 1:
+        return messages::Show::Unread;
+    case 2:
+        return messages::Show::Read;
+    default:
+        return messages::Show::All;
+    }
+}
+
+Json list(Service &service, const Call &call)
+{
+    const identity::User user = signedIn(service, call);
+    const int page = call.number("pageIndex", 1, 1, 100'000);
+    const auto found = service.messages.list(user.id, call.need("source", "消息来源"), show(call), page,
+                                             call.number("pageSize", 20, 1, 100));
+    Json rows = Json::array();
+    for (const messages::Message &message : found.rows)
+        rows.push_back(messageJson(message));
+    return success({{"data", std::move(rows)}, {"hasNext", found.hasNext}, {"page", page}});
+}
+
+Json mark(Service &service, const Call &call)
+{
+    const identity::User user = signedIn(service, call);
+    const std::string text = call.need("msgId", "消息编号");
+    std::int64_t id = 0;
+    const auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), id);
+    if (error != std::errc() || rest != text.data() + text.size() || !service.messages.markRead(user.id, id))
+        throw Refusal("消息不存在");
+    return success();
+}
+
+Json count(Service &service, const Call &call)
+{
+    return success(service.messages.unread(signedIn(service, call).id));
+}
+
+Answer pushStream(Service &service, const Call &call)
+{
+    const auto user = service.users.byToken(call.alias);
+    if (!user)
+        throw BadRequest(401, "请先登录");
+    const auto stream = service.push.open(user->id);
+    if (!stream)
+        throw BadRequest(503, "推送连接过多，请稍后再试");
+    service.orderWatch.begin(user->id);
+    Answer answer;
+    answer.contentType = "application/x-ndjson";
+    answer.stream = [stream] { return stream->next(std::chrono::seconds(1)); };
+    return answer;
+}
+
+} // namespace
+
+void addMessageRoutes(Router &router, Service &service)
+{
+    router.json("GET", "msg/list", [&service](const Call &call) { return list(service, call); });
+    router.json("PUT", "msg/mark", [&service](const Call &call) { return mark(service, call); });
+    router.json("GET", "msg/count", [&service](const Call &call) { return count(service, call); });
+    router.page("GET", "sandbox/push", [&service](const Call &call) { return pushStream(service, call); });
+}
+
+} // namespace sandbox::http
