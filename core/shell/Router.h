@@ -2,11 +2,11 @@
 
 #include "core/util/OwnedAction.h"
 
+#include <QVariantMap>
+
 class KRBaseController;
 class KRNavigationController;
 class QString;
-struct TZEntrustsTodayModel;
-struct TZMessageModel;
 struct TZStockInfoModel;
 struct TZUserIndexModel;
 struct TZWebModel;
@@ -42,7 +42,8 @@ public:
     virtual void openWarning(KRBaseController &from) = 0;
     virtual void openMarginTopUp(KRBaseController &from) = 0;
 
-    /// A pushed message's detail, presented over everything.
-    virtual void presentMessageDetail(const TZMessageModel &model) = 0;
-    virtual void presentOrderDetail(const TZEntrustsTodayModel &model) = 0;
+    /// The detail that a pushed message opens, presented over everything. `information` has the fields of TZMessageModel.
+    virtual void presentMessageDetail(const QVariantMap &information) = 0;
+    /// As above, with the fields of TZEntrustsTodayModel.
+    virtual void presentOrderDetail(const QVariantMap &information) = 0;
 };
