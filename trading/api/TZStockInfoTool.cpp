@@ -1,0 +1,118 @@
+#include "trading/api/TZStockInfoTool.h"
+
+#include "core/net/KRAFHTTPClient.h"
+#include "core/platform/ApplicationInfo.h"
+#include "core/platform/NotificationCenter.h"
+#include "core/platform/Platform.h"
+#include "core/platform/SettingsStore.h"
+#include "core/session/SettingsKeys.h"
+#include "core/util/Service.h"
+#include "core/util/Text.h"
+#include "trading/api/StockTable.h"
+
+namespace {
+std::unique_ptr<StockTable> &openedTable()
+{
+    static std::unique_ptr<StockTable> opened;
+    return opened;
+}
+
+StockTable &table()
+{
+    std::unique_ptr<StockTable> &opened = openedTable();
+    if (!opened) {
+        const QString file =
+            Platform::current().application.documentsDirectory() + QStringLiteral("/stock.sqlite");
+        opened = std::make_unique<StockTable>(
+            file, [] { Platform::current().notifications.post(TZStockInfoTool::stockTableReplaced); });
+    }
+    return *opened;
+}
+
+// Null, unlike "", is what the table refuses.
+QString fieldOf(const QVariantMap &row, const QString &key)
+{
+    const QVariant value = row.value(key);
+    if (!value.isValid() || value.typeId() == QMetaType::Nullptr)
+        return {};
+    const QString text = textForm(value);
+    return text.isNull() ? QStringLiteral("") : text;
+}
+
+// As fromArray, without walking the meta-object: the list has thousands of rows.
+QList<TZStockInfoModel> stocksOf(const QVariantList &data)
+{
+    static const QString c = QStringLiteral("c");
+    static const QString n = QStringLiteral("n");
+    static const QString s = QStringLiteral("s");
+    QList<TZStockInfoModel> stocks;
+    stocks.reserve(data.size());
+    for (const QVariant &element : data) {
+        const QVariantMap row = element.toMap();
+        stocks.append({fieldOf(row, c), fieldOf(row, n), fieldOf(row, s)});
+    }
+    return stocks;
+}
+
+void saveNewList(const QVariantMap &answer)
+{
+    SettingsStore &settings = Platform::current().settings;
+    const QString code = textForm(answer.value(QStringLiteral("code")));
+    if (!code.isEmpty()) {
+        settings.setValue(SettingsKeys::infoVersion, code);
+        settings.synchronize();
+    }
+    const QVariant data = answer.value(QStringLiteral("data"));
+    if (data.typeId() == QMetaType::QVariantList)
+        TZStockInfoTool::saveStockInfo(stocksOf(data.toList()));
+}
+} // namespace
+
+Operation TZStockInfoTool::getStockInfoWithParam(const QVariantMap &, Success success, Failure andError)
+{
+    // A client that was ended between emptying and filling the table has the version of a list that it has
+    // not: it would be told for ever that there is nothing newer.
+    if (tableProblem().isEmpty() && isTableEmpty() && !isSaving())
+        Platform::current().settings.remove(SettingsKeys::infoVersion);
+
+    const QString url = Platform::current().application.apiBaseUrl() + QStringLiteral("info");
+    const auto done = [success](const Operation &operation, const QVariantMap &answer) {
+        if (!boolValue(answer.value(QStringLiteral("success")))) {
+            saveNewList(answer);
+            return;
+        }
+        Service::hideWaitingProgressView();
+        success(operation, answer);
+    };
+    return KRAFHTTPClient::get(url, {}, Success::unowned(done), std::move(andError));
+}
+
+void TZStockInfoTool::saveStockInfo(const QList<TZStockInfoModel> &stocks)
+{
+    table().replace(stocks);
+}
+
+bool TZStockInfoTool::isSaving()
+{
+    return table().isReplacing();
+}
+
+QList<TZStockInfoModel> TZStockInfoTool::queryWithCondition(const QString &condition)
+{
+    return table().query(condition);
+}
+
+bool TZStockInfoTool::isTableEmpty()
+{
+    return table().isEmpty();
+}
+
+QString TZStockInfoTool::tableProblem()
+{
+    return table().problem();
+}
+
+void TZStockInfoTool::close()
+{
+    openedTable().reset();
+}

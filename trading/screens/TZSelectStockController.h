@@ -1,0 +1,99 @@
+#pragma once
+
+#include "core/shell/KRBaseController.h"
+#include "core/util/RowListModel.h"
+#include "trading/api/TZStockInfoModel.h"
+#include "trading/screens/StockChooser.h"
+
+#include <QPointer>
+
+/// A stock as the search shows it: each text in three pieces, the middle one being what was searched for (""
+/// when it is not in that text).
+struct StockRow {
+    Q_GADGET
+    Q_PROPERTY(QStringList code MEMBER code)
+    Q_PROPERTY(QStringList name MEMBER name)
+    Q_PROPERTY(QStringList initials MEMBER initials)
+    /// The row as one sentence for a screen reader.
+    Q_PROPERTY(QString sentence MEMBER sentence)
+public:
+    QStringList code;
+    QStringList name;
+    QStringList initials;
+    QString sentence;
+};
+
+/// The stock search: finds a stock of the local table by code, name or initials as one types, shows the
+/// stocks picked before while nothing is typed, and fetches the list when there is none yet.
+class TZSelectStockController : public KRBaseController {
+    Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
+    Q_PROPERTY(QString placeholder READ placeholder CONSTANT)
+    /// What was found, or the stocks picked before while nothing is typed.
+    Q_PROPERTY(GadgetListModel *rows READ rows CONSTANT)
+    Q_PROPERTY(bool recent READ isRecent NOTIFY shownChanged)
+    /// The panel in the place of an empty list, "" when there are rows or the list is being fetched.
+    Q_PROPERTY(QString notice READ notice NOTIFY shownChanged)
+    Q_PROPERTY(QString noticeDetail READ noticeDetail NOTIFY shownChanged)
+    Q_PROPERTY(bool canRetry READ canRetry NOTIFY shownChanged)
+    /// Below a list that was cut, otherwise "".
+    Q_PROPERTY(QString footnote READ footnote NOTIFY shownChanged)
+    /// The row that Enter picks; -1 for none.
+    Q_PROPERTY(int currentRow READ currentRow NOTIFY currentRowChanged)
+public:
+    /// The settings key of the stocks picked before, the latest first: a list of dictionaries with "c", "n",
+    /// "s".
+    static inline const QString recentStocksKey = QStringLiteral("recentStocks");
+    static constexpr int maximumRecent = 10;
+    static constexpr int maximumShown = 200;
+
+    /// `delegate` lives as long as `owner`.
+    TZSelectStockController(const QObject *owner, StockChooser *delegate);
+
+    QString text() const { return searchText; }
+    void setText(const QString &text);
+    QString placeholder() const;
+    GadgetListModel *rows() { return &shownRows; }
+    bool isRecent() const;
+    QString notice() const;
+    QString noticeDetail() const;
+    bool canRetry() const;
+    QString footnote() const;
+    int currentRow() const { return selected; }
+
+    Q_INVOKABLE void clearText();
+    Q_INVOKABLE void clearRecent();
+    /// Up or down by `step` rows, staying inside the list.
+    Q_INVOKABLE void moveCurrentRow(int step);
+    Q_INVOKABLE void pickCurrentRow();
+    /// Hands the stock to the delegate and leaves.
+    Q_INVOKABLE void pick(int row);
+    /// Fetches the stock list again after it could not be had.
+    Q_INVOKABLE void retry();
+
+    void viewDidLoad() override;
+
+Q_SIGNALS:
+    void textChanged();
+    void shownChanged();
+    void currentRowChanged();
+
+private:
+    /// Whether there is a list to search in, and if not, why.
+    enum class ListState { Ready, Fetching, Failed, Offline, Missing, Unusable };
+
+    void fetchIfEmpty();
+    void readListState();
+    void refresh();
+    void setCurrentRow(int row);
+    void remember(const TZStockInfoModel &stock);
+
+    QPointer<const QObject> owner;
+    StockChooser *delegate;
+    QString searchText;
+    QList<TZStockInfoModel> stocks;
+    RowListModel<StockRow> shownRows;
+    ListState listState = ListState::Ready;
+    bool cut = false;
+    int selected = -1;
+};

@@ -1,0 +1,8 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zorvane.Ui
+
+PageFrame {
+    id: page
+}
