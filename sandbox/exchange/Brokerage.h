@@ -1,6 +1,8 @@
 #pragma once
 
-#include "exchange/Order.h"
+#include "exchange/Outcome.h"
+#include "ledger/Holding.h"
+#include "ledger/Order.h"
 #include "market/Clock.h"
 #include "market/Quote.h"
 #include "market/StockList.h"
@@ -11,88 +13,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <variant>
 #include <vector>
 
 namespace sandbox {
-
-/** The rule that refused a request. */
-enum class Rule {
-    Account, ///< the user has no account here
-    UnknownStock,
-    Suspended,
-    Session,      ///< not a time at which orders are taken
-    Quantity,     ///< not a number of shares, or more than one order may carry
-    Lot,          ///< not a multiple of 100 (or below the board's minimum)
-    OddRemainder, ///< an odd remainder is sold whole
-    Price,        ///< not a price
-    Tick,         ///< not on a cent
-    Limit,        ///< outside the day's limits
-    Cash,         ///< not enough money, fees included
-    Position,     ///< not enough sellable shares
-    UnknownOrder,
-    NotOpen,     ///< the order is filled or cancelled already
-    CancelWindow ///< cancels are not taken at this time
-};
-
-/** A request that was refused: the books did not change. The message is in Chinese, for the user. */
-struct Refusal {
-    Rule rule;
-    std::string message;
-};
-
-/** Either what was asked for or why not. */
-template <typename Value> using Outcome = std::variant<Value, Refusal>;
-
-/** An order as the user typed it; the texts are checked here, so every refusal has one home. */
-struct OrderRequest {
-    UserId user = 0;
-    Side side = Side::Buy;
-    std::string stockCode;
-    std::string price; ///< yuan
-    std::string shares;
-};
-
-/** One holding with its figures. Money in cents, rates as text. accumulatedProfit = profit + what past sales
- * made. */
-struct Holding {
-    std::int64_t id = 0;
-    UserId user = 0;
-    std::string stockCode;
-    std::string stockName;
-    Shares shares = 0;
-    Shares availableShares = 0; ///< sellable now: not bought today, not in an open sell order
-    Cents cost = 0;             ///< of the shares still held, buying fees included
-    Cents currentPrice = 0;
-    Cents totalValue = 0;           ///< currentPrice x shares
-    Cents profit = 0;               ///< totalValue - cost
-    std::string costPerShare;       ///< cost / shares, yuan, three decimals
-    std::string profitCostPerShare; ///< price at which the whole holding comes out even, past sales counted;
-                                    ///< three decimals
-    std::string profitRate;         ///< profit / cost in percent, two decimals, no sign for gains: "5.25"
-    std::string profitRatio;        ///< profit / cost, four decimals: "0.0525"
-    Cents accumulatedBuyCost = 0;   ///< all buys since the holding was opened, fees included
-    Shares accumulatedBuyShares = 0;
-    Cents accumulatedSellIncome = 0; ///< all sells, fees taken off
-    Shares accumulatedSellShares = 0;
-    Cents accumulatedProfit = 0;
-    bool closeTrading = false; ///< the stock is suspended
-    std::int64_t version = 0;  ///< counts the changes
-    Millis createdAt = 0;
-    Millis updatedAt = 0;
-};
-
-/** A user's account at one moment. totalMoney = available + frozen; totalAsset = totalMoney + stockValue. */
-struct AccountSummary {
-    Cents available = 0;
-    Cents frozen = 0;
-    Cents withdrawable = 0; ///< available without the proceeds of today's sales
-    Cents stockValue = 0;
-    Cents totalMoney = 0;
-    Cents totalAsset = 0;
-    Cents profit = 0;       ///< sum over the holdings
-    std::string profitRate; ///< profit / cost of the holdings in percent, two decimals
-};
 
 /** How a cancel request stands. */
 enum class CancelProgress {
@@ -144,8 +67,8 @@ public:
     /** Puts shares into an account, sellable at once, at the given cost of all of them. */
     Outcome<Shares> grantShares(UserId user, const std::string &stockCode, Shares shares, Cents cost);
     /**
-     * Makes the account of a new demo user: 200,000 yuan, four holdings sellable at once (one with an odd
-     * remainder), one deal and one cancelled entrust of today. Nothing happens when the user has an account.
+     * Makes the account of a new demo user: 200,000 yuan and four holdings sellable at once, one with an odd
+     * remainder. Nothing happens when the user has an account.
      */
     void createDemoAccount(UserId user);
 

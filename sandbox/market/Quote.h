@@ -8,6 +8,9 @@
 
 namespace sandbox {
 
+/** On the wire: 1 buy, 2 sell. As a side of the book: buyers' or sellers' levels. */
+enum class Side { Buy = 1, Sell = 2 };
+
 /** One line of the order book. Price 0 stands for no level. */
 struct Level {
     Cents price = 0;

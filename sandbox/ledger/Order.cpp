@@ -1,4 +1,4 @@
-#include "exchange/Order.h"
+#include "ledger/Order.h"
 
 namespace sandbox {
 

@@ -1,13 +1,11 @@
 #pragma once
 
+#include "market/Quote.h"
 #include "market/Units.h"
 
 #include <string>
 
 namespace sandbox {
-
-/** On the wire: 1 buy, 2 sell. */
-enum class Side { Buy = 1, Sell = 2 };
 
 /** The wire's codes 0 to 9. */
 enum class OrderStatus {
