@@ -1,7 +1,9 @@
 #include "Sandbox.h"
 
+#include "console/Console.h"
 #include "http/Routes.h"
 #include "http/Shapes.h"
+#include "pages/Pages.h"
 
 #include <condition_variable>
 #include <fcntl.h>
@@ -130,6 +132,8 @@ struct Sandbox::Parts {
         http::addHomeRoutes(router, service);
         http::addMessageRoutes(router, service);
         http::addSandboxRoutes(router, service);
+        console::addConsole(router, service);
+        pages::addPages(router);
         port = server.start(options.host, options.port);
     }
     ~Parts()

@@ -43,7 +43,7 @@ struct Answer {
     int status = 200;
     std::string contentType = "application/json; charset=utf-8";
     std::string body;
-    std::string location; ///< header "Location" when not empty
+    std::map<std::string, std::string> headers;
     /// Waits at most a second; empty text: nothing to send yet; nothing: the end.
     std::function<std::optional<std::string>()> stream;
 };

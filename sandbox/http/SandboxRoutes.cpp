@@ -1,3 +1,4 @@
+#include "http/FaultForm.h"
 #include "http/Local.h"
 #include "http/Routes.h"
 #include "http/Shapes.h"
@@ -70,30 +71,6 @@ Json state(const Router &router, Service &service)
          {"users", std::move(users)}});
 }
 
-Json addFault(Service &service, const Call &call)
-{
-    const std::string kind = call.need("kind", "kind");
-    if (kind == "clear") {
-        service.faults.clear();
-        return success();
-    }
-    const auto found = faultKind(kind);
-    if (!found)
-        throw Refusal(
-            "unknown kind; one of clear, delay, drop-before, drop-after, status, garbage, content-type, "
-            "truncate, refuse, duplicate-push");
-    Fault fault;
-    fault.kind = *found;
-    fault.path = fault.kind == FaultKind::DuplicatePush ? "sandbox/push" : call.need("path", "path");
-    fault.count = call.number("count", 1, 1, 1'000'000);
-    fault.delay = std::chrono::milliseconds(call.number("delay", 0, 0, 600'000));
-    fault.status = call.number("status", 500, 200, 599);
-    if (const std::string message = call.text("message"); !message.empty())
-        fault.message = message;
-    service.faults.add(std::move(fault));
-    return success();
-}
-
 } // namespace
 
 void addSandboxRoutes(Router &router, Service &service)
@@ -104,7 +81,8 @@ void addSandboxRoutes(Router &router, Service &service)
     });
     router.json("POST", "sandbox/fault", [&service](const Call &call) {
         requireOwnPage(call);
-        return addFault(service, call);
+        applyFaultForm(service.faults, call);
+        return success();
     });
 }
 

@@ -258,8 +258,8 @@ void Server::write(const httplib::Request &request, Answer answer, httplib::Resp
     response.status = answer.status;
     response.set_header("Cache-Control", "no-store");
     response.set_header("X-Content-Type-Options", "nosniff");
-    if (!answer.location.empty())
-        response.set_header("Location", answer.location);
+    for (const auto &[name, value] : answer.headers)
+        response.set_header(name, value);
     if (!answer.stream) {
         response.set_content(std::move(answer.body), answer.contentType);
         return;
