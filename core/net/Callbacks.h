@@ -5,13 +5,12 @@
 #include <QObject>
 #include <QPointer>
 #include <QVariantMap>
-
 #include <functional>
 #include <memory>
 #include <optional>
 
-/// One request on its way. `finished` is emitted once, after the callbacks, whatever came of it: also when the tool calls
-/// neither of them.
+/// One request on its way. `finished` is emitted once, after the callbacks, whatever came of it: also when
+/// the tool calls neither of them.
 class RequestOperation : public QObject {
     Q_OBJECT
 public:
@@ -25,8 +24,8 @@ Q_SIGNALS:
 /// Null where no request was sent: an answer from the stored copy, an unknown method.
 using Operation = std::shared_ptr<RequestOperation>;
 
-/// A request without a decoded answer: `failure` when there was no response, otherwise the status of one that could not be
-/// used.
+/// A request without a decoded answer: `failure` when there was no response, otherwise the status of one that
+/// could not be used.
 struct RequestError {
     std::optional<HttpFailure> failure;
     int status = 0;

@@ -2,8 +2,8 @@
 
 #include "core/net/KRAFHTTPClient.h"
 
-/// The account endpoints. Each shows the waiting indicator before it sends. "Gated" calls the success callback only for an
-/// answer whose "success" is true, "always" for every answer.
+/// The account endpoints. Each shows the waiting indicator before it sends. "Gated" calls the success
+/// callback only for an answer whose "success" is true, "always" for every answer.
 class TZUserTool {
 public:
     TZUserTool() = delete;
@@ -13,8 +13,9 @@ public:
     static Operation checkCellWithCell(const QString &cell, Success success, Failure andError);
     /// Gated; signs the user in. Keys: "bizCode", "userInput", at registration "inviteCode".
     static Operation verifyCodeWithParam(const QVariantMap &param, Success success, Failure andError);
-    static Operation uploadPhotoWithParam(const QVariantMap &param, const ConstructBody &constructingBodyWithBlock,
-                                          Success success, Failure andError);
+    static Operation uploadPhotoWithParam(const QVariantMap &param,
+                                          const ConstructBody &constructingBodyWithBlock, Success success,
+                                          Failure andError);
     /// Gated; stores the "nick" that was sent. Keys: "nick".
     static Operation setNickWithParam(const QVariantMap &param, Success success, Failure andError);
     /// Always; afterwards stores the answer's "name", also of a refusal. Keys: "realName", "idCard".
@@ -28,15 +29,19 @@ public:
     static Operation setTradePwdWithParam(const QVariantMap &param, Success success, Failure andError);
     static Operation updatePwdToSendSMSWithParam(const QVariantMap &param, Success success, Failure andError);
     /// Gated. Keys: "bizCode", "userInput".
-    static Operation updatePwdToVerifyCodeWithParam(const QVariantMap &param, Success success, Failure andError);
+    static Operation updatePwdToVerifyCodeWithParam(const QVariantMap &param, Success success,
+                                                    Failure andError);
     /// Gated. Keys: "idCard".
-    static Operation updatePwdToVerifyIDWithParam(const QVariantMap &param, Success success, Failure andError);
+    static Operation updatePwdToVerifyIDWithParam(const QVariantMap &param, Success success,
+                                                  Failure andError);
     /// Gated. Keys: those collected by the reset, and "password".
     static Operation updatePwdWithParam(const QVariantMap &param, Success success, Failure andError);
     static Operation canUpdataPasswordWithParam(const QVariantMap &param, Success success, Failure andError);
     /// Gated. Keys: "page".
     static Operation getWalletRecordsWithParam(const QVariantMap &param, Success success, Failure andError);
-    /// Gated; without a network answers from the stored copy, if there is one, with no operation. Keys: "page".
+    /// Gated; without a network answers from the stored copy, if there is one, with no operation. Keys:
+    /// "page".
     static Operation getCommissionsWithParam(const QVariantMap &param, Success success, Failure andError);
-    static Operation getCommissionsDetailsWithParam(const QVariantMap &param, Success success, Failure andError);
+    static Operation getCommissionsDetailsWithParam(const QVariantMap &param, Success success,
+                                                    Failure andError);
 };

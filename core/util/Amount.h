@@ -3,8 +3,8 @@
 #include <QString>
 #include <QVariant>
 
-/// Money as the display types write it; an empty text stays empty. Kept on purpose: buttons cut to the cent in single
-/// precision, labels round in double precision.
+/// Money as the display types write it; an empty text stays empty. Kept on purpose: buttons cut to the cent
+/// in single precision, labels round in double precision.
 QString buttonAmount(const QVariant &amount);
 QString buttonAmountWithYuan(const QVariant &amount);
 QString labelAmount(const QVariant &amount);

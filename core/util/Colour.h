@@ -11,4 +11,10 @@ struct Colour {
     bool operator==(const Colour &) const = default;
 };
 
+/// Six hexadecimal digits, "0x" and "#" before them allowed; the clear colour for anything else.
 Colour colorWithHexString(const QString &text, double alpha = 1);
+
+inline Colour KRColor_hexValue(const QString &text)
+{
+    return colorWithHexString(text);
+}

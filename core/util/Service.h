@@ -3,7 +3,8 @@
 #include <QString>
 #include <QVariant>
 
-/// Helpers of every screen and tool. Characters are UTF-16 units. Nothing here talks to the server, nothing here fails.
+/// Helpers of every screen and tool. Characters are UTF-16 units. Nothing here talks to the server, nothing
+/// here fails.
 class Service {
 public:
     Service() = delete;

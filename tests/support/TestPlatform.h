@@ -16,14 +16,13 @@
 #include "core/shell/OverlayHost.h"
 
 #include <QTemporaryDir>
-
 #include <gtest/gtest.h>
-
 #include <list>
 
 /// Time that passes only when told.
 class ManualRunLoop : public RunLoop {
 public:
+    ~ManualRunLoop() override;
     qint64 now() const override { return time; }
     std::unique_ptr<RunLoopTimer> start(std::chrono::milliseconds interval, Repeat repeat,
                                         std::function<void()> fire) override;
@@ -34,10 +33,8 @@ public:
     qint64 time = 1'700'000'000'000;
 
 private:
-    struct Entry;
     struct Handle;
-    std::list<Entry *> timers;
-    long long started = 0;
+    std::list<Handle *> timers;
 };
 
 /// A transport that records what is sent and answers when told, in any order.
@@ -86,15 +83,20 @@ public:
 
 class FakeReachability : public Reachability {
 public:
-    void start(std::function<void(NetworkStatus)> report) override { changed = std::move(report); }
+    void start(std::function<void(NetworkStatus)> report) override;
     NetworkStatus currentStatus() const override { return status; }
     void change(NetworkStatus now);
 
     NetworkStatus status = NetworkStatus::ReachableViaWiFi;
+    int starts = 0;
+
+private:
     std::function<void(NetworkStatus)> changed;
 };
 
-/// Stands for the outside kits, the pasteboard and the URL opener: writes down each call as one line.
+/// Stands for the outside kits, the pasteboard and the URL opener: writes down each call as one line, the
+/// function's name and its texts: "setAlias t0ken api_token". The three kinds of `start` read "startPush
+/// KEY", "startKit KEY" (share and feedback) and "startAnalytics KEY POLICY CHANNEL".
 class RecordingKits : public PushService,
                       public Pasteboard,
                       public UrlOpener,
@@ -108,7 +110,10 @@ public:
     void registerDeviceToken(const QByteArray &token) override;
     void setAlias(const QString &alias, const QString &type) override;
     void didReceiveRemoteNotification(const QVariantMap &payload) override;
-    void onRemoteNotification(std::function<void(const QVariantMap &)> receive) override { push = std::move(receive); }
+    void onRemoteNotification(std::function<void(const QVariantMap &)> receive) override
+    {
+        push = std::move(receive);
+    }
 
     void setText(const QString &text) override;
     void open(const QString &url) override;
@@ -163,10 +168,6 @@ protected:
     RecordingKits kits;
     FakeApplication application;
     NotificationCenter notifications;
-
-private:
-
-protected:
     OverlayHost overlays;
 
 private:

@@ -1,0 +1,69 @@
+#include "core/net/ToolPolicy.h"
+
+#include "core/platform/ApplicationInfo.h"
+#include "core/platform/Platform.h"
+#include "core/platform/SettingsStore.h"
+#include "core/session/TZUserModel.h"
+#include "core/util/Service.h"
+#include "core/util/Text.h"
+
+QString ToolPolicy::url(const QString &path)
+{
+    return Platform::current().application.apiBaseUrl() + path;
+}
+
+bool ToolPolicy::succeeded(const QVariantMap &answer)
+{
+    return boolValue(answer.value(QStringLiteral("success")));
+}
+
+Success ToolPolicy::gated(Success success, Indicator indicator)
+{
+    return Success::unowned(
+        [success = std::move(success), indicator](const Operation &operation, const QVariantMap &answer) {
+            if (!succeeded(answer))
+                return;
+            if (indicator == Indicator::Hide)
+                Service::hideWaitingProgressView();
+            success(operation, answer);
+        });
+}
+
+Success ToolPolicy::passed(Success success)
+{
+    return Success::unowned(
+        [success = std::move(success)](const Operation &operation, const QVariantMap &answer) {
+            Service::hideWaitingProgressView();
+            success(operation, answer);
+        });
+}
+
+Success ToolPolicy::cached(const QString &key, Success success, Hand hand)
+{
+    const QString token = TZUserModel::stored().api_token;
+    return gated(Success::unowned([key, token, hand, success = std::move(success)](
+                                      const Operation &operation, const QVariantMap &answer) {
+        if (!token.isEmpty() && token != TZUserModel::stored().api_token)
+            return;
+        SettingsStore &settings = Platform::current().settings;
+        const QVariantMap cleaned = Service::processDictionaryIsNSNull(answer).toMap();
+        settings.setValue(key, cleaned);
+        settings.synchronize();
+        success(operation, hand == Hand::Cleaned ? cleaned : answer);
+    }));
+}
+
+QVariantMap ToolPolicy::stored(const QString &key)
+{
+    return Platform::current().settings.value(key).toMap();
+}
+
+bool ToolPolicy::answersOffline(const QString &key, const Success &success)
+{
+    if (Service::isConnectionAvailable())
+        return false;
+    const QVariantMap copy = stored(key);
+    if (!copy.isEmpty())
+        success(nullptr, copy);
+    return true;
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "core/net/Callbacks.h"
+
+/// What the tools of every area do around `KRAFHTTPClient` in the same way. A tool's function reads:
+///
+///     if (ToolPolicy::answersOffline(key, success))
+///         return nullptr;
+///     Service::showWaitingProgressView();
+///     return KRAFHTTPClient::get(ToolPolicy::url("holding"), param, ToolPolicy::cached(key, success),
+///     andError);
+///
+/// A failure goes to the caller as it is. An operation that hands on every answer untouched passes its
+/// callback straight to the client.
+namespace ToolPolicy {
+
+/// The API base URL followed by `path`, which is not escaped.
+QString url(const QString &path);
+
+/// The answer's "success" as a boolean; absent is false.
+bool succeeded(const QVariantMap &answer);
+
+enum class Indicator { Hide, Keep };
+enum class Hand { AsReceived, Cleaned };
+
+/// Calls `success` only for an answer whose "success" is true; the indicator is hidden first unless it is to
+/// be kept.
+Success gated(Success success, Indicator indicator = Indicator::Hide);
+
+/// Calls `success` for every answer, the indicator hidden first.
+Success passed(Success success);
+
+/// As `gated`, and stores the answer under `key` without its nulls before handing it on. An answer to a user
+/// who has signed out since the call is dropped.
+Success cached(const QString &key, Success success, Hand hand = Hand::AsReceived);
+
+/// The copy that `cached` stored; empty when there is none.
+QVariantMap stored(const QString &key);
+
+/// False with a network. Without one: "网络异常" is shown, the stored copy goes to `success` with a null
+/// operation if there is one, and the tool sends nothing.
+bool answersOffline(const QString &key, const Success &success);
+
+} // namespace ToolPolicy
