@@ -1,0 +1,71 @@
+#include "account/screens/TZCheckCellController.h"
+
+#include "account/screens/TZLoginController.h"
+#include "account/screens/TZRegisterController.h"
+#include "core/net/ToolPolicy.h"
+#include "core/session/TZUserTool.h"
+#include "core/shell/KRNavigationController.h"
+#include "core/util/Service.h"
+#include "core/util/Text.h"
+
+TZCheckCellController::TZCheckCellController(Router &appRouter) : router(appRouter) {}
+
+void TZCheckCellController::setCell(const QString &cell)
+{
+    number = cell;
+    Q_EMIT cellChanged();
+}
+
+bool TZCheckCellController::nextStepLit() const
+{
+    return Service::determineThePhoneNumberFormat(number);
+}
+
+void TZCheckCellController::viewDidLoad()
+{
+    TZSignInController::viewDidLoad();
+    setTitle(QStringLiteral("手机登录"));
+    createNavLeftItemWithTitle({}, QStringLiteral("common_close_gray"), {}, {});
+}
+
+void TZCheckCellController::leftItemClick()
+{
+    closeSignIn();
+}
+
+void TZCheckCellController::clickNextStepBtn()
+{
+    if (sending)
+        return;
+    if (Service::whetherAnEmptyString(number))
+        return Service::showErrorWithMsg(QStringLiteral("请输入手机号"));
+    if (!Service::determineThePhoneNumberFormat(number))
+        return Service::showErrorWithMsg(QStringLiteral("手机号格式不正确，请重新输入"));
+    endEditing();
+    sending = true;
+    const Operation start = TZUserTool::checkCellWithCell(
+        number, Success{this, [this](const Operation &, const QVariantMap &answer) { openNextStep(answer); }},
+        Failure{});
+    connect(start.get(), &RequestOperation::finished, this, [this] { sending = false; });
+}
+
+void TZCheckCellController::openNextStep(const QVariantMap &answer)
+{
+    // The message of a refusal is on the screen already.
+    if (!ToolPolicy::succeeded(answer))
+        return;
+    const QString bizCode = TZSmsCodeController::bizCodeOf(answer);
+    std::unique_ptr<TZSmsCodeController> next;
+    if (bizCode == u"1001")
+        next = std::make_unique<TZRegisterController>(router);
+    else if (bizCode == u"1002")
+        next = std::make_unique<TZLoginController>();
+    if (!next) {
+        if (Service::whetherAnEmptyString(answer.value(QStringLiteral("message"))))
+            Service::showErrorWithMsg(QStringLiteral("交易码异常"));
+        return;
+    }
+    next->requestData = {{QStringLiteral("bizCode"), bizCode}, {QStringLiteral("cell"), number}};
+    next->setToSomeController(toSomeController);
+    navigationController()->push(std::move(next));
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "account/screens/TZSignInController.h"
+
+#include <QVariantMap>
+
+/// The sign-in entry: takes the mobile number and has a code sent to it; the answer says whether login or
+/// registration follows.
+class TZCheckCellController : public TZSignInController {
+    Q_OBJECT
+    Q_PROPERTY(QString cell READ cell WRITE setCell NOTIFY cellChanged)
+    Q_PROPERTY(bool nextStepLit READ nextStepLit NOTIFY cellChanged)
+public:
+    explicit TZCheckCellController(Router &router);
+
+    QString cell() const { return number; }
+    void setCell(const QString &cell);
+    bool nextStepLit() const;
+
+    void viewDidLoad() override;
+    void leftItemClick() override;
+    void backButtonClicked() override { leftItemClick(); }
+    Q_INVOKABLE void clickNextStepBtn();
+
+Q_SIGNALS:
+    void cellChanged();
+
+private:
+    void openNextStep(const QVariantMap &answer);
+
+    Router &router;
+    QString number;
+    bool sending = false;
+};

@@ -1,0 +1,13 @@
+#include "account/screens/TZLoginController.h"
+
+void TZLoginController::viewDidLoad()
+{
+    TZSmsCodeController::viewDidLoad();
+    setTitle(QStringLiteral("登录"));
+}
+
+void TZLoginController::clickNextStepBtn()
+{
+    if (checkInput())
+        verify({}, [this] { finishSignIn(); });
+}

@@ -1,0 +1,13 @@
+#include "home/screens/TZBoardcastCell.h"
+
+#include "core/util/Amount.h"
+#include "core/util/Service.h"
+
+TZBoardcastCell TZBoardcastCell::of(const TZRecentLoansModel &loan)
+{
+    const auto orEmpty = [](const QString &text) {
+        return Service::whetherAnEmptyString(text) ? QString() : text;
+    };
+    return {QStringLiteral("%1申请操盘资金%2")
+                .arg(orEmpty(loan.nick), labelAmountWithYuan(orEmpty(loan.borrowMoney)))};
+}
