@@ -1,6 +1,7 @@
 #include "trading/api/TZStockInfoTool.h"
 
 #include "core/net/KRAFHTTPClient.h"
+#include "core/net/ToolPolicy.h"
 #include "core/platform/ApplicationInfo.h"
 #include "core/platform/NotificationCenter.h"
 #include "core/platform/Platform.h"
@@ -33,7 +34,7 @@ StockTable &table()
 QString fieldOf(const QVariantMap &row, const QString &key)
 {
     const QVariant value = row.value(key);
-    if (!value.isValid() || value.typeId() == QMetaType::Nullptr)
+    if (!value.isValid() || isNullMarker(value))
         return {};
     const QString text = textForm(value);
     return text.isNull() ? QStringLiteral("") : text;
@@ -75,16 +76,16 @@ Operation TZStockInfoTool::getStockInfoWithParam(const QVariantMap &, Success su
     if (tableProblem().isEmpty() && isTableEmpty() && !isSaving())
         Platform::current().settings.remove(SettingsKeys::infoVersion);
 
-    const QString url = Platform::current().application.apiBaseUrl() + QStringLiteral("info");
     const auto done = [success](const Operation &operation, const QVariantMap &answer) {
-        if (!boolValue(answer.value(QStringLiteral("success")))) {
+        if (!ToolPolicy::succeeded(answer)) {
             saveNewList(answer);
             return;
         }
         Service::hideWaitingProgressView();
         success(operation, answer);
     };
-    return KRAFHTTPClient::get(url, {}, Success::unowned(done), std::move(andError));
+    return KRAFHTTPClient::get(ToolPolicy::url(QStringLiteral("info")), {}, Success::unowned(done),
+                               std::move(andError));
 }
 
 void TZStockInfoTool::saveStockInfo(const QList<TZStockInfoModel> &stocks)
