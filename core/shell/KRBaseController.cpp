@@ -51,6 +51,14 @@ void KRBaseController::createNavLeftItemWithTitle(const QString &title, const QS
     Q_EMIT barChanged();
 }
 
+void KRBaseController::loadViewIfNeeded()
+{
+    if (loaded)
+        return;
+    loaded = true;
+    viewDidLoad();
+}
+
 void KRBaseController::viewDidLoad()
 {
     setIsNeedGesture(true);
@@ -71,13 +79,17 @@ void KRBaseController::viewWillDisappear()
 
 void KRBaseController::backButtonClicked()
 {
-    if (navigation)
-        navigation->pop();
+    popFromStack();
 }
 
 void KRBaseController::leftItemClick()
 {
-    if (navigation)
+    popFromStack();
+}
+
+void KRBaseController::popFromStack()
+{
+    if (navigation && navigation->top() == this)
         navigation->pop();
 }
 

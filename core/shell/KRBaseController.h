@@ -44,13 +44,16 @@ public:
     void createNavLeftItemWithTitle(const QString &title, const QString &andImage, const QString &andRightWithTitle,
                                     const QString &andRightImage);
 
-    /// Called by the navigation stack in this order. Overrides call the base first.
+    /// Called by what shows the screen, in this order: `viewDidLoad` once, before the screen is first seen and with its
+    /// `window()` known; the others in pairs, `will` and `did`, appearing and disappearing in turn. Overrides call the base
+    /// first.
     virtual void viewDidLoad();
     virtual void viewWillAppear();
     virtual void viewDidAppear() {}
     virtual void viewWillDisappear();
     virtual void viewDidDisappear() {}
 
+    /// Both pop the stack while this screen is on top of it: a second tap on a bar that is already leaving does nothing.
     Q_INVOKABLE virtual void backButtonClicked();
     Q_INVOKABLE virtual void leftItemClick();
     Q_INVOKABLE virtual void rightItemClick() {}
@@ -62,6 +65,8 @@ public:
     KRWindow *window() const;
     /// Called by what shows the screen outside a stack: the guide, the left menu.
     void attach(KRWindow *window) { hostWindow = window; }
+    /// Runs `viewDidLoad` unless it has run.
+    void loadViewIfNeeded();
 
 Q_SIGNALS:
     void titleChanged();
@@ -78,6 +83,8 @@ protected:
 
 private:
     friend class KRNavigationController;
+    void popFromStack();
+
     KRNavigationController *navigation = nullptr;
     KRWindow *hostWindow = nullptr;
     QString titleText;
@@ -88,5 +95,6 @@ private:
     QString rightImage;
     bool backButton = false;
     bool gesture = false;
+    bool loaded = false;
     Background backgroundColour = Background::Blue;
 };

@@ -4,39 +4,36 @@
 #include "core/shell/KRWindow.h"
 
 #include <algorithm>
+#include <utility>
 
 KRNavigationController::KRNavigationController(std::unique_ptr<KRBaseController> root)
 {
-    push(std::move(root));
+    append(root.release());
 }
 
 KRNavigationController::~KRNavigationController()
 {
-    for (const Entry &entry : entries)
-        delete entry.screen;
+    // Also those that are popped and wait to be deleted: a screen may still ask for its stack while it goes.
+    qDeleteAll(findChildren<KRBaseController *>(Qt::FindDirectChildrenOnly));
 }
 
 void KRNavigationController::push(std::unique_ptr<KRBaseController> screen)
 {
-    KRBaseController *const below = depth() > 0 ? top() : nullptr;
-    KRBaseController *const added = screen.release();
-    added->setParent(this);
-    added->navigation = this;
-    // What plays the screens' movements finds a screen that was popped below the one that is pushed now.
-    added->viewDidLoad();
-    if (visible && below)
-        below->viewWillDisappear();
-    if (visible)
-        added->viewWillAppear();
+    screen->navigation = this;
+    screen->loadViewIfNeeded();
+    append(screen.release());
+    tellScreens();
+}
+
+void KRNavigationController::append(KRBaseController *screen)
+{
+    screen->setParent(this);
+    screen->navigation = this;
     const int row = rowCount();
     beginInsertRows({}, row, row);
-    entries.push_back({added, false});
+    entries.push_back({screen, false});
     endInsertRows();
     Q_EMIT depthChanged();
-    if (visible && below)
-        below->viewDidDisappear();
-    if (visible)
-        added->viewDidAppear();
 }
 
 void KRNavigationController::pop()
@@ -52,30 +49,22 @@ void KRNavigationController::popToRoot()
 
 void KRNavigationController::popTo(KRBaseController *screen)
 {
-    KRBaseController *const shown = top();
-    if (shown == screen || rowOf(screen) < 0)
+    const int target = rowOf(screen);
+    if (target < 0 || entries[static_cast<size_t>(target)].leaving || screen == top())
         return;
-    if (visible) {
-        shown->viewWillDisappear();
-        screen->viewWillAppear();
-    }
-    std::vector<KRBaseController *> left;
-    for (int row = rowOf(screen) + 1; row < rowCount(); ++row) {
-        if (!entries[static_cast<size_t>(row)].leaving)
-            left.push_back(entries[static_cast<size_t>(row)].screen);
-    }
     // Only the one on top is seen leaving; those between go at once.
-    for (KRBaseController *const gone : left) {
-        if (animated && gone == shown)
-            leave(gone);
+    KRBaseController *const seen = animated && visible ? top() : nullptr;
+    for (int row = rowCount() - 1; row > target; --row) {
+        const Entry &entry = entries[static_cast<size_t>(row)];
+        if (entry.leaving)
+            continue;
+        if (entry.screen == seen)
+            leave(row);
         else
-            removeRow(rowOf(gone));
+            removeRow(row);
     }
     Q_EMIT depthChanged();
-    if (visible) {
-        shown->viewDidDisappear();
-        screen->viewDidAppear();
-    }
+    tellScreens();
 }
 
 int KRNavigationController::depth() const
@@ -97,20 +86,41 @@ KRBaseController *KRNavigationController::top() const
     return at(depth() - 1);
 }
 
+void KRNavigationController::attach(KRWindow *window)
+{
+    hostWindow = window;
+    root()->loadViewIfNeeded();
+}
+
 void KRNavigationController::setVisible(bool nowVisible)
 {
-    if (visible == nowVisible)
+    visible = nowVisible;
+    if (visible)
+        root()->loadViewIfNeeded();
+    tellScreens();
+    if (!visible)
+        removeLeaving();
+}
+
+void KRNavigationController::tellScreens()
+{
+    if (telling)
         return;
-    KRBaseController *const shown = top();
-    if (nowVisible) {
-        shown->viewWillAppear();
-        visible = true;
-        shown->viewDidAppear();
-    } else {
-        shown->viewWillDisappear();
-        visible = false;
-        shown->viewDidDisappear();
+    telling = true;
+    const auto wanted = [this] { return visible ? top() : nullptr; };
+    while (appeared != wanted()) {
+        KRBaseController *const next = wanted();
+        KRBaseController *const old = std::exchange(appeared, next);
+        if (old)
+            old->viewWillDisappear();
+        if (next)
+            next->viewWillAppear();
+        if (old)
+            old->viewDidDisappear();
+        if (next)
+            next->viewDidAppear();
     }
+    telling = false;
 }
 
 void KRNavigationController::dismiss()
@@ -152,9 +162,8 @@ int KRNavigationController::rowOf(const QObject *screen) const
     return found == entries.end() ? -1 : static_cast<int>(found - entries.begin());
 }
 
-void KRNavigationController::leave(KRBaseController *screen)
+void KRNavigationController::leave(int row)
 {
-    const int row = rowOf(screen);
     entries[static_cast<size_t>(row)].leaving = true;
     Q_EMIT dataChanged(index(row), index(row), {LeavingRole});
 }
@@ -167,4 +176,12 @@ void KRNavigationController::removeRow(int row)
     endRemoveRows();
     // Later: the call that pops a screen usually comes from that screen.
     screen->deleteLater();
+}
+
+void KRNavigationController::removeLeaving()
+{
+    for (int row = rowCount() - 1; row >= 0; --row) {
+        if (entries[static_cast<size_t>(row)].leaving)
+            removeRow(row);
+    }
 }

@@ -4,12 +4,13 @@
 #include "core/shell/KRNavigationController.h"
 #include "core/shell/KRWindow.h"
 
+#include <utility>
+
 KRSideMenu::KRSideMenu(std::unique_ptr<KRNavigationController> content, std::unique_ptr<KRBaseController> leftMenu)
     : contentStack(content.release()), menu(leftMenu.release())
 {
     contentStack->setParent(this);
     menu->setParent(this);
-    menu->viewDidLoad();
 }
 
 KRSideMenu::~KRSideMenu()
@@ -21,21 +22,21 @@ KRSideMenu::~KRSideMenu()
 void KRSideMenu::attach(KRWindow *window)
 {
     hostWindow = window;
-    contentStack->attach(window);
     menu->attach(window);
+    menu->loadViewIfNeeded();
+    contentStack->attach(window);
 }
 
 void KRSideMenu::setContent(std::unique_ptr<KRNavigationController> stack)
 {
-    KRNavigationController *const old = contentStack;
-    old->setVisible(false);
-    contentStack = stack.release();
+    KRNavigationController *const old = std::exchange(contentStack, stack.release());
     contentStack->setParent(this);
     contentStack->attach(hostWindow);
     Q_EMIT contentChanged();
-    old->deleteLater();
     if (hostWindow)
         hostWindow->updateVisibility();
+    // Later: the call that changes the content may come from a screen of the old one.
+    old->deleteLater();
 }
 
 void KRSideMenu::presentLeftMenu()
@@ -53,5 +54,7 @@ void KRSideMenu::setOpen(bool open)
     if (opened == open)
         return;
     opened = open;
+    if (open && hostWindow)
+        hostWindow->endEditing();
     Q_EMIT openChanged();
 }

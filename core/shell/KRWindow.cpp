@@ -5,6 +5,25 @@
 #include "core/shell/KRNavigationController.h"
 #include "core/shell/KRSideMenu.h"
 
+#include <utility>
+
+namespace {
+void setAppeared(QObject *item, bool appeared)
+{
+    if (auto *const stack = qobject_cast<KRNavigationController *>(item)) {
+        stack->setVisible(appeared);
+    } else if (auto *const screen = qobject_cast<KRBaseController *>(item)) {
+        if (appeared) {
+            screen->viewWillAppear();
+            screen->viewDidAppear();
+        } else {
+            screen->viewWillDisappear();
+            screen->viewDidDisappear();
+        }
+    }
+}
+} // namespace
+
 void ObjectListModel::append(QObject *item)
 {
     beginInsertRows({}, count(), count());
@@ -35,51 +54,52 @@ KRWindow::KRWindow(QObject *parent) : QObject(parent) {}
 
 KRWindow::~KRWindow()
 {
-    for (int row = 0; row < presentedStacks.count(); ++row)
-        delete presentedStacks.at(row);
-    for (int row = 0; row < shownDialogs.count(); ++row)
-        delete shownDialogs.at(row);
-    delete rootObject;
+    // Before the members: screens and dialogs may ask for their window while they go.
+    qDeleteAll(findChildren<QObject *>(Qt::FindDirectChildrenOnly));
+}
+
+void KRWindow::makeKeyAndVisible()
+{
+    visible = true;
+    Q_EMIT visibleChanged();
 }
 
 void KRWindow::setRoot(std::unique_ptr<KRBaseController> root)
 {
-    KRBaseController *const screen = root.get();
+    KRBaseController *const screen = root.release();
+    replaceRoot(screen);
     screen->attach(this);
-    screen->viewDidLoad();
-    screen->viewWillAppear();
-    replaceRoot(root.release());
-    screen->viewDidAppear();
+    screen->loadViewIfNeeded();
+    showRoot();
 }
 
 void KRWindow::setRoot(std::unique_ptr<KRSideMenu> root)
 {
-    KRSideMenu *const menu = root.get();
+    KRSideMenu *const menu = root.release();
+    replaceRoot(menu);
     menu->attach(this);
-    replaceRoot(root.release());
-    updateVisibility();
+    showRoot();
 }
 
 void KRWindow::replaceRoot(QObject *root)
 {
     while (presentedStacks.count() > 0) {
-        auto *const stack = qobject_cast<KRNavigationController *>(presentedStacks.at(presentedStacks.count() - 1));
-        stack->setVisible(false);
+        outgoing.push_back(presentedStacks.at(presentedStacks.count() - 1));
         presentedStacks.removeAt(presentedStacks.count() - 1);
-        stack->deleteLater();
     }
-    QObject *const old = rootObject;
-    if (auto *const screen = qobject_cast<KRBaseController *>(old)) {
-        screen->viewWillDisappear();
-        screen->viewDidDisappear();
-    } else if (auto *const menu = qobject_cast<KRSideMenu *>(old)) {
-        menu->content()->setVisible(false);
-    }
+    if (rootObject)
+        outgoing.push_back(rootObject);
     root->setParent(this);
     rootObject = root;
+}
+
+void KRWindow::showRoot()
+{
     Q_EMIT rootChanged();
-    if (old)
-        old->deleteLater();
+    updateVisibility();
+    // Later: the call that changes the root usually comes from a screen of the old one.
+    for (QObject *const gone : std::exchange(outgoing, {}))
+        gone->deleteLater();
 }
 
 KRSideMenu *KRWindow::sideMenu() const
@@ -107,10 +127,9 @@ void KRWindow::dismiss(KRNavigationController *stack)
     const int row = presentedStacks.indexOf(stack);
     if (row < 0)
         return;
-    stack->setVisible(false);
     presentedStacks.removeAt(row);
-    stack->deleteLater();
     updateVisibility();
+    stack->deleteLater();
 }
 
 void KRWindow::show(std::unique_ptr<KRDialog> dialog)
@@ -137,15 +156,24 @@ KRNavigationController *KRWindow::topStack() const
     return sideMenu() ? sideMenu()->content() : nullptr;
 }
 
+QObject *KRWindow::front() const
+{
+    if (KRNavigationController *const stack = topStack())
+        return stack;
+    return rootObject;
+}
+
 void KRWindow::updateVisibility()
 {
-    KRNavigationController *const shown = topStack();
-    if (sideMenu() && sideMenu()->content() != shown)
-        sideMenu()->content()->setVisible(false);
-    for (int row = 0; row < presentedStacks.count(); ++row) {
-        if (presentedStacks.at(row) != shown)
-            qobject_cast<KRNavigationController *>(presentedStacks.at(row))->setVisible(false);
+    // A screen may change what is in front while it is being told; the loop below goes on until nothing changes.
+    if (updating)
+        return;
+    updating = true;
+    while (appeared != front()) {
+        if (appeared)
+            setAppeared(std::exchange(appeared, nullptr), false);
+        else
+            setAppeared(appeared = front(), true);
     }
-    if (shown)
-        shown->setVisible(true);
+    updating = false;
 }

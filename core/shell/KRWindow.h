@@ -35,15 +35,23 @@ private:
 
 /// The main window: its root (the guide or the side menu), the stacks presented over it, the dialogs over those. Owns them
 /// all. Banners and the waiting indicator are `OverlayHost`'s.
+///
+/// One thing is in front: the stack presented last, else the side menu's content, else the guide. What is in front has
+/// appeared, all else has disappeared; when that changes the old one disappears before the new one appears. Dialogs cover
+/// without a change of either.
 class KRWindow : public QObject {
     Q_OBJECT
     /// A KRBaseController (the guide) or a KRSideMenu.
     Q_PROPERTY(QObject *root READ root NOTIFY rootChanged)
+    Q_PROPERTY(bool visible READ isVisible NOTIFY visibleChanged)
     Q_PROPERTY(ObjectListModel *presented READ presented CONSTANT)
     Q_PROPERTY(ObjectListModel *dialogs READ dialogs CONSTANT)
 public:
     explicit KRWindow(QObject *parent = nullptr);
     ~KRWindow() override;
+
+    void makeKeyAndVisible();
+    bool isVisible() const { return visible; }
 
     QObject *root() const { return rootObject; }
     ObjectListModel *presented() { return &presentedStacks; }
@@ -54,9 +62,10 @@ public:
     void setRoot(std::unique_ptr<KRSideMenu> root);
     KRSideMenu *sideMenu() const;
 
-    /// Presents over whatever is on screen.
+    /// Presents over whatever is on screen; the window owns the stack until `dismiss`.
     KRNavigationController *present(std::unique_ptr<KRNavigationController> stack);
     KRNavigationController *present(std::unique_ptr<KRBaseController> screen);
+    /// Takes `stack` away, also from below another one; does nothing when it is not presented.
     void dismiss(KRNavigationController *stack);
 
     /// The dialog lives until it is removed.
@@ -68,17 +77,24 @@ public:
     /// Takes the focus from the field being edited and closes the keyboard.
     void endEditing() { Q_EMIT editingEnded(); }
 
-    /// Called by the side menu when its content changes.
+    /// Brings to light what is in front now. Called by the side menu when its content changes.
     void updateVisibility();
 
 Q_SIGNALS:
     void rootChanged();
+    void visibleChanged();
     void editingEnded();
 
 private:
     void replaceRoot(QObject *root);
+    void showRoot();
+    QObject *front() const;
 
     ObjectListModel presentedStacks;
     ObjectListModel shownDialogs;
     QObject *rootObject = nullptr;
+    QObject *appeared = nullptr;
+    std::vector<QObject *> outgoing;
+    bool visible = false;
+    bool updating = false;
 };

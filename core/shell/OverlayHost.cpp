@@ -57,9 +57,7 @@ void OverlayHost::fade(int number)
 
 void OverlayHost::discard(int number)
 {
-    QList<MVNoticeView> left = rows.rows();
-    left.removeAt(rowOf(number));
-    rows.setRows(left);
+    rows.removeAt(rowOf(number));
     timed.remove_if([number](const Banner &banner) { return banner.number == number; });
 }
 

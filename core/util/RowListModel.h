@@ -57,6 +57,14 @@ public:
         Q_EMIT countChanged();
     }
 
+    void removeAt(int row)
+    {
+        beginRemoveRows({}, row, row);
+        stored.removeAt(row);
+        endRemoveRows();
+        Q_EMIT countChanged();
+    }
+
     void setRow(int row, const Row &value)
     {
         stored[row] = value;

@@ -1,0 +1,150 @@
+#include "app/AppRouter.h"
+
+#include "account/screens/TZCheckCellController.h"
+#include "core/shell/KRNavigationController.h"
+#include "core/shell/KRSideMenu.h"
+#include "core/shell/KRWindow.h"
+#include "core/shell/TZLeftMenuController.h"
+#include "core/shell/TZPlainPageController.h"
+#include "core/shell/TZWebModel.h"
+#include "core/util/Text.h"
+#include "home/screens/TZHomeViewController.h"
+#include "home/screens/TZMessageDetailController.h"
+#include "home/screens/TZMyAccountController.h"
+#include "trading/api/TZTradeTool.h"
+
+namespace {
+std::unique_ptr<TZPlainPageController> plainPage(const QString &title, const QString &text)
+{
+    return std::make_unique<TZPlainPageController>(title, text);
+}
+
+/// The first step that the account still lacks, by the "next_step" of the recharge information; with none lacking, the
+/// recharge itself.
+std::unique_ptr<TZPlainPageController> rechargeStep(qint64 nextStep)
+{
+    switch (nextStep) {
+    case 1:
+        return plainPage(QStringLiteral("手机验证"), QStringLiteral("在这里验证您的手机号码。"));
+    case 2:
+        return plainPage(QStringLiteral("设置昵称"), QStringLiteral("在这里设置您的昵称。"));
+    case 3:
+        return plainPage(QStringLiteral("设置交易密码"), QStringLiteral("在这里设置六位数字的交易密码。"));
+    case 4:
+        return plainPage(QStringLiteral("开通资金托管账户"), QStringLiteral("在这里开通您的资金托管账户。"));
+    case 5:
+        return plainPage(QStringLiteral("绑定银行卡"), QStringLiteral("在这里绑定用于充值和提现的银行卡。"));
+    default:
+        return plainPage(QStringLiteral("充值"), QStringLiteral("在这里为您的账户充值。"));
+    }
+}
+} // namespace
+
+void AppRouter::openSignIn(KRBaseController &, ToSomeController toSomeController)
+{
+    auto entry = std::make_unique<TZCheckCellController>(*this);
+    entry->setToSomeController(std::move(toSomeController));
+    window.present(std::move(entry));
+}
+
+void AppRouter::showHome(KRBaseController &)
+{
+    showContent(std::make_unique<TZHomeViewController>(*this));
+}
+
+void AppRouter::showMyAccount(KRBaseController &)
+{
+    showContent(std::make_unique<TZMyAccountController>(*this));
+}
+
+void AppRouter::showCommissions(KRBaseController &)
+{
+    showContent(plainPage(QStringLiteral("超级合伙人"), QStringLiteral("在这里查看您的邀请码和佣金记录。")));
+}
+
+void AppRouter::showContent(std::unique_ptr<KRBaseController> root)
+{
+    KRSideMenu *const frame = window.sideMenu();
+    if (!frame)
+        return;
+    frame->setContent(std::make_unique<KRNavigationController>(std::move(root)));
+    frame->hideMenu();
+}
+
+void AppRouter::setupSideMenuController()
+{
+    auto home = std::make_unique<KRNavigationController>(std::make_unique<TZHomeViewController>(*this));
+    window.setRoot(std::make_unique<KRSideMenu>(std::move(home), std::make_unique<TZLeftMenuController>(*this)));
+}
+
+void AppRouter::openRealTrading(KRBaseController &from)
+{
+    from.navigationController()->push(
+        plainPage(QStringLiteral("Zorvane-实盘炒股"), QStringLiteral("在这里查看持仓并买卖股票。")));
+}
+
+void AppRouter::openStockCapital(KRBaseController &from)
+{
+    from.navigationController()->push(
+        plainPage(QStringLiteral("我要配资"), QStringLiteral("在这里选择适合您的配资方案。")));
+}
+
+void AppRouter::openMessages(KRBaseController &from)
+{
+    from.navigationController()->push(
+        plainPage(QStringLiteral("消息"), QStringLiteral("在这里查看系统通知和活动消息。")));
+}
+
+void AppRouter::openWeb(KRBaseController &from, const TZWebModel &model)
+{
+    from.navigationController()->push(plainPage(model.title, model.url));
+}
+
+void AppRouter::openRechargeGate(KRBaseController &from)
+{
+    const auto open = [this](const Operation &, const QVariantMap &answer) {
+        const QVariantMap data = answer.value(QStringLiteral("data")).toMap();
+        window.present(rechargeStep(integerValue(data.value(QStringLiteral("next_step")))));
+    };
+    TZTradeTool::getTradeRechargeWithParam({}, Success{&from, open}, {});
+}
+
+void AppRouter::openWithdraw(KRBaseController &)
+{
+    window.present(plainPage(QStringLiteral("提现"), QStringLiteral("在这里把可用余额提现到您的银行卡。")));
+}
+
+void AppRouter::openFundRecords(KRBaseController &from)
+{
+    from.navigationController()->push(
+        plainPage(QStringLiteral("充值提现记录"), QStringLiteral("在这里查看每一笔充值和提现。")));
+}
+
+void AppRouter::openPersonal(KRBaseController &from)
+{
+    from.navigationController()->push(
+        plainPage(QStringLiteral("个人资料"), QStringLiteral("在这里查看和修改您的个人资料。")));
+}
+
+void AppRouter::openWarning(KRBaseController &from)
+{
+    from.navigationController()->push(
+        plainPage(QStringLiteral("风险预警"), QStringLiteral("在这里查看触及预警线的借款。")));
+}
+
+void AppRouter::openMarginTopUp(KRBaseController &from)
+{
+    from.navigationController()->push(
+        plainPage(QStringLiteral("补充保证金"), QStringLiteral("在这里为触及平仓线的借款补充保证金。")));
+}
+
+void AppRouter::presentMessageDetail(const QVariantMap &information)
+{
+    window.present(std::make_unique<TZMessageDetailController>(*this, fromDictionary<TZMessageModel>(information),
+                                                               QStringLiteral("remote")));
+}
+
+void AppRouter::presentOrderDetail(const QVariantMap &)
+{
+    window.present(plainPage(QStringLiteral("委托详情"), QStringLiteral("在这里查看这笔委托的详情。")));
+}
