@@ -8,6 +8,7 @@
 #include "core/shell/OverlayHost.h"
 #include "core/shell/TZBaseTableViewController.h"
 #include "core/shell/TZInfoAlertView.h"
+#include "core/shell/TZTradePwdAlertView.h"
 #include "ui/ViewType.h"
 
 // The classes that views of every area know.
@@ -49,5 +50,9 @@ struct TZBaseTableViewControllerForViews {
 };
 struct TZInfoAlertViewForViews {
     Q_GADGET
-    ZV_VIEW_TYPE(TZInfoAlertView)
+    ZV_VIEW_TYPE_AS(TZInfoAlertView, TZInfoAlertDialog)
+};
+struct TZTradePwdAlertViewForViews {
+    Q_GADGET
+    ZV_VIEW_TYPE_AS(TZTradePwdAlertView, TZTradePwdAlertDialog)
 };

@@ -2,14 +2,48 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-Item {
+/// The frame of a screen: its navigation bar and background; children fill what is left. Esc goes back.
+FocusScope {
     id: page
 
     required property KRBaseController controller
+    readonly property bool deep: controller.background === KRBaseController.Blue
+    property color colour: deep ? Theme.pageBlue
+                                : controller instanceof TZBaseTableViewController ? Theme.pageGray
+                                                                                  : Theme.pageGrayPlain
+    /// What stands in the place of the title.
+    property alias titleItem: bar.titleSlot
+    default property alias content: body.data
 
-    Text {
-        text: page.controller.title
-        color: Theme.navigationBar
+    focus: true
+    Accessible.role: Accessible.Pane
+    Accessible.name: controller.title
+    Keys.onEscapePressed: event => page.goBack(event)
+    Keys.onBackPressed: event => page.goBack(event)
+
+    function goBack(event: KeyEvent) {
+        event.accepted = controller.showBackButton || controller.leftItemImage !== "" || controller.leftItemTitle !== ""
+        if (controller.showBackButton)
+            controller.backButtonClicked()
+        else if (event.accepted)
+            controller.leftItemClick()
     }
-    Component.onCompleted: page.controller.backButtonClicked()
+
+    Rectangle {
+        anchors.fill: parent
+        color: page.colour
+    }
+    // Taps beside the controls end editing.
+    TapHandler {
+        onTapped: page.controller.scrollViewWillBeginDragging()
+    }
+    NavigationBar {
+        id: bar
+        width: parent.width
+        controller: page.controller
+    }
+    Item {
+        id: body
+        anchors { left: parent.left; right: parent.right; top: bar.bottom; bottom: parent.bottom }
+    }
 }

@@ -1,0 +1,81 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+/// Six dots that mirror how many digits were typed into the field hidden behind them. `text` is what the screen holds;
+/// every edit is handed over with `edited`.
+FocusScope {
+    id: row
+
+    property string text
+    property string placeholder
+    property int lit: text.length
+    property bool deep: false
+    readonly property Tones tones: Theme.tones(deep)
+
+    signal edited(string value)
+
+    function showText() {
+        if (field.text !== row.text)
+            field.text = row.text
+    }
+
+    implicitWidth: Math.min(6 * 48, parent ? parent.width : 6 * 48)
+    implicitHeight: 48
+    onTextChanged: showText()
+
+    TextInput {
+        id: field
+        anchors.fill: parent
+        focus: true
+        activeFocusOnTab: true
+        opacity: 0
+        echoMode: TextInput.Password
+        inputMethodHints: Qt.ImhDigitsOnly | Qt.ImhSensitiveData | Qt.ImhNoPredictiveText
+        cursorDelegate: Item {}
+        Accessible.role: Accessible.EditableText
+        Accessible.name: row.placeholder
+        Accessible.passwordEdit: true
+        onTextEdited: {
+            row.edited(text)
+            row.showText()
+        }
+    }
+    Rectangle {
+        anchors.fill: parent
+        radius: Theme.radius
+        color: row.tones.surface
+        border.width: field.activeFocus ? Theme.focusRingWidth : Theme.hairlineWidth
+        border.color: field.activeFocus ? Theme.focusRing : row.tones.hairline
+    }
+    Repeater {
+        model: 6
+        Item {
+            id: cell
+
+            required property int index
+
+            x: index * width
+            width: row.width / 6
+            height: row.height
+
+            Rectangle {
+                anchors.centerIn: parent
+                width: 14
+                height: 14
+                radius: 7
+                visible: cell.index < row.lit
+                color: row.tones.textPrimary
+            }
+            Rectangle {
+                width: Theme.hairlineWidth
+                height: parent.height
+                visible: cell.index > 0
+                color: row.tones.hairline
+            }
+        }
+    }
+    TapHandler {
+        onTapped: field.forceActiveFocus()
+    }
+}

@@ -1,0 +1,47 @@
+import QtQuick
+
+/// The panel of a page that could not be loaded, with a button that asks for it again.
+Item {
+    id: panel
+
+    property string text: "网络异常"
+    property string hint: "请检查网络设置后重试"
+    property bool deep: false
+
+    signal reloadData
+
+    Column {
+        anchors.centerIn: parent
+        width: parent.width - 2 * Theme.margin
+        spacing: Theme.spacing
+
+        Icon {
+            anchors.horizontalCenter: parent.horizontalCenter
+            name: panel.deep ? "no_net_deep" : "no_net"
+            size: 96
+        }
+        Text {
+            width: parent.width
+            text: panel.text
+            font: Theme.body
+            color: Theme.tones(panel.deep).textPrimary
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+        }
+        Text {
+            width: parent.width
+            text: panel.hint
+            font: Theme.label
+            color: Theme.link
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+        }
+        SecondaryButton {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: 144
+            deep: panel.deep
+            text: "重新加载"
+            onClicked: panel.reloadData()
+        }
+    }
+}

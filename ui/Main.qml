@@ -1,0 +1,23 @@
+import QtQuick
+
+/// The window: phone-shaped on a desktop, the whole screen on a phone.
+Window {
+    id: main
+
+    required property KRWindow window
+    required property OverlayHost overlays
+
+    width: 390
+    height: 844
+    minimumWidth: 360
+    minimumHeight: 480
+    visible: true
+    color: Theme.menuBackground
+    title: "Zorvane"
+
+    WindowContent {
+        anchors.fill: parent
+        window: main.window
+        overlays: main.overlays
+    }
+}

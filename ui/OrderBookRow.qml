@@ -1,0 +1,64 @@
+import QtQuick
+
+/// A level of the order book: its name, price and volume; the bar is the volume's share of the deepest level.
+Tappable {
+    id: row
+
+    property string title
+    property string price
+    property string volume
+    property real share: 0
+    /// Of the price against yesterday's close: 1 rise, 0 flat, -1 fall.
+    property int trend: 0
+    property bool buySide: true
+
+    implicitWidth: parent ? parent.width : 0
+    implicitHeight: 32
+    ringInset: 1
+    deep: true
+    text: title + " " + price + " " + volume
+    background: Item {
+        Rectangle {
+            anchors { right: parent.right; top: parent.top; bottom: parent.bottom; margins: 2 }
+            width: parent.width * Math.min(1, Math.max(0, row.share))
+            color: row.buySide ? Theme.buy : Theme.sell
+            opacity: 0.25
+        }
+        Rectangle {
+            anchors.fill: parent
+            visible: row.pressed
+            color: Theme.pressedOverlay
+        }
+    }
+    Item {
+        anchors.fill: parent
+
+        Text {
+            anchors { left: parent.left; leftMargin: Theme.spacingSmall; verticalCenter: parent.verticalCenter }
+            text: row.title
+            font: Theme.caption
+            color: row.tones.textSecondary
+            Accessible.ignored: true
+        }
+        AmountText {
+            anchors { left: parent.left; leftMargin: Theme.touchTarget; right: parent.horizontalCenter }
+            anchors.verticalCenter: parent.verticalCenter
+            anchors.rightMargin: -Theme.spacingLarge
+            text: row.price
+            font: Theme.bodyBold
+            deep: row.deep
+            trend: row.trend
+            Accessible.ignored: true
+        }
+        AmountText {
+            anchors { left: parent.horizontalCenter; leftMargin: Theme.spacingHuge; right: parent.right }
+            anchors.rightMargin: Theme.spacingSmall
+            anchors.verticalCenter: parent.verticalCenter
+            text: row.volume
+            font: Theme.label
+            deep: row.deep
+            horizontalAlignment: Text.AlignRight
+            Accessible.ignored: true
+        }
+    }
+}

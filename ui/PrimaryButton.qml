@@ -1,0 +1,24 @@
+import QtQuick
+
+/// The one main action of a page.
+Tappable {
+    id: control
+
+    property color fill: Theme.accent
+
+    implicitHeight: Theme.buttonHeight
+    leftPadding: Theme.spacingLarge
+    rightPadding: Theme.spacingLarge
+    background: Rectangle {
+        radius: Theme.radius
+        color: !control.enabled ? control.tones.disabled : control.pressed ? Qt.darker(control.fill, 1.2) : control.fill
+    }
+    contentItem: Text {
+        text: control.text
+        font: Theme.title
+        color: Theme.onAccent
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        elide: Text.ElideRight
+    }
+}

@@ -1,0 +1,35 @@
+import QtQuick
+
+/// The name of a group of rows, with an optional second text at the right.
+Item {
+    id: header
+
+    property string text
+    property string trailing
+    property bool deep: false
+    property int trailingTrend: 0
+
+    implicitWidth: parent ? parent.width : 0
+    implicitHeight: 36
+    Accessible.role: Accessible.Heading
+    Accessible.name: trailing === "" ? text : text + " " + trailing
+
+    Text {
+        anchors { left: parent.left; right: trailingText.left; leftMargin: Theme.margin; rightMargin: Theme.spacing }
+        anchors.verticalCenter: parent.verticalCenter
+        text: header.text
+        font: Theme.label
+        color: Theme.tones(header.deep).textSecondary
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+    Text {
+        id: trailingText
+        anchors { right: parent.right; rightMargin: Theme.margin; verticalCenter: parent.verticalCenter }
+        text: header.trailing
+        font: Theme.label
+        color: header.trailingTrend === 0 ? Theme.tones(header.deep).textSecondary
+                                          : Theme.trend(header.trailingTrend, header.deep)
+        Accessible.ignored: true
+    }
+}

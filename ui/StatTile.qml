@@ -1,0 +1,35 @@
+import QtQuick
+
+/// A figure under its name, for grids of figures.
+Column {
+    id: tile
+
+    property string label
+    property string value
+    property bool deep: false
+    property int trend: 0
+    property int alignment: Text.AlignLeft
+
+    spacing: Theme.spacingTiny
+    Accessible.role: Accessible.StaticText
+    Accessible.name: label + " " + value
+
+    Text {
+        width: tile.width
+        text: tile.label
+        font: Theme.caption
+        color: Theme.tones(tile.deep).textSecondary
+        horizontalAlignment: tile.alignment
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+    AmountText {
+        width: tile.width
+        text: tile.value
+        font: Theme.bodyBold
+        deep: tile.deep
+        trend: tile.trend
+        horizontalAlignment: tile.alignment
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,66 @@
+import QtQuick
+
+/// A question or a piece of news, with one or two answers.
+DialogFrame {
+    id: alert
+
+    required dialog
+    readonly property TZInfoAlertDialog info: dialog as TZInfoAlertDialog
+
+    name: info.titleText + " " + info.ensureText
+
+    Item {
+        width: parent.width
+        height: texts.height + 2 * Theme.spacingHuge
+
+        Column {
+            id: texts
+            anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.spacingHuge }
+            spacing: Theme.spacingSmall
+            Text {
+                width: parent.width
+                text: alert.info.titleText
+                font: Theme.title
+                color: Theme.textPrimary
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.Wrap
+            }
+            Text {
+                width: parent.width
+                visible: text !== ""
+                text: alert.info.ensureText
+                font: Theme.body
+                color: Theme.textSecondary
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.Wrap
+            }
+        }
+    }
+    Hairline {
+        width: parent.width
+    }
+    Row {
+        width: parent.width
+        height: Theme.rowHeight
+
+        DialogButton {
+            id: left
+            width: visible ? parent.width / 2 : 0
+            visible: text !== ""
+            strong: false
+            text: alert.info.leftTitle
+            onClicked: alert.info.leftBtnClick()
+        }
+        Rectangle {
+            width: left.visible ? Theme.hairlineWidth : 0
+            height: parent.height
+            color: Theme.hairline
+        }
+        DialogButton {
+            width: parent.width - x
+            focus: true
+            text: alert.info.rightTitle
+            onClicked: alert.info.rightBtnClick()
+        }
+    }
+}

@@ -1,0 +1,21 @@
+import QtQuick
+
+/// A tappable text without a frame, such as a link.
+Tappable {
+    id: control
+
+    property color textColour: deep ? control.tones.accent : Theme.link
+
+    leftPadding: Theme.spacingSmall
+    rightPadding: Theme.spacingSmall
+    contentItem: Text {
+        text: control.text
+        font: control.font
+        color: control.enabled ? control.textColour : control.tones.disabled
+        opacity: control.pressed ? Theme.disabledOpacity : 1
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        elide: Text.ElideRight
+    }
+    font: Theme.body
+}

@@ -1,0 +1,121 @@
+import QtQuick
+import QtQuick.Templates as T
+
+/// One line to type into. `text` is what the screen holds: every edit is handed over with `edited`, and the field then
+/// shows what the screen made of it (`onEdited: value => controller.cell = value`). Children are laid at the right end.
+FocusScope {
+    id: row
+
+    property string text
+    property string placeholder
+    property string label
+    property string icon
+    property bool deep: false
+    property bool line: true
+    property bool clearButton: true
+    property alias inputMethodHints: field.inputMethodHints
+    property alias maximumLength: field.maximumLength
+    property alias echoMode: field.echoMode
+    property alias readOnly: field.readOnly
+    property alias field: field
+    default property alias trailing: trailingSlot.data
+    readonly property Tones tones: Theme.tones(deep)
+
+    signal edited(string value)
+    signal accepted
+
+    function showText() {
+        if (field.text === row.text)
+            return
+        const atEnd = field.cursorPosition === field.length
+        const position = field.cursorPosition
+        field.text = row.text
+        field.cursorPosition = atEnd ? field.length : Math.min(position, field.length)
+    }
+
+    implicitWidth: parent ? parent.width : 0
+    implicitHeight: Theme.rowHeight
+    onTextChanged: showText()
+
+    Rectangle {
+        anchors.fill: parent
+        color: row.tones.surface
+    }
+    Icon {
+        id: iconImage
+        anchors { left: parent.left; leftMargin: Theme.margin; verticalCenter: parent.verticalCenter }
+        visible: row.icon !== ""
+        name: row.icon
+    }
+    Text {
+        id: labelText
+        anchors { left: row.icon === "" ? parent.left : iconImage.right; verticalCenter: parent.verticalCenter }
+        anchors.leftMargin: row.icon === "" ? Theme.margin : Theme.spacing
+        width: text === "" ? 0 : Math.max(72, implicitWidth)
+        text: row.label
+        font: Theme.body
+        color: row.tones.textPrimary
+        Accessible.ignored: true
+    }
+    T.TextField {
+        id: field
+        anchors { left: labelText.right; right: clear.left; top: parent.top; bottom: parent.bottom }
+        anchors.leftMargin: row.label === "" ? 0 : Theme.spacingSmall
+        focus: true
+        activeFocusOnTab: true
+        font: Theme.body
+        color: enabled ? row.tones.textPrimary : row.tones.disabled
+        placeholderTextColor: row.tones.placeholder
+        selectionColor: Theme.accent
+        selectedTextColor: Theme.onAccent
+        selectByMouse: true
+        verticalAlignment: TextInput.AlignVCenter
+        leftPadding: 0
+        rightPadding: Theme.spacingSmall
+        clip: true
+        Accessible.role: Accessible.EditableText
+        Accessible.name: row.placeholder
+        Accessible.passwordEdit: echoMode !== TextInput.Normal
+        onTextEdited: {
+            row.edited(text)
+            row.showText()
+        }
+        onAccepted: row.accepted()
+
+        Text {
+            anchors.fill: parent
+            visible: field.length === 0 && field.preeditText === ""
+            text: row.placeholder
+            font: field.font
+            color: row.tones.placeholder
+            verticalAlignment: Text.AlignVCenter
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+    }
+    IconButton {
+        id: clear
+        anchors { right: trailingSlot.left; verticalCenter: parent.verticalCenter }
+        width: visible ? Theme.touchTarget : 0
+        visible: row.clearButton && field.activeFocus && field.length > 0 && !field.readOnly
+        activeFocusOnTab: false
+        image: "field_clear"
+        size: 18
+        text: "清除"
+        onClicked: {
+            row.edited("")
+            row.showText()
+        }
+    }
+    Row {
+        id: trailingSlot
+        anchors { right: parent.right; rightMargin: Theme.spacingSmall; verticalCenter: parent.verticalCenter }
+    }
+    Hairline {
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+        anchors.leftMargin: field.activeFocus ? 0 : Theme.margin
+        visible: row.line || field.activeFocus
+        height: field.activeFocus ? Theme.focusRingWidth : Theme.hairlineWidth
+        color: field.activeFocus ? Theme.focusRing : row.tones.hairline
+    }
+}

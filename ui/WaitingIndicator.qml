@@ -1,0 +1,39 @@
+import QtQuick
+
+/// Covers the window while something is asked for; nothing under it can be reached.
+FocusTrap {
+    id: indicator
+
+    required property string status
+
+    Accessible.role: Accessible.Indicator
+    Accessible.name: status
+    Keys.onPressed: event => event.accepted = true
+
+    MouseArea {
+        anchors.fill: parent
+        hoverEnabled: true
+        preventStealing: true
+        onWheel: wheel => wheel.accepted = true
+    }
+    Rectangle {
+        anchors.centerIn: parent
+        width: Math.max(112, label.implicitWidth + 2 * Theme.spacingHuge)
+        height: 104
+        radius: Theme.radiusLarge
+        color: Theme.indicatorPanel
+
+        Spinner {
+            anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; topMargin: 22 }
+            size: 32
+        }
+        Text {
+            id: label
+            anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom; bottomMargin: Theme.spacingLarge }
+            text: indicator.status
+            font: Theme.label
+            color: Theme.onAccent
+            Accessible.ignored: true
+        }
+    }
+}
