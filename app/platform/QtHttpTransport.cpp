@@ -1,0 +1,165 @@
+#include "app/platform/QtHttpTransport.h"
+
+#include "app/platform/Loopback.h"
+#include "app/platform/OneShotBody.h"
+
+#include <QNetworkReply>
+#include <QNetworkRequest>
+#include <QSslConfiguration>
+#include <QTimer>
+
+namespace {
+
+constexpr int mostRedirects = 5;
+
+/// One request from sending to its outcome, redirects included; deletes itself.
+class Exchange : public QObject {
+public:
+    Exchange(QNetworkAccessManager &networkManager, QSslConfiguration tlsConfiguration,
+             bool allowLoopbackHttp, HttpRequest httpRequest, std::function<void(const HttpOutcome &)> onDone)
+        : QObject(&networkManager), manager(networkManager), tls(std::move(tlsConfiguration)),
+          loopbackHttp(allowLoopbackHttp), request(std::move(httpRequest)), done(std::move(onDone))
+    {
+        deadline.setSingleShot(true);
+        deadline.setTimerType(Qt::PreciseTimer);
+        deadline.callOnTimeout(this, [this] { timeOut(); });
+        deadline.start(request.timeout);
+    }
+
+    void start(const QUrl &url)
+    {
+        if (!isSafe(url)) {
+            QTimer::singleShot(0, this, [this] { finish(HttpFailure::Tls); });
+            return;
+        }
+        reply = manager.sendCustomRequest(prepared(url), request.method, new OneShotBody(request.body, this));
+        connect(reply, &QNetworkReply::finished, this, [this] { receive(); });
+    }
+
+private:
+    bool isSafe(const QUrl &url) const
+    {
+        return url.scheme() == QLatin1String("https") ||
+               (loopbackHttp && url.scheme() == QLatin1String("http") && isLoopback(url));
+    }
+
+    QNetworkRequest prepared(const QUrl &url) const
+    {
+        QNetworkRequest prepared(url);
+        prepared.setSslConfiguration(tls);
+        prepared.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
+                              QNetworkRequest::ManualRedirectPolicy);
+        prepared.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
+        prepared.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
+        prepared.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
+        // HTTP/2 has rules of its own for sending a refused stream again.
+        prepared.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
+        for (const auto &[name, value] : request.headers)
+            prepared.setRawHeader(name, value);
+        return prepared;
+    }
+
+    void timeOut()
+    {
+        if (reply) {
+            reply->disconnect(this);
+            reply->abort();
+        }
+        finish(HttpFailure::TimedOut);
+    }
+
+    void receive()
+    {
+        const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+        const QUrl target = reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
+        if (const auto failure = failureOf(reply->error()))
+            return finish(*failure);
+        if (isFollowed(status) && target.isValid())
+            return redirect(reply->url().resolved(target));
+        finish(HttpResponse{status, reply->header(QNetworkRequest::ContentTypeHeader).toByteArray(),
+                            reply->readAll()});
+    }
+
+    /// 307 and 308 ask for the same body once more: followed only when there is none.
+    bool isFollowed(int status) const
+    {
+        return status == 301 || status == 302 || status == 303 ||
+               ((status == 307 || status == 308) && request.method == "GET");
+    }
+
+    void redirect(const QUrl &target)
+    {
+        if (++redirects > mostRedirects)
+            return finish(HttpFailure::Connection);
+        const QUrl from = reply->url();
+        if (target.scheme() != from.scheme() || target.authority() != from.authority())
+            request.headers.clear();
+        request.method = "GET";
+        request.body.clear();
+        reply->deleteLater();
+        reply = nullptr;
+        start(target);
+    }
+
+    /// None when a whole answer came, whatever its status.
+    static std::optional<HttpFailure> failureOf(QNetworkReply::NetworkError error)
+    {
+        switch (error) {
+        case QNetworkReply::NoError:
+        case QNetworkReply::ProxyAuthenticationRequiredError:
+        case QNetworkReply::ProtocolInvalidOperationError:
+            return std::nullopt;
+        case QNetworkReply::SslHandshakeFailedError:
+            return HttpFailure::Tls;
+        case QNetworkReply::TimeoutError:
+            return HttpFailure::TimedOut;
+        case QNetworkReply::HostNotFoundError:
+        case QNetworkReply::TemporaryNetworkFailureError:
+        case QNetworkReply::NetworkSessionFailedError:
+            return HttpFailure::Offline;
+        case QNetworkReply::OperationCanceledError:
+            return HttpFailure::Cancelled;
+        case QNetworkReply::ContentReSendError:
+            return HttpFailure::Connection;
+        default:
+            break;
+        }
+        const bool isStatus =
+            (error > QNetworkReply::UnknownProxyError && error < QNetworkReply::ProtocolUnknownError) ||
+            error >= QNetworkReply::InternalServerError;
+        return isStatus ? std::nullopt : std::optional(HttpFailure::Connection);
+    }
+
+    void finish(const HttpOutcome &outcome)
+    {
+        deadline.stop();
+        if (reply)
+            reply->deleteLater();
+        deleteLater();
+        std::exchange(done, {})(outcome);
+    }
+
+    QNetworkAccessManager &manager;
+    const QSslConfiguration tls;
+    const bool loopbackHttp;
+    HttpRequest request;
+    std::function<void(const HttpOutcome &)> done;
+    QTimer deadline;
+    QNetworkReply *reply = nullptr;
+    int redirects = 0;
+};
+
+} // namespace
+
+QtHttpTransport::QtHttpTransport(const DeveloperTrust &trust)
+    : tls(QSslConfiguration::defaultConfiguration()), loopbackHttp(trust.loopbackHttp)
+{
+    if (!trust.authorities.isEmpty())
+        tls.setCaCertificates(QSslConfiguration::systemCaCertificates() + trust.authorities);
+}
+
+void QtHttpTransport::send(const HttpRequest &request, std::function<void(const HttpOutcome &)> done)
+{
+    auto *exchange = new Exchange(manager, tls, loopbackHttp, request, std::move(done));
+    exchange->start(QUrl(request.url));
+}
