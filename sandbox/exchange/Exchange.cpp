@@ -212,14 +212,14 @@ void Exchange::matchResting(Order &order, const Stock &stock, Millis now, Shared
     if (order.queueAhead > 0 && trade.volume > 0)
         queue(order, std::max<Shares>(0, -behindQueue), order.status, now);
     if (behindQueue > 0)
-        fill(order, order.price, std::min(behindQueue, shareOf(order, trade.volume, shared)), {}, now);
+        fill(order, order.price, shareOf(order, std::min(behindQueue, trade.openToUsers), shared), {}, now);
 }
 
 void Exchange::matchAuction(Order &order, const Stock &stock, Millis now, Shared &shared)
 {
     const Trade print = m_market.lastTrade(stock, now);
     if (reaches(order, print.price))
-        fill(order, print.price, shareOf(order, print.volume, shared), {}, now);
+        fill(order, print.price, shareOf(order, print.openToUsers, shared), {}, now);
     if (isOpen(order.status)) {
         const Shares ahead =
             m_market.queueAt(stock, order.side, order.price, now, m_books.depthUsed(stock.code));
@@ -264,11 +264,12 @@ bool Exchange::voidOutsideCage(Order &order, const Stock &stock, Millis now)
     return outside;
 }
 
-Shares Exchange::shareOf(const Order &order, Shares traded, Shared &shared) const
+Shares Exchange::shareOf(const Order &order, Shares open, Shared &shared) const
 {
-    const auto [left, unused] = shared.try_emplace({order.stockCode, order.side}, wholeLots(traded / 4));
-    const Shares share = order.remaining() <= left->second ? order.remaining() : wholeLots(left->second);
-    left->second -= share;
+    Shares &taken = shared[{order.stockCode, order.side}];
+    const Shares left = wholeLots(std::max<Shares>(0, open - taken));
+    const Shares share = std::min(order.remaining(), left);
+    taken += share;
     return share;
 }
 

@@ -38,7 +38,7 @@ public:
     void rematch(const std::string &stockCode, Millis now);
 
 private:
-    /** What our users may still trade at one moment out of others' deals, by stock and side. */
+    /** What our users have had of others' deals at one moment, by stock and side. */
     using Shared = std::map<std::pair<std::string, Side>, Shares>;
 
     void workDay(int day, Millis from, Millis to);
@@ -53,7 +53,7 @@ private:
     void forward(Order &order, const Stock &stock, Millis now);
     void takeDepth(Order &order, const Stock &stock, Millis now, bool atOwnPrice);
     bool voidOutsideCage(Order &order, const Stock &stock, Millis now);
-    Shares shareOf(const Order &order, Shares traded, Shared &shared) const;
+    Shares shareOf(const Order &order, Shares open, Shared &shared) const;
     void queue(Order &order, Shares ahead, OrderStatus status, Millis now);
     void fill(Order &order, Cents price, Shares shares, const DisplayedLevel &level, Millis now);
     void close(Order &order, OrderStatus status, const std::string &note, Millis now);

@@ -84,9 +84,8 @@ DisplayedLevel Market::level(const Stock &stock, const DayFrame &frame, Side sid
     const Millis rhythm = kRhythms[draw(place, Phases) % std::size(kRhythms)];
     const std::int64_t epoch = (time + between(draw(place, Phases, 1), 0, rhythm - 1)) / rhythm;
     const std::uint64_t bits = draw(place, epoch);
-    // A level holds about what is traded in some tens of seconds of a day of four hours; a locked board's
-    // queue far more.
-    const Shares usual = stock.typicalTurnover / frame.previousClose / 600 * (frame.locked(price) ? 40 : 1);
+    // A level holds a few thousandths of a day's volume; the queue of a locked board far more.
+    const Shares usual = stock.typicalTurnover / frame.previousClose / 3000 * (frame.locked(price) ? 200 : 1);
     const Shares volume = usual * between(bits & 0xffffffff, 10, 200) / 100;
     return {price, volume / 100 * 100 + 100 * between(bits >> 40, 1, 5), epoch};
 }

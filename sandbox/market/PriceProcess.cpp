@@ -8,7 +8,7 @@ namespace sandbox {
 
 namespace {
 
-enum Purpose { Day = 100, Open, Close, Deviation, Event, Middle, Volume, DayVolume };
+enum Purpose { Day = 100, Open, Close, Deviation, Event, Middle, Volume, DayVolume, Quarter };
 
 constexpr std::int64_t kFine = 1000; // thousandths of a cent
 
@@ -41,9 +41,9 @@ Trade PriceProcess::tradeAt(const Stock &stock, int day, int moment)
 {
     const DayFrame today = frame(stock, day);
     if (moment < 0 || stock.suspended)
-        return {today.previousClose, 0};
+        return {today.previousClose, 0, 0};
     const Path walk = path(stock, day, today.previousClose);
-    return {priceOf(stock, today, moment, valueAt(walk, moment)), volumeAt(walk, moment)};
+    return traded(walk, moment, priceOf(stock, today, moment, valueAt(walk, moment)));
 }
 
 std::vector<Trade> PriceProcess::tradesUntil(const Stock &stock, int day, int moment)
@@ -60,7 +60,7 @@ std::vector<Trade> PriceProcess::tradesUntil(const Stock &stock, int day, int mo
     fill(walk, values, 0, last, walk.deviation / 2);
     trades.reserve(static_cast<std::size_t>(moment) + 1);
     for (int i = 0; i <= moment; ++i)
-        trades.push_back({priceOf(stock, today, i, values[static_cast<std::size_t>(i)]), volumeAt(walk, i)});
+        trades.push_back(traded(walk, i, priceOf(stock, today, i, values[static_cast<std::size_t>(i)])));
     return trades;
 }
 
@@ -152,14 +152,20 @@ void PriceProcess::fill(const Path &path, std::vector<std::int64_t> &values, int
     fill(path, values, middle, high, halved(deviation));
 }
 
-Shares PriceProcess::volumeAt(const Path &path, int moment) const
+Trade PriceProcess::traded(const Path &path, int moment, Cents price) const
 {
-    // An auction gathers what would have been spread over some minutes.
-    const Shares usual = path.sharesPerMoment * (m_calendar.isAuction(moment) ? 50 : 1);
     const std::uint64_t bits = draw(path.seed, Volume, moment);
-    const Shares shares = usual * between(bits & 0xffff, 0, 200) * between(bits >> 32, 0, 200) / 10'000;
-    const Shares roundUpNow = between(bits >> 16 & 0xffff, 0, 99); // keeps the mean of small volumes
-    return (shares + roundUpNow) / 100 * 100;
+    // An auction gathers about a hundredth of the day's volume.
+    const Shares usual = path.sharesPerMoment;
+    const Shares shares = m_calendar.isAuction(moment)
+                              ? usual * m_calendar.momentCount() / 100 * between(bits & 0xffff, 50, 150) / 100
+                              : usual * between(bits & 0xffff, 0, 200) * between(bits >> 32, 0, 200) / 10'000;
+    // Rounded to lots by chance, so that small volumes keep their mean.
+    const auto toLots = [](Shares exact, std::uint64_t chance) {
+        return (exact + between(chance, 0, 99)) / 100 * 100;
+    };
+    const Shares volume = toLots(shares, bits >> 16 & 0xffff);
+    return {price, volume, toLots(volume / 4, draw(path.seed, Quarter, moment))};
 }
 
 Cents PriceProcess::priceOf(const Stock &stock, const DayFrame &frame, int moment, std::int64_t value) const

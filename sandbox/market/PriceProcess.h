@@ -25,6 +25,7 @@ struct DayFrame {
 struct Trade {
     Cents price = 0;
     Shares volume = 0;
+    Shares openToUsers = 0; ///< of the volume, what resting orders of our users may have had: about a quarter
 };
 
 /** A hand on the price: from a moment on to the end of that day. */
@@ -79,7 +80,7 @@ private:
     std::int64_t valueAt(const Path &path, int moment) const;
     void fill(const Path &path, std::vector<std::int64_t> &values, int low, int high,
               std::int64_t deviation) const;
-    Shares volumeAt(const Path &path, int moment) const;
+    Trade traded(const Path &path, int moment, Cents price) const;
     Cents priceOf(const Stock &stock, const DayFrame &frame, int moment, std::int64_t value) const;
 
     std::uint64_t m_seed;

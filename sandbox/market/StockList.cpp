@@ -56,11 +56,11 @@ Cents inventPrice(std::uint64_t bits)
     return 200 + position * position * position / 40'000 + between(draw(bits, 2), 0, 999);
 }
 
-/** Between 20 million and 3 billion yuan a day, small ones more often. */
+/** Between 10 million and 1 billion yuan a day, small ones more often. */
 Cents inventTurnover(std::uint64_t bits)
 {
     const auto position = between(bits, 0, 1000);
-    return 100 * (20'000'000 + position * position * position * 3);
+    return 100 * (10'000'000 + position * position * position);
 }
 
 std::string contentVersion(const std::vector<Stock> &stocks)

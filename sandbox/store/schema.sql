@@ -81,6 +81,7 @@ CREATE TABLE IF NOT EXISTS deal (
     time         INTEGER NOT NULL
 );
 CREATE INDEX IF NOT EXISTS deal_of_day ON deal (user_id, day, id);
+CREATE INDEX IF NOT EXISTS deal_of_entrust ON deal (entrust_id);
 
 -- What our users took from a displayed level. A level drawn anew has another epoch.
 CREATE TABLE IF NOT EXISTS depth_used (

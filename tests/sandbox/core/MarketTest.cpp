@@ -1,0 +1,131 @@
+#include "market/Market.h"
+
+#include "TradingFixture.h"
+
+#include <gtest/gtest.h>
+
+namespace sandbox {
+namespace {
+
+constexpr std::uint64_t kSeed = 3;
+
+TEST(Market, PricesStayWithinTheLimitsAndDaysAreChained)
+{
+    Market market(kSeed, true);
+    const int last = market.calendar().momentCount() - 1;
+    int locked = 0;
+    for (std::size_t i = 0; i < market.stocks().all().size(); i += 250) {
+        const Stock &stock = market.stocks().all()[i];
+        for (int day = 0; day < 40; ++day) {
+            const DayFrame frame = market.prices().frame(stock, day);
+            const auto trades = market.prices().tradesUntil(stock, day, last);
+            for (const Trade &trade : trades) {
+                ASSERT_GE(trade.price, frame.limits.lower);
+                ASSERT_LE(trade.price, frame.limits.upper);
+                ASSERT_EQ(trade.volume % 100, 0);
+            }
+            if (!trades.empty()) {
+                EXPECT_EQ(market.prices().frame(stock, day + 1).previousClose, trades.back().price);
+                locked += frame.locked(trades.back().price);
+            }
+        }
+    }
+    EXPECT_LT(locked, 40) << "a locked close is an exception";
+}
+
+TEST(Market, OneMomentAskedAloneIsTheSameAsInTheWholeDay)
+{
+    Market market(kSeed, false);
+    Market other(kSeed, false);
+    const Stock &stock = market.stocks().all()[1234];
+    const auto trades = market.prices().tradesUntil(stock, 300, 28'799);
+    Cents previous = trades.front().price;
+    int changes = 0;
+    for (int moment = 0; moment < 28'800; moment += 7) {
+        const Trade alone = other.prices().tradeAt(stock, 300, moment);
+        ASSERT_EQ(alone.price, trades[static_cast<std::size_t>(moment)].price);
+        ASSERT_EQ(alone.volume, trades[static_cast<std::size_t>(moment)].volume);
+        changes += alone.price != previous;
+        previous = alone.price;
+    }
+    EXPECT_GT(changes, 400) << "the price moves";
+}
+
+TEST(Market, BooksAreOrderedWithinTheLimitsAndNeverCross)
+{
+    Market market(kSeed, false);
+    for (std::size_t i = 3; i < market.stocks().all().size(); i += 97) {
+        const Stock &stock = market.stocks().all()[i];
+        const Quote quote = market.quote(stock, shanghai(kTuesday, 10, 0) + static_cast<Millis>(i) * 977, {});
+        if (stock.suspended) {
+            EXPECT_EQ(quote.last, 0);
+            EXPECT_EQ(quote.bids[0], Level{});
+            continue;
+        }
+        EXPECT_TRUE(quote.last == quote.bids[0].price || quote.last == quote.asks[0].price) << stock.code;
+        EXPECT_TRUE(quote.asks[0].price == 0 || quote.bids[0].price < quote.asks[0].price);
+        for (std::size_t line = 0; line < kBookDepth; ++line) {
+            for (const auto *side : {&quote.bids, &quote.asks}) {
+                const Level &level = (*side)[line];
+                EXPECT_EQ(level.price == 0, level.volume == 0);
+                EXPECT_EQ(level.volume % 100, 0);
+                EXPECT_TRUE(level.price == 0 ||
+                            (level.price >= quote.lowerLimit && level.price <= quote.upperLimit));
+            }
+            const std::size_t better = line == 0 ? 0 : line - 1;
+            EXPECT_TRUE(line == 0 || quote.bids[line].price == 0 ||
+                        quote.bids[line].price < quote.bids[better].price);
+            EXPECT_TRUE(line == 0 || quote.asks[line].price == 0 ||
+                        quote.asks[line].price > quote.asks[better].price);
+        }
+    }
+}
+
+TEST(Market, DetailAddsUp)
+{
+    Market market(kSeed, true);
+    const Stock &stock = market.stocks().all()[2500];
+    const StockDetail detail = market.detail(stock, shanghai(kTuesday, 13, 30), {}, 60);
+    Shares volume = 0;
+    for (const MinutePoint &minute : detail.minutes)
+        volume += minute.volume;
+    EXPECT_EQ(volume, detail.today.volume);
+    EXPECT_EQ(detail.minutes.size(), 1u + 120u + 31u)
+        << "opening print, the morning, half an hour and a moment";
+    EXPECT_EQ(detail.minutes.back().price, detail.quote.last);
+    EXPECT_EQ(detail.minutes.back().average, (detail.today.turnover + volume / 2) / volume);
+    ASSERT_EQ(detail.candles.size(), 61u);
+    EXPECT_EQ(detail.candles.back(), detail.today);
+    for (const Candle &candle : detail.candles) {
+        EXPECT_LE(candle.low, std::min(candle.open, candle.close));
+        EXPECT_GE(candle.high, std::max(candle.open, candle.close));
+    }
+    EXPECT_EQ(detail.candles[59].close, detail.quote.previousClose);
+    EXPECT_LT(detail.candles[59].day, detail.today.day);
+}
+
+TEST(Market, AHandOnThePriceLastsToTheEndOfItsDayAndTheNextGoesOnFromThere)
+{
+    Market market(kSeed, false);
+    const Stock &stock = market.stocks().all()[10];
+    const Millis noon = shanghai(kTuesday, 12, 0);
+    const int day = market.calendar().dayOf(noon);
+    const int moment = market.calendar().momentOf(day, noon);
+    const Cents before = market.lastTrade(stock, noon - kMomentLength).price;
+    const Cents plainClose = market.prices().frame(stock, day + 1).previousClose;
+    const PriceLimits limits = market.frame(stock, noon).limits;
+
+    market.prices().add({stock.code, day, moment, PriceMove::Kind::SealUp, 0});
+    EXPECT_EQ(market.lastTrade(stock, noon - kMomentLength).price, before) << "the past stays";
+    EXPECT_EQ(market.lastTrade(stock, noon).price, limits.upper);
+    const Quote sealed = market.quote(stock, noon, {});
+    EXPECT_EQ(sealed.asks[0], Level{});
+    EXPECT_EQ(sealed.bids[0].price, limits.upper);
+    EXPECT_EQ(market.prices().frame(stock, day + 1).previousClose, limits.upper);
+
+    market.prices().add({stock.code, day, moment + 100, PriceMove::Kind::Release, 0});
+    EXPECT_EQ(market.prices().frame(stock, day + 1).previousClose, plainClose);
+}
+
+} // namespace
+} // namespace sandbox

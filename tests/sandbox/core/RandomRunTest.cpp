@@ -1,0 +1,99 @@
+#include "TradingFixture.h"
+#include "market/Random.h"
+
+namespace sandbox {
+namespace {
+
+/** Some users doing anything at any time; the books must be sound after every single step. */
+class RandomRun : public TradingFixture, public ::testing::WithParamInterface<int> {
+protected:
+    static constexpr int kUsers = 3;
+    static constexpr int kSteps = 250;
+
+    std::int64_t choose(std::int64_t low, std::int64_t high)
+    {
+        m_bits = scramble(m_bits);
+        return between(m_bits >> 8, low, high);
+    }
+    UserId anyUser() { return choose(1, kUsers); }
+    std::string anyCode() { return m_codes[static_cast<std::size_t>(choose(0, 3))]; }
+
+    void anyOrder()
+    {
+        const Quote shown = quote(anyCode());
+        const Cents around = shown.last != 0 ? shown.last : shown.previousClose;
+        const Cents price =
+            choose(1, 10) == 1 ? choose(shown.lowerLimit, shown.upperLimit) : around + choose(-6, 6);
+        const Shares shares = choose(1, 12) == 1 ? choose(1, 300) : 100 * choose(1, 60);
+        const Side side = choose(1, 2) == 1 ? Side::Buy : Side::Sell;
+        attempt(side, shown.code, yuanText(price), std::to_string(shares), anyUser());
+    }
+
+    void anything()
+    {
+        const auto what = choose(1, 100);
+        if (what <= 55) {
+            anyOrder();
+        } else if (what <= 70) {
+            const UserId user = anyUser();
+            const auto open = brokerage().openOrders(user);
+            if (!open.empty())
+                brokerage().cancelOrder(
+                    user,
+                    entrustNo(
+                        open[static_cast<std::size_t>(choose(0, static_cast<int>(open.size()) - 1))].id));
+        } else if (what <= 85) {
+            pass(choose(1, 40) * kSecond);
+        } else if (what <= 89) {
+            const Quote shown = quote(anyCode());
+            brokerage().movePrice(shown.code, choose(shown.lowerLimit, shown.upperLimit));
+        } else if (what <= 91) {
+            brokerage().sealBoard(anyCode(), static_cast<Brokerage::Seal>(choose(0, 2)));
+        } else if (what <= 93) {
+            brokerage().deposit(anyUser(), choose(1, 1'000'000), "test");
+        } else if (what <= 95) {
+            brokerage().withdraw(anyUser(), choose(1, 1'000'000), "test");
+        } else if (what <= 96) {
+            reopen();
+        } else if (what <= 98) {
+            passUntil(brokerage().nextTradingDay() + choose(0, 5) * kMinute);
+        } else {
+            pass(choose(1, 300) * kMinute);
+        }
+    }
+
+    std::uint64_t m_bits = 0;
+    std::vector<std::string> m_codes;
+};
+
+TEST_P(RandomRun, TheBooksAreSoundAfterEveryStep)
+{
+    m_bits = static_cast<std::uint64_t>(GetParam());
+    open(GetParam() % 3 == 0, shanghai(kTuesday, 9, 30));
+    for (const Board board : {Board::ShanghaiMain, Board::ShenzhenMain, Board::ChiNext, Board::Star})
+        m_codes.push_back(stock(board).code);
+    for (UserId user = 1; user <= kUsers; ++user) {
+        openAccount(100'000'000, user);
+        for (const std::string &code : m_codes)
+            brokerage().grantShares(user, code, 100 * choose(0, 50) + choose(1, 99), choose(1000, 5'000'000));
+    }
+    for (int step = 0; step < kSteps; ++step) {
+        anything();
+        expectSoundBooks();
+        ASSERT_FALSE(HasFailure()) << "after step " << step;
+    }
+    passUntil(brokerage().nextTradingDay() + 100 * kMinute);
+    for (int i = 0; i < 20; ++i)
+        anyOrder();
+    Database database(databasePath());
+    Statement deals(database, "SELECT count(*), count(DISTINCT side), count(DISTINCT day) FROM deal");
+    ASSERT_TRUE(deals.step());
+    EXPECT_GT(deals.integer(0), 20) << "much was traded";
+    EXPECT_EQ(deals.integer(1), 2);
+    EXPECT_GT(deals.integer(2), 1) << "over more than a day";
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomRun, ::testing::Range(1, 11));
+
+} // namespace
+} // namespace sandbox
