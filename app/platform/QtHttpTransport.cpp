@@ -74,17 +74,10 @@ private:
         const QUrl target = reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
         if (const auto failure = failureOf(reply->error()))
             return finish(*failure);
-        if (isFollowed(status) && target.isValid())
+        if ((status == 301 || status == 302 || status == 303) && target.isValid())
             return redirect(reply->url().resolved(target));
         finish(HttpResponse{status, reply->header(QNetworkRequest::ContentTypeHeader).toByteArray(),
                             reply->readAll()});
-    }
-
-    /// 307 and 308 ask for the same body once more: followed only when there is none.
-    bool isFollowed(int status) const
-    {
-        return status == 301 || status == 302 || status == 303 ||
-               ((status == 307 || status == 308) && request.method == "GET");
     }
 
     void redirect(const QUrl &target)
@@ -155,7 +148,7 @@ QtHttpTransport::QtHttpTransport(const DeveloperTrust &trust)
     : tls(QSslConfiguration::defaultConfiguration()), loopbackHttp(trust.loopbackHttp)
 {
     if (!trust.authorities.isEmpty())
-        tls.setCaCertificates(QSslConfiguration::systemCaCertificates() + trust.authorities);
+        tls.setCaCertificates(trust.authorities);
 }
 
 void QtHttpTransport::send(const HttpRequest &request, std::function<void(const HttpOutcome &)> done)

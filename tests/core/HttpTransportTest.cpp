@@ -1,0 +1,326 @@
+#include "app/platform/QtHttpTransport.h"
+#include "tests/core/WireServer.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QElapsedTimer>
+#include <QTimer>
+#include <gtest/gtest.h>
+#include <memory>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+class HttpTransportTest : public testing::Test {
+protected:
+    std::vector<HttpOutcome> sendAll(const std::vector<HttpRequest> &requests)
+    {
+        std::vector<HttpOutcome> outcomes;
+        for (const HttpRequest &request : requests)
+            transport.send(request, [&outcomes](const HttpOutcome &outcome) { outcomes.push_back(outcome); });
+        EXPECT_TRUE(outcomes.empty()) << "an outcome from inside send";
+        for (const QDeadlineTimer limit(20s); outcomes.size() < requests.size() && !limit.hasExpired();)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+        EXPECT_EQ(outcomes.size(), requests.size());
+        outcomes.resize(requests.size(), HttpFailure::Cancelled);
+        return outcomes;
+    }
+
+    HttpOutcome send(const HttpRequest &request) { return sendAll({request}).front(); }
+    HttpOutcome get(const QString &url) { return send({"GET", url, {}, {}}); }
+
+    /// Long enough for a second sending to show up.
+    static void linger()
+    {
+        for (const QDeadlineTimer limit(300ms); !limit.hasExpired();)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+    }
+
+    const Identity authority = makeAuthority("Test authority");
+    const Identity identity = makeServer(authority, "IP:127.0.0.1");
+    WireServer server{&identity};
+    QtHttpTransport transport{DeveloperTrust{{authority.certificate}, true}};
+};
+
+std::string described(const HttpOutcome &outcome)
+{
+    if (const auto *response = std::get_if<HttpResponse>(&outcome))
+        return std::to_string(response->status) + " " + response->body.toStdString();
+    static const char *const names[] = {"offline", "timed out", "tls", "connection", "cancelled"};
+    return names[static_cast<int>(std::get<HttpFailure>(outcome))];
+}
+
+HttpRequest form(const QString &url)
+{
+    return {
+        "POST", url, {{"Content-Type", "application/x-www-form-urlencoded"}, {"api_token", "t"}}, "a=1&b=2"};
+}
+
+TEST_F(HttpTransportTest, CarriesMethodHeadersAndBodyAndBringsAnyStatusBack)
+{
+    server.answer = [](QTcpSocket &socket, const WireServer::Request &request) {
+        const QByteArray status = request.line().split('/').value(1).split(' ').value(0);
+        const QByteArray challenge = status == "401" ? "WWW-Authenticate: Basic realm=\"x\"\r\n" : "";
+        respond(socket, status + " X", "Content-Type: text/html; charset=utf-8\r\n" + challenge,
+                "{" + status + "}");
+    };
+    for (const char *method : {"GET", "POST", "PUT"}) {
+        for (const int status : {200, 201, 400, 401, 403, 404, 407, 409, 418, 500, 502, 503, 599}) {
+            HttpRequest request = form(server.url(QString::number(status)));
+            request.method = method;
+            if (request.method == "GET")
+                request.body.clear();
+            server.requests.clear();
+            const HttpOutcome outcome = send(request);
+            EXPECT_EQ(described(outcome), std::to_string(status) + " {" + std::to_string(status) + "}")
+                << method;
+            ASSERT_EQ(server.requests.size(), 1) << method << status;
+            EXPECT_TRUE(server.requests.first().line().startsWith(method));
+            EXPECT_EQ(server.requests.first().body, request.body);
+            EXPECT_EQ(server.requests.first().header("api_token"), "t");
+        }
+    }
+    EXPECT_EQ(std::get<HttpResponse>(get(server.url(QStringLiteral("200")))).contentType,
+              "text/html; charset=utf-8");
+    EXPECT_EQ(described(get(server.url(QStringLiteral("204")))), "204 ");
+}
+
+TEST_F(HttpTransportTest, NeverSendsTwiceWhenTheConnectionIsResetAfterReading)
+{
+    int answered = 0;
+    // The first request warms the connection up: a reset on a connection in use is what tempts to send again.
+    server.answer = [&answered](QTcpSocket &socket, const WireServer::Request &) {
+        if (++answered == 1)
+            respond(socket, "200 OK", "Content-Type: application/json\r\n", "{}");
+        else
+            resetConnection(socket);
+    };
+    for (const char *method : {"GET", "POST", "PUT"}) {
+        for (const bool warm : {false, true}) {
+            answered = warm ? 0 : 1;
+            if (warm) {
+                EXPECT_EQ(described(get(server.url(QStringLiteral("warm")))), "200 {}");
+            }
+            server.requests.clear();
+            HttpRequest request = form(server.url(QStringLiteral("order")));
+            request.method = method;
+            if (request.method == "GET")
+                request.body.clear();
+            EXPECT_EQ(described(send(request)), "connection") << method << warm;
+            linger();
+            EXPECT_EQ(server.requests.size(), 1) << method << warm;
+        }
+    }
+}
+
+TEST_F(HttpTransportTest, NeverSendsTwiceWhenTheConnectionIsClosedAfterReading)
+{
+    server.answer = [](QTcpSocket &socket, const WireServer::Request &) { socket.disconnectFromHost(); };
+    for (const char *method : {"GET", "POST", "PUT"}) {
+        server.requests.clear();
+        HttpRequest request = form(server.url(QStringLiteral("order")));
+        request.method = method;
+        if (request.method == "GET")
+            request.body.clear();
+        EXPECT_EQ(described(send(request)), "connection") << method;
+        linger();
+        EXPECT_EQ(server.requests.size(), 1) << method;
+    }
+}
+
+TEST_F(HttpTransportTest, TakesAnAnswerThatBreaksOffForNone)
+{
+    for (const bool reset : {false, true}) {
+        server.answer = [reset](QTcpSocket &socket, const WireServer::Request &) {
+            socket.write("HTTP/1.1 200 OK\r\nContent-Type: application/json\r\nContent-Length: "
+                         "100\r\n\r\n{\"success\":");
+            socket.flush();
+            if (reset)
+                resetConnection(socket);
+            else
+                socket.disconnectFromHost();
+        };
+        server.requests.clear();
+        EXPECT_EQ(described(send(form(server.url(QStringLiteral("half"))))), "connection");
+        linger();
+        EXPECT_EQ(server.requests.size(), 1);
+    }
+    server.answer = [](QTcpSocket &socket, const WireServer::Request &) {
+        socket.write("no HTTP at all\r\n\r\n");
+    };
+    EXPECT_EQ(described(get(server.url(QStringLiteral("noise")))), "connection");
+}
+
+TEST_F(HttpTransportTest, EndsTheWholeRequestAtItsTimeOutEvenWhileBytesTrickle)
+{
+    for (const bool trickle : {false, true}) {
+        server.answer = [this, trickle](QTcpSocket &socket, const WireServer::Request &) {
+            socket.write("HTTP/1.1 200 OK\r\nContent-Length: 1000\r\n\r\n");
+            if (!trickle)
+                return;
+            auto *drip = new QTimer(&socket);
+            QObject::connect(drip, &QTimer::timeout, &server, [&socket] { socket.write("x"); });
+            drip->start(20ms);
+        };
+        HttpRequest request = form(server.url(QStringLiteral("slow")));
+        request.timeout = 200ms;
+        QElapsedTimer watch;
+        watch.start();
+        EXPECT_EQ(described(send(request)), "timed out");
+        EXPECT_GE(watch.elapsed(), 195);
+        EXPECT_LT(watch.elapsed(), 1000);
+    }
+    EXPECT_EQ(HttpRequest().timeout, 15s);
+}
+
+TEST_F(HttpTransportTest, RefusesCertificatesThatDoNotProveTheServer)
+{
+    const Identity stranger = makeServer(makeAuthority("Stranger"), "IP:127.0.0.1");
+    const Identity otherHost = makeServer(authority, "DNS:elsewhere.test");
+    const Identity expired = makeServer(authority, "IP:127.0.0.1", {-7200, -3600});
+    const Identity early = makeServer(authority, "IP:127.0.0.1", {3600, 7200});
+    for (const Identity *bad : {&stranger, &otherHost, &expired, &early}) {
+        WireServer wrong(bad);
+        EXPECT_EQ(described(send(form(wrong.url(QStringLiteral("login"))))), "tls");
+        EXPECT_TRUE(wrong.requests.isEmpty());
+    }
+    QtHttpTransport strict;
+    HttpOutcome outcome = HttpFailure::Cancelled;
+    bool done = false;
+    strict.send(form(server.url(QStringLiteral("login"))), [&](const HttpOutcome &what) {
+        outcome = what;
+        done = true;
+    });
+    for (const QDeadlineTimer limit(10s); !done && !limit.hasExpired();)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+    EXPECT_EQ(described(outcome), "tls") << "without the developer's authority";
+    EXPECT_TRUE(server.requests.isEmpty());
+}
+
+TEST_F(HttpTransportTest, FollowsRedirectsOnlyToSafePlacesAndKeepsTheTokenAtHome)
+{
+    WireServer other(&identity);
+    WireServer loopbackHttp;
+    QByteArray location;
+    QByteArray status;
+    server.answer = [&](QTcpSocket &socket, const WireServer::Request &request) {
+        if (request.line().contains("/target"))
+            respond(socket, "200 OK", "", "here");
+        else
+            respond(socket, status, "Location: " + location + "\r\n", "");
+    };
+    other.answer = loopbackHttp.answer = [](QTcpSocket &socket, const WireServer::Request &) {
+        respond(socket, "200 OK", "", "there");
+    };
+    struct Case {
+        const char *status;
+        QByteArray location;
+        std::string get;
+        std::string post;
+    };
+    const QByteArray foreign = other.url(QStringLiteral("target")).toLatin1();
+    const Case cases[] = {
+        {"302 Found", "/target", "200 here", "200 here"},
+        {"301 Moved", foreign, "200 there", "200 there"},
+        {"307 Again", "/target", "connection", "connection"},
+        {"308 Again", foreign, "connection", "connection"},
+        {"302 Found", loopbackHttp.url(QStringLiteral("target")).toLatin1(), "200 there", "200 there"},
+        {"302 Found", "http://service.example/target", "tls", "tls"},
+        {"302 Found", "file:///etc/passwd", "tls", "tls"},
+        {"302 Found", "/again", "connection", "connection"},
+        {"302 Found", "", "302 ", "302 "},
+    };
+    for (const Case &c : cases) {
+        status = c.status;
+        location = c.location;
+        HttpRequest request = form(server.url(QStringLiteral("start")));
+        EXPECT_EQ(described(send(request)), c.post) << c.status << c.location.toStdString();
+        request.method = "GET";
+        request.body.clear();
+        EXPECT_EQ(described(send(request)), c.get) << c.status << c.location.toStdString();
+    }
+    ASSERT_FALSE(other.requests.isEmpty());
+    for (const WireServer::Request &request : std::as_const(other.requests)) {
+        EXPECT_EQ(request.header("api_token"), "");
+        EXPECT_TRUE(request.line().startsWith("GET"));
+        EXPECT_EQ(request.body, "");
+    }
+    for (const WireServer::Request &request : std::as_const(server.requests))
+        EXPECT_EQ(request.header("api_token"), "t");
+}
+
+TEST_F(HttpTransportTest, LeavesHttpsOnlyForLoopbackInDeveloperBuilds)
+{
+    WireServer loopbackHttp;
+    EXPECT_EQ(described(get(loopbackHttp.url(QStringLiteral("x")))), "200 {\"success\":true}");
+    EXPECT_EQ(described(get(QStringLiteral("http://service.example/"))), "tls");
+    EXPECT_EQ(described(get(QStringLiteral("file:///etc/passwd"))), "tls");
+    EXPECT_EQ(described(get(QStringLiteral("not a url"))), "tls");
+}
+
+TEST_F(HttpTransportTest, ReusesItsConnectionAndKeepsNothingElse)
+{
+    server.answer = [](QTcpSocket &socket, const WireServer::Request &) {
+        respond(socket, "200 OK",
+                "Set-Cookie: session=1; Path=/\r\nCache-Control: max-age=600\r\nETag: \"1\"\r\n", "{}");
+    };
+    for (int i = 0; i < 10; ++i)
+        EXPECT_EQ(described(i % 2 ? get(server.url(QStringLiteral("x")))
+                                  : send(form(server.url(QStringLiteral("x"))))),
+                  "200 {}");
+    EXPECT_EQ(server.connections, 1);
+    EXPECT_EQ(server.requests.size(), 10);
+    for (const WireServer::Request &request : std::as_const(server.requests)) {
+        EXPECT_EQ(request.header("cookie"), "");
+        EXPECT_EQ(request.header("if-none-match"), "");
+    }
+}
+
+TEST_F(HttpTransportTest, SendsManyAtOnceEachExactlyOnce)
+{
+    std::vector<HttpRequest> requests;
+    for (int i = 0; i < 40; ++i)
+        requests.push_back(form(server.url(QString::number(i))));
+    for (const HttpOutcome &outcome : sendAll(requests))
+        EXPECT_EQ(described(outcome), "200 {\"success\":true}");
+    EXPECT_EQ(server.requests.size(), 40);
+}
+
+TEST_F(HttpTransportTest, CarriesLargeBodiesBothWays)
+{
+    const QByteArray large(10 * 1024 * 1024, 'x');
+    server.answer = [&large](QTcpSocket &socket, const WireServer::Request &) {
+        respond(socket, "200 OK", "", large);
+    };
+    HttpRequest request = form(server.url(QStringLiteral("photo")));
+    request.body = large;
+    const HttpOutcome outcome = send(request);
+    ASSERT_TRUE(std::holds_alternative<HttpResponse>(outcome)) << described(outcome);
+    EXPECT_EQ(std::get<HttpResponse>(outcome).body, large);
+    ASSERT_EQ(server.requests.size(), 1);
+    EXPECT_EQ(server.requests.first().body, large);
+}
+
+TEST_F(HttpTransportTest, TellsWhyNothingCameBack)
+{
+    const QString gone = std::make_unique<WireServer>(&identity)->url(QStringLiteral("x"));
+    EXPECT_EQ(described(get(gone)), "connection");
+    EXPECT_EQ(described(get(QStringLiteral("https://nowhere.invalid/"))), "offline");
+}
+
+TEST_F(HttpTransportTest, DropsWhatIsOnItsWayWhenItGoes)
+{
+    server.answer = [](QTcpSocket &, const WireServer::Request &) {};
+    auto shortLived = std::make_unique<QtHttpTransport>(DeveloperTrust{{authority.certificate}, false});
+    bool done = false;
+    shortLived->send(form(server.url(QStringLiteral("x"))), [&done](const HttpOutcome &) { done = true; });
+    for (const QDeadlineTimer limit(5s); server.requests.isEmpty() && !limit.hasExpired();)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+    shortLived.reset();
+    linger();
+    EXPECT_FALSE(done);
+    EXPECT_EQ(server.requests.size(), 1);
+}
+
+} // namespace
