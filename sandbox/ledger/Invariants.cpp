@@ -12,11 +12,21 @@ struct Check {
     const char *offenders; ///< a query whose rows are the offenders, the first column naming them
 };
 
+// What came from outside, for the queries below.
+constexpr const char *kOutside = R"sql(
+    WITH cash_moved AS MATERIALIZED (
+             SELECT json_extract(payload, '$.user') AS user_id, json_extract(payload, '$.amount') AS amount
+             FROM event WHERE kind = 'CashMoved'),
+         granted AS MATERIALIZED (
+             SELECT json_extract(payload, '$.user') AS user_id, json_extract(payload, '$.stock') AS stock,
+                    json_extract(payload, '$.shares') AS shares, time
+             FROM event WHERE kind = 'SharesGranted')
+    )sql";
+
 constexpr Check kChecks[] = {
     {"cash is what came in, plus sales, less buys and fees, of user", R"sql(
         SELECT user_id FROM account WHERE available + frozen <>
-            coalesce((SELECT sum(json_extract(payload, '$.amount')) FROM event
-                      WHERE kind = 'CashMoved' AND json_extract(payload, '$.user') = user_id), 0)
+            coalesce((SELECT sum(amount) FROM cash_moved WHERE cash_moved.user_id = account.user_id), 0)
             + coalesce((SELECT sum((CASE side WHEN 2 THEN price * shares ELSE -price * shares END)
                                    - commission - stamp_tax - transfer_fee)
                         FROM deal WHERE deal.user_id = account.user_id), 0))sql"},
@@ -31,9 +41,8 @@ constexpr Check kChecks[] = {
         SELECT id FROM entrust WHERE open = 1 AND side = 1 AND frozen_cash < price * (shares - filled))sql"},
     {"shares are granted and bought less sold, of position", R"sql(
         SELECT user_id || ' ' || stock FROM (SELECT user_id, stock, sum(shares) AS held FROM position GROUP BY 1, 2) AS p
-        WHERE held <> coalesce((SELECT sum(json_extract(payload, '$.shares')) FROM event
-                                WHERE kind = 'SharesGranted' AND json_extract(payload, '$.user') = p.user_id
-                                      AND json_extract(payload, '$.stock') = p.stock), 0)
+        WHERE held <> coalesce((SELECT sum(shares) FROM granted
+                                WHERE granted.user_id = p.user_id AND granted.stock = p.stock), 0)
                       + coalesce((SELECT sum(CASE side WHEN 1 THEN shares ELSE -shares END) FROM deal
                                   WHERE deal.user_id = p.user_id AND deal.stock = p.stock), 0))sql"},
     {"frozen shares are those of the open sells, of position", R"sql(
@@ -49,9 +58,8 @@ constexpr Check kChecks[] = {
      "SELECT id FROM position WHERE shares - bought_today - frozen < 0 OR frozen < 0"},
     {"nothing is sold on the day it was bought, deal", R"sql(
         SELECT id FROM deal AS d WHERE side = 2 AND shares >
-            coalesce((SELECT sum(json_extract(payload, '$.shares')) FROM event
-                      WHERE kind = 'SharesGranted' AND json_extract(payload, '$.user') = d.user_id
-                            AND json_extract(payload, '$.stock') = d.stock AND time <= d.time), 0)
+            coalesce((SELECT sum(shares) FROM granted
+                      WHERE granted.user_id = d.user_id AND granted.stock = d.stock AND granted.time <= d.time), 0)
             + coalesce((SELECT sum(CASE side WHEN 1 THEN shares ELSE -shares END) FROM deal
                         WHERE deal.user_id = d.user_id AND deal.stock = d.stock AND deal.id < d.id
                               AND (side = 2 OR day < d.day)), 0))sql"},
@@ -96,7 +104,7 @@ std::vector<std::string> brokenInvariants(Database &database)
 {
     std::vector<std::string> broken;
     for (const Check &check : kChecks) {
-        Statement offenders(database, check.offenders);
+        Statement offenders(database, std::string(kOutside) + check.offenders);
         while (offenders.step())
             broken.push_back(std::string(check.name) + " " + offenders.text(0));
     }

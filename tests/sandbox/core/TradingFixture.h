@@ -61,8 +61,9 @@ protected:
 
     void expectSoundBooks()
     {
-        Database database(databasePath());
-        EXPECT_EQ(brokenInvariants(database), std::vector<std::string>());
+        if (!m_books)
+            m_books = std::make_unique<Database>(databasePath());
+        EXPECT_EQ(brokenInvariants(*m_books), std::vector<std::string>());
     }
 
     Brokerage &brokerage() { return *m_brokerage; }
@@ -119,6 +120,7 @@ private:
     bool m_marketHours = false;
     std::unique_ptr<Clock> m_clock;
     std::unique_ptr<Brokerage> m_brokerage;
+    std::unique_ptr<Database> m_books; ///< a connection of its own, to look at what was committed
 };
 
 } // namespace sandbox
