@@ -16,17 +16,29 @@ function(zv_library name)
 endfunction()
 
 # zv_views(NAME URI LIBRARY FILES...) makes the QML module URI from the .qml files (and the headers that name the C++
-# types it shows) of the calling folder, on top of LIBRARY. What Qt compiles views to is not held to our warnings.
+# types it shows) of the calling folder, on top of LIBRARY. A view's URL is without its folder. What Qt compiles views to
+# is not held to our warnings.
 function(zv_views name uri library)
   set(qml ${ARGN})
   list(FILTER qml INCLUDE REGEX "\\.qml$")
   set(sources ${ARGN})
   list(FILTER sources EXCLUDE REGEX "\\.qml$")
+  foreach(file ${qml})
+    get_filename_component(view ${file} NAME)
+    set_source_files_properties(${file} PROPERTIES QT_RESOURCE_ALIAS ${view})
+  endforeach()
   string(REPLACE "." "/" path ${uri})
+  # The types of properties that other modules make known to views are looked up in these.
+  set(dependencies DEPENDENCIES QtQuick)
+  if(NOT uri STREQUAL "Zorvane.Ui")
+    list(APPEND dependencies Zorvane.Ui)
+  endif()
   qt_add_library(${name} STATIC)
-  qt_add_qml_module(${name} URI ${uri} VERSION 1.0 RESOURCE_PREFIX /qt/qml QML_FILES ${qml} SOURCES ${sources}
+  qt_add_qml_module(${name} URI ${uri} VERSION 1.0 RESOURCE_PREFIX /qt/qml QML_FILES ${qml} SOURCES ${sources} ${dependencies}
                     OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/qml/${path} IMPORT_PATH ${PROJECT_BINARY_DIR}/qml)
   target_link_libraries(${name} PUBLIC ${library} PRIVATE Qt6::Quick)
+  # The generated registration includes the headers by their bare names.
+  target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}/views)
 endfunction()
 
 # zv_test(NAME LIBRARIES... SOURCES files...) makes a GoogleTest program with the fakes of tests/support.

@@ -23,35 +23,30 @@ void TZHomeHeaderView::setModels(const TZUserIndexModel &index, const TZUserInde
 
 void TZHomeHeaderView::setRate(const QString &profitRate)
 {
-    QString text = QString::number(doubleValue(profitRate), 'f', 2);
+    const QString text = QString::number(doubleValue(profitRate), 'f', 2);
     // The sign is that of the figure shown: what rounds to zero is neither gain nor loss.
     const double shown = text.toDouble();
-    if (shown > 0) {
-        rateTrend = Trend::Rise;
-        rate = QStringLiteral("+%1%").arg(text);
-    } else if (shown < 0) {
-        rateTrend = Trend::Fall;
-        rate = QStringLiteral("%1%").arg(text);
-    } else {
-        rateTrend = Trend::Flat;
-        rate = QStringLiteral(" 0.00%");
-    }
+    rateTrend = shown > 0 ? 1 : shown < 0 ? -1 : 0;
+    rate = rateTrend > 0   ? QStringLiteral("+%1%").arg(text)
+           : rateTrend < 0 ? QStringLiteral("%1%").arg(text)
+                           : QStringLiteral(" 0.00%");
 }
 
 void TZHomeHeaderView::setStatus(const QString &userAccountStatus)
 {
     switch (integerValue(userAccountStatus)) {
     case 0:
-        status = Status::Normal;
         statusTitle.clear();
         break;
     case 1:
-        status = Status::Warning;
         statusTitle = QStringLiteral("  预警");
+        statusImage = QStringLiteral("home_warning");
+        atRisk = false;
         break;
     case 2:
-        status = Status::Risk;
         statusTitle = QStringLiteral("  风险");
+        statusImage = QStringLiteral("home_risk");
+        atRisk = true;
         break;
     default:
         break;

@@ -10,27 +10,26 @@ class TZHomeHeaderView {
     Q_PROPERTY(QString profitPrefix MEMBER profitPrefix)
     Q_PROPERTY(QString profit MEMBER profit)
     Q_PROPERTY(QString rate MEMBER rate)
-    Q_PROPERTY(Trend rateTrend MEMBER rateTrend)
-    Q_PROPERTY(Status status MEMBER status)
+    /// 1 a gain, -1 a loss, 0 neither.
+    Q_PROPERTY(int rateTrend MEMBER rateTrend)
+    /// The badge of an account in danger; no title, no badge.
     Q_PROPERTY(QString statusTitle MEMBER statusTitle)
+    Q_PROPERTY(QString statusImage MEMBER statusImage)
+    Q_PROPERTY(bool atRisk MEMBER atRisk)
     /// The figures below: the profit in yuan and the rate.
     Q_PROPERTY(QString midProfit MEMBER midProfit)
     Q_PROPERTY(QString midRate MEMBER midRate)
 public:
-    enum class Trend { Flat, Rise, Fall };
-    Q_ENUM(Trend)
-    enum class Status { Normal, Warning, Risk };
-    Q_ENUM(Status)
-
     void setModels(const TZUserIndexModel &index, const TZUserIndexAssetModel &asset);
 
     QString totalAsset;
     QString profitPrefix = QStringLiteral("浮盈  ");
     QString profit;
     QString rate;
-    Trend rateTrend = Trend::Flat;
-    Status status = Status::Normal;
+    int rateTrend = 0;
     QString statusTitle;
+    QString statusImage;
+    bool atRisk = false;
     QString midProfit;
     QString midRate;
 

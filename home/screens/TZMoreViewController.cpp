@@ -31,6 +31,7 @@ TZMoreViewController::TZMoreViewController(Router &appRouter) : router(appRouter
 void TZMoreViewController::viewDidLoad()
 {
     TZBaseTableViewController::viewDidLoad();
+    changeGrayBgColor();
     setTitle(QStringLiteral("更多"));
     setShowBackButton(true);
     rows.setRows({{QStringLiteral("给我们评分"), QStringLiteral("more_comment")},

@@ -31,6 +31,7 @@ QString TZMyAccountController::cell() const
 void TZMyAccountController::viewDidLoad()
 {
     TZBaseTableViewController::viewDidLoad();
+    changeGrayBgColor();
     setTitle(QStringLiteral("我的账户"));
     createNavLeftItemWithTitle({}, QStringLiteral("home_left"), {}, QStringLiteral("icon_more"));
     showAssets({});

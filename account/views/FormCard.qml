@@ -1,0 +1,18 @@
+import QtQuick
+import Zorvane.Ui
+
+/// The fields of a sign-in step on one rounded surface.
+Rectangle {
+    default property alias rows: column.data
+
+    width: parent ? parent.width : 0
+    height: column.height + 2 * Theme.spacingTiny
+    radius: Theme.radiusLarge
+    color: Theme.deep.surface
+
+    Column {
+        id: column
+        y: Theme.spacingTiny
+        width: parent.width
+    }
+}

@@ -1,0 +1,48 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zorvane.Ui
+
+/// The frame of the sign-in steps: a heading, what is to be done, the form. Scrolls when the window is short.
+PageFrame {
+    id: page
+
+    property string heading
+    property string caption
+    default property alias form: column.data
+
+    Flickable {
+        anchors.fill: parent
+        contentHeight: column.y + column.height + Theme.spacingHuge
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+
+        Column {
+            id: column
+            y: Theme.spacingHuge
+            width: Math.min(parent.width - 2 * Theme.margin, 448)
+            anchors.horizontalCenter: parent.horizontalCenter
+            spacing: Theme.spacingLarge
+
+            Text {
+                width: parent.width
+                text: page.heading
+                font: Theme.heading
+                color: Theme.deep.textPrimary
+                wrapMode: Text.Wrap
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
+            }
+            Text {
+                width: parent.width
+                visible: text !== ""
+                text: page.caption
+                font: Theme.body
+                color: Theme.deep.textSecondary
+                wrapMode: Text.Wrap
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
+        }
+    }
+}

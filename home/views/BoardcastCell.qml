@@ -1,0 +1,28 @@
+import QtQuick
+import Zorvane.Ui
+
+/// A loan that some user has taken lately.
+Item {
+    id: cell
+
+    required property string text
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: text
+
+    Icon {
+        id: avatar
+        anchors { left: parent.left; leftMargin: Theme.spacingSmall; verticalCenter: parent.verticalCenter }
+        name: "home_user"
+        size: 20
+    }
+    Text {
+        anchors { left: avatar.right; right: parent.right; verticalCenter: parent.verticalCenter }
+        anchors { leftMargin: Theme.spacingSmall; rightMargin: Theme.spacingSmall }
+        text: cell.text
+        font: Theme.body
+        color: Theme.deep.textPrimary
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+}

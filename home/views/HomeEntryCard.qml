@@ -1,0 +1,49 @@
+import QtQuick
+import Zorvane.Ui
+
+/// One of the two large ways in from the home page.
+Tappable {
+    id: card
+
+    required property string image
+    required property string caption
+
+    deep: true
+    ringRadius: Theme.radiusLarge
+    implicitHeight: 132
+    Accessible.name: text + " " + caption
+    background: Rectangle {
+        radius: Theme.radiusLarge
+        color: card.pressed ? card.tones.surfacePressed : card.tones.surface
+    }
+    contentItem: Item {
+        Column {
+            anchors.centerIn: parent
+            width: parent.width
+            spacing: Theme.spacingTiny
+
+            Icon {
+                anchors.horizontalCenter: parent.horizontalCenter
+                name: card.image
+                size: 48
+            }
+            Text {
+                width: parent.width
+                text: card.text
+                font: Theme.title
+                color: card.tones.textPrimary
+                horizontalAlignment: Text.AlignHCenter
+                Accessible.ignored: true
+            }
+            Text {
+                width: parent.width
+                text: card.caption
+                font: Theme.label
+                color: card.tones.textSecondary
+                horizontalAlignment: Text.AlignHCenter
+                elide: Text.ElideRight
+                Accessible.ignored: true
+            }
+        }
+    }
+}

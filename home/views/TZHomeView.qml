@@ -1,0 +1,58 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zorvane.Ui
+
+/// The first page: one of its two faces above the two ways in.
+PageFrame {
+    id: page
+
+    required controller
+    readonly property TZHomeViewController home: controller as TZHomeViewController
+
+    Loader {
+        anchors { left: parent.left; right: parent.right; top: parent.top; bottom: entries.top }
+        focus: true
+        sourceComponent: page.home.face === TZHomeViewController.SignedIn ? signedIn
+                         : page.home.face === TZHomeViewController.SignedOut ? signedOut : null
+    }
+    Row {
+        id: entries
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: Theme.margin }
+        spacing: Theme.spacing
+
+        HomeEntryCard {
+            width: (entries.width - entries.spacing) / 2
+            image: "home_pei_unlogin"
+            text: "配资"
+            caption: "首次五千元免息"
+            onClicked: page.home.capitalBtnDidClick()
+        }
+        HomeEntryCard {
+            width: (entries.width - entries.spacing) / 2
+            image: "home_chao_unlogin"
+            text: "炒股"
+            caption: "佣金低至万三"
+            onClicked: page.home.transactionBtnClick()
+        }
+    }
+    Component {
+        id: signedIn
+        RefreshableList {
+            controller: page.home
+            deep: true
+            model: 1
+            delegate: LoginViewCell {
+                width: ListView.view.width
+                height: Math.max(implicitHeight, ListView.view.height)
+                home: page.home
+            }
+        }
+    }
+    Component {
+        id: signedOut
+        UnloginView {
+            home: page.home
+        }
+    }
+}

@@ -1,0 +1,104 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zorvane.Ui
+
+PageFrame {
+    id: page
+
+    required controller
+    readonly property TZMessageDetailController message: controller as TZMessageDetailController
+
+    colour: Theme.pageGray
+
+    Flickable {
+        anchors { left: parent.left; right: parent.right; top: parent.top; bottom: buttons.top }
+        contentHeight: card.height + 2 * Theme.margin
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+
+        Rectangle {
+            id: card
+            x: Theme.margin
+            y: Theme.margin
+            width: parent.width - 2 * Theme.margin
+            height: column.height + 2 * Theme.spacingLarge
+            radius: Theme.radiusLarge
+            color: Theme.surface
+
+            Column {
+                id: column
+                anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.spacingLarge }
+                spacing: Theme.spacing
+
+                Row {
+                    width: parent.width
+                    spacing: Theme.spacing
+
+                    Icon {
+                        id: icon
+                        name: "message_detail"
+                        size: 40
+                    }
+                    Column {
+                        width: parent.width - icon.width - Theme.spacing
+                        spacing: Theme.spacingTiny
+
+                        Text {
+                            width: parent.width
+                            text: page.message.messageTitle
+                            textFormat: Text.PlainText
+                            font: Theme.title
+                            color: Theme.textPrimary
+                            wrapMode: Text.Wrap
+                            Accessible.role: Accessible.Heading
+                            Accessible.name: text
+                        }
+                        Text {
+                            width: parent.width
+                            text: page.message.time
+                            textFormat: Text.PlainText
+                            font: Theme.label
+                            color: Theme.textSecondary
+                            Accessible.role: Accessible.StaticText
+                            Accessible.name: text
+                        }
+                    }
+                }
+                Hairline {
+                    width: parent.width
+                }
+                Text {
+                    width: parent.width
+                    text: page.message.content
+                    textFormat: Text.PlainText
+                    font: Theme.body
+                    color: Theme.textPrimary
+                    lineHeight: 1.5
+                    wrapMode: Text.Wrap
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
+                }
+            }
+        }
+    }
+    Row {
+        id: buttons
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: Theme.margin }
+        spacing: Theme.spacing
+
+        SecondaryButton {
+            id: shareButton
+            width: visible ? (buttons.width - buttons.spacing) / 2 : 0
+            visible: page.message.shareable
+            text: "分享"
+            onClicked: page.message.shareBtnClick()
+        }
+        PrimaryButton {
+            width: shareButton.visible ? shareButton.width : buttons.width
+            fill: Theme.rise
+            text: page.message.homeTitle
+            onClicked: page.message.backToHome()
+        }
+    }
+}

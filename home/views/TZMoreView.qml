@@ -1,0 +1,42 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zorvane.Ui
+
+PageFrame {
+    id: page
+
+    required controller
+    readonly property TZMoreViewController more: controller as TZMoreViewController
+
+    ListView {
+        anchors.fill: parent
+        focus: true
+        topMargin: Theme.spacing
+        boundsBehavior: Flickable.StopAtBounds
+        model: page.more.moreRows
+        Accessible.role: Accessible.List
+        delegate: FormRow {
+            required property int index
+            required property string title
+            required property string image
+
+            width: ListView.view.width
+            chevron: true
+            label: title
+            icon: image
+            onClicked: page.more.didSelectRow(index)
+        }
+        footer: Item {
+            width: ListView.view.width
+            height: Theme.buttonHeight + 2 * Theme.spacingHuge
+
+            PrimaryButton {
+                anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter; margins: Theme.margin }
+                fill: Theme.rise
+                text: page.more.logoutTitle
+                onClicked: page.more.clickLogoutBtn()
+            }
+        }
+    }
+}

@@ -1,0 +1,77 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zorvane.Ui
+
+PageFrame {
+    id: page
+
+    required controller
+    readonly property TZMyAccountController account: controller as TZMyAccountController
+
+    RefreshableList {
+        id: list
+        anchors { left: parent.left; right: parent.right; top: parent.top; bottom: buttons.top }
+        focus: true
+        controller: page.account
+        model: page.account.assetRows
+        header: Column {
+            width: ListView.view.width
+
+            AccountTitle {
+                width: parent.width
+                nick: page.account.nick
+                cell: page.account.cell
+                onClicked: page.account.seePersonalInfo()
+            }
+            Item {
+                width: 1
+                height: Theme.spacing
+            }
+        }
+        delegate: AccountAssetRow {
+            width: ListView.view.width
+            onInfoClicked: page.account.clickAvailableBtn()
+        }
+        footer: Column {
+            width: ListView.view.width
+
+            Item {
+                width: 1
+                height: Theme.spacing
+            }
+            FormRow {
+                chevron: true
+                line: false
+                label: page.account.recordsTitle
+                onClicked: page.account.seeFundRecords()
+            }
+        }
+    }
+    Rectangle {
+        id: buttons
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+        height: Theme.buttonHeight + 2 * Theme.spacing
+        color: Theme.surface
+
+        Hairline {
+            width: parent.width
+        }
+        Row {
+            id: buttonRow
+            anchors { fill: parent; margins: Theme.spacing; leftMargin: Theme.margin; rightMargin: Theme.margin }
+            spacing: Theme.spacing
+
+            SecondaryButton {
+                width: (buttonRow.width - buttonRow.spacing) / 2
+                text: page.account.withdrawalsTitle
+                onClicked: page.account.withdrawalsBtnClick()
+            }
+            PrimaryButton {
+                width: (buttonRow.width - buttonRow.spacing) / 2
+                text: page.account.rechargeTitle
+                onClicked: page.account.rechargeBtnClick()
+            }
+        }
+    }
+}
