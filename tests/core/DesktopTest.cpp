@@ -1,0 +1,102 @@
+#include "app/platform/DesktopShare.h"
+#include "app/platform/MailFeedback.h"
+#include "app/platform/QtApplicationInfo.h"
+#include "app/platform/QtReachability.h"
+#include "app/platform/QtRunLoop.h"
+#include "tests/support/TestPlatform.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QElapsedTimer>
+#include <QFileInfo>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+void runFor(std::chrono::milliseconds time)
+{
+    for (const QDeadlineTimer limit(time, Qt::PreciseTimer); !limit.hasExpired();)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+}
+
+TEST(QtRunLoopTest, FiresOnTimeAndEndsWithItsHandle)
+{
+    QtRunLoop loop;
+    QElapsedTimer watch;
+    watch.start();
+    qint64 firedAt = -1;
+    int ticks = 0;
+    bool ended = false;
+    const auto once = loop.start(100ms, Repeat::Once, [&] { firedAt = watch.elapsed(); });
+    const auto forever = loop.start(20ms, Repeat::Forever, [&] { ++ticks; });
+    auto dropped = loop.start(50ms, Repeat::Once, [&] { ended = true; });
+    dropped.reset();
+    runFor(170ms);
+    EXPECT_NEAR(static_cast<double>(firedAt), 100, 15);
+    EXPECT_GE(ticks, 6);
+    EXPECT_LE(ticks, 8);
+    EXPECT_FALSE(ended);
+}
+
+TEST(QtRunLoopTest, LetsAFunctionEndOrReplaceItsOwnTimer)
+{
+    QtRunLoop loop;
+    int ticks = 0;
+    std::unique_ptr<RunLoopTimer> timer;
+    timer = loop.start(5ms, Repeat::Forever, [&] {
+        if (++ticks == 3)
+            timer = loop.start(5ms, Repeat::Once, [&] {
+                ticks += 100;
+                timer.reset();
+            });
+    });
+    runFor(80ms);
+    EXPECT_EQ(ticks, 103);
+}
+
+TEST(DesktopShareTest, PutsTheTextOnThePasteboardAndIntoAMailDraft)
+{
+    RecordingKits kits;
+    DesktopShare share(kits, kits);
+    share.share({QStringLiteral("一起炒股 & 赚"),
+                 QStringLiteral("标题?"),
+                 {},
+                 QStringLiteral("https://x.test/?a=1&b=2")});
+    EXPECT_EQ(
+        kits.calls,
+        QStringList({QStringLiteral("setText 一起炒股 & 赚\nhttps://x.test/?a=1&b=2"),
+                     QStringLiteral(
+                         "open mailto:?subject=%E6%A0%87%E9%A2%98%3F&body=%E4%B8%80%E8%B5%B7%E7%82%92%E8%82%"
+                         "A1%20%26%20%E8%B5%9A%0Ahttps%3A%2F%2Fx.test%2F%3Fa%3D1%26b%3D2")}));
+
+    kits.calls.clear();
+    MailFeedback(kits, QStringLiteral("help@zorvane.example"), QStringLiteral("a b")).show();
+    EXPECT_EQ(kits.calls,
+              QStringList({QStringLiteral("open mailto:help@zorvane.example?subject=a%20b&body=")}));
+}
+
+TEST(QtReachabilityTest, AlwaysReachesAServiceOnThisMachine)
+{
+    for (const char *url : {"https://127.0.0.1:8443/", "https://localhost/", "https://[::1]/"}) {
+        QtReachability reachability{QUrl(QLatin1String(url))};
+        reachability.start([](NetworkStatus) { FAIL(); });
+        EXPECT_EQ(reachability.currentStatus(), NetworkStatus::ReachableViaWiFi) << url;
+    }
+}
+
+TEST(QtApplicationInfoTest, EndsTheBaseUrlInASlashAndMakesItsDirectoryForTheOwnerOnly)
+{
+    const QTemporaryDir directory;
+    const QString documents = directory.filePath(QStringLiteral("a/b"));
+    const QtApplicationInfo information(QStringLiteral("https://service.test"), documents);
+    EXPECT_EQ(information.apiBaseUrl(), QStringLiteral("https://service.test/"));
+    EXPECT_EQ(QtApplicationInfo(QStringLiteral("https://service.test/"), documents).apiBaseUrl(),
+              QStringLiteral("https://service.test/"));
+    EXPECT_TRUE(QFileInfo(information.documentsDirectory()).isDir());
+    EXPECT_EQ(QFileInfo(documents).permissions() & QFile::Permissions(0x00ff), QFile::Permissions());
+    EXPECT_FALSE(information.buildVersion().isEmpty());
+    EXPECT_GT(information.systemVersion(), 0);
+}
+
+} // namespace

@@ -1,0 +1,154 @@
+#include "app/platform/QtSettingsStore.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QThread>
+#include <csignal>
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr auto writerFile = "SETTINGS_STORE_TEST_FILE";
+
+QVariantMap answerOf(qint64 round)
+{
+    QVariantList rows;
+    for (int i = 0; i < 200; ++i)
+        rows.append(QVariantMap{{QStringLiteral("row"), i}, {QStringLiteral("round"), round}});
+    return {{QStringLiteral("data"), rows}, {QStringLiteral("round"), round}};
+}
+
+/// What the killed process runs: two keys that belong together, told after each flush.
+TEST(SettingsWriter, DISABLED_WritesUntilItIsKilled)
+{
+    QtSettingsStore store(qEnvironmentVariable(writerFile));
+    for (qint64 round = store.value(QStringLiteral("round")).toLongLong() + 1;; ++round) {
+        store.setValue(QStringLiteral("answer"), answerOf(round));
+        store.setValue(QStringLiteral("round"), round);
+        store.synchronize();
+        std::printf("%lld\n", round);
+        std::fflush(stdout);
+    }
+}
+
+TEST(SettingsStore, IsWholeAfterAKillAtAnyMoment)
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("zorvane.settings"));
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QLatin1String(writerFile), path);
+    qint64 told = 0;
+    for (int kill = 0; kill < 50; ++kill) {
+        QProcess writer;
+        writer.setProcessEnvironment(environment);
+        writer.start(QCoreApplication::applicationFilePath(),
+                     {QStringLiteral("--gtest_filter=SettingsWriter.*"),
+                      QStringLiteral("--gtest_also_run_disabled_tests")});
+        QByteArray output;
+        while (output.count('\n') < 8 && writer.waitForReadyRead(10'000))
+            output += writer.readAll();
+        QThread::usleep(static_cast<unsigned long>(kill * 97));
+        ::kill(static_cast<pid_t>(writer.processId()), SIGKILL);
+        writer.waitForFinished();
+        output += writer.readAll();
+        const QByteArrayList lines = output.left(output.lastIndexOf('\n')).split('\n');
+        ASSERT_GT(lines.last().toLongLong(), told) << output.toStdString();
+        told = lines.last().toLongLong();
+
+        const QtSettingsStore store(path);
+        ASSERT_EQ(store.problem(), SettingsProblem::None) << "kill " << kill;
+        const qint64 round = store.value(QStringLiteral("round")).toLongLong();
+        ASSERT_GE(round, told) << "what was flushed is there";
+        ASSERT_EQ(store.value(QStringLiteral("answer")).toMap(), answerOf(round))
+            << "both keys are of one flush";
+        ASSERT_EQ(QFileInfo(path).permissions() & (QFile::ReadGroup | QFile::ReadOther),
+                  QFile::Permissions());
+        told = round;
+    }
+}
+
+TEST(SettingsStore, BringsValuesBackAsTheyWereSet)
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("deep/er/zorvane.settings"));
+    QVariant nested = QStringLiteral("bottom");
+    for (int depth = 0; depth < 1023; ++depth)
+        nested = QVariantList{nested};
+    const QVariantMap values{
+        {QStringLiteral("text"), QStringLiteral("中文 \"a=b;c\\\" 😀\n")},
+        {QStringLiteral("empty"), QStringLiteral("")},
+        {QStringLiteral("yes"), true},
+        {QStringLiteral("no"), false},
+        {QStringLiteral("number"), 12.5},
+        {QStringLiteral("one row"),
+         QVariantList{QVariantMap{{QStringLiteral("c"), QStringLiteral("600000")}}}},
+        {QStringLiteral("nulls"), QVariantList{QVariant::fromValue(nullptr), 1}},
+        {QStringLiteral("deep"), nested},
+        {QStringLiteral("dictionary"),
+         QVariantMap{{QStringLiteral("data"), QVariantMap{{QStringLiteral(""), 1}}}}},
+    };
+    {
+        QtSettingsStore store(path);
+        ASSERT_EQ(store.problem(), SettingsProblem::None);
+        for (auto entry = values.cbegin(); entry != values.cend(); ++entry)
+            store.setValue(entry.key(), entry.value());
+        store.setValue(QStringLiteral("removed"), 1);
+        store.remove(QStringLiteral("removed"));
+        store.synchronize();
+        EXPECT_EQ(store.problem(), SettingsProblem::None);
+    }
+    const QtSettingsStore store(path);
+    EXPECT_EQ(store.allKeys(), values.keys());
+    EXPECT_FALSE(store.value(QStringLiteral("removed")).isValid());
+    for (auto entry = values.cbegin(); entry != values.cend(); ++entry) {
+        EXPECT_EQ(store.value(entry.key()), entry.value()) << entry.key().toStdString();
+        EXPECT_EQ(store.value(entry.key()).typeId(), entry.value().typeId()) << entry.key().toStdString();
+    }
+    EXPECT_EQ(QFileInfo(path).permissions() & QFile::Permissions(0x0fff),
+              QFile::Permissions(QFile::ReadUser | QFile::WriteUser));
+    EXPECT_EQ(QFileInfo(QFileInfo(path).path()).permissions() & QFile::Permissions(0x00ff),
+              QFile::Permissions());
+}
+
+TEST(SettingsStore, TightensAFileThatOthersCouldRead)
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("zorvane.settings"));
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+    const QtSettingsStore store(path);
+    EXPECT_EQ(QFileInfo(path).permissions() & QFile::Permissions(0x00ff), QFile::Permissions());
+}
+
+TEST(SettingsStore, TellsWhatIsWrongWithItsFileAndLeavesItAlone)
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("zorvane.settings"));
+    {
+        QtSettingsStore store(path);
+        store.setValue(QStringLiteral("user"), QStringLiteral("somebody"));
+    }
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray good = file.readAll();
+    file.close();
+    for (const QByteArray &bad :
+         {good.chopped(1), good + 'x', QByteArray("[General]\nuser=x\n"), good.left(25)}) {
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(bad);
+        file.close();
+        EXPECT_EQ(QtSettingsStore(path).problem(), SettingsProblem::Garbled) << bad.toStdString();
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        EXPECT_EQ(file.readAll(), bad);
+        file.close();
+    }
+
+    const QString underFile = path + QStringLiteral("/below/zorvane.settings");
+    EXPECT_NE(QtSettingsStore(underFile).problem(), SettingsProblem::None);
+}
+
+} // namespace
