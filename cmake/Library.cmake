@@ -28,10 +28,10 @@ function(zv_views name uri library)
     set_source_files_properties(${file} PROPERTIES QT_RESOURCE_ALIAS ${view})
   endforeach()
   string(REPLACE "." "/" path ${uri})
-  # The types of properties that other modules make known to views are looked up in these.
-  set(dependencies DEPENDENCIES QtQuick)
+  # Where qmllint looks up the C++ types that a module does not make known itself.
+  set(dependencies)
   if(NOT uri STREQUAL "Zorvane.Ui")
-    list(APPEND dependencies Zorvane.Ui)
+    set(dependencies DEPENDENCIES Zorvane.Ui)
   endif()
   qt_add_library(${name} STATIC)
   qt_add_qml_module(${name} URI ${uri} VERSION 1.0 RESOURCE_PREFIX /qt/qml QML_FILES ${qml} SOURCES ${sources} ${dependencies}

@@ -129,6 +129,11 @@ void TZSelectStockController::refresh()
     Q_EMIT shownChanged();
 }
 
+bool TZSelectStockController::hasText() const
+{
+    return !searchText.trimmed().isEmpty();
+}
+
 QString TZSelectStockController::placeholder() const
 {
     return QStringLiteral("请输入股票代码或拼音");
@@ -143,14 +148,9 @@ void TZSelectStockController::setText(const QString &text)
     refresh();
 }
 
-void TZSelectStockController::clearText()
-{
-    setText({});
-}
-
 bool TZSelectStockController::isRecent() const
 {
-    return searchText.trimmed().isEmpty() && !stocks.isEmpty();
+    return !hasText() && !stocks.isEmpty();
 }
 
 QString TZSelectStockController::notice() const
@@ -167,38 +167,23 @@ QString TZSelectStockController::notice() const
     case ListState::Missing:
         return QStringLiteral("暂无股票列表");
     case ListState::Unusable:
-        return QStringLiteral("股票列表无法使用");
+        return QStringLiteral("本地股票列表无法使用，请重新启动或重新安装");
     case ListState::Ready:
         break;
     }
-    return searchText.trimmed().isEmpty() ? QStringLiteral("查找股票") : QStringLiteral("没有找到相关股票");
-}
-
-QString TZSelectStockController::noticeDetail() const
-{
-    if (!stocks.isEmpty())
-        return {};
-    switch (listState) {
-    case ListState::Fetching:
-        return QStringLiteral("马上就好");
-    case ListState::Offline:
-        return QStringLiteral("网络恢复后会自动获取股票列表");
-    case ListState::Failed:
-    case ListState::Missing:
-        return QStringLiteral("获取股票列表后才能查找");
-    case ListState::Unusable:
-        return QStringLiteral("本地数据文件已损坏");
-    case ListState::Ready:
-        break;
-    }
-    return searchText.trimmed().isEmpty() ? QStringLiteral("输入代码、名称或拼音首字母")
-                                          : QStringLiteral("请检查代码、名称或拼音首字母");
+    return hasText() ? QStringLiteral("没有找到相关股票") : QStringLiteral("输入股票代码、名称或拼音首字母");
 }
 
 bool TZSelectStockController::canRetry() const
 {
     return stocks.isEmpty() && (listState == ListState::Failed || listState == ListState::Offline ||
                                 listState == ListState::Missing);
+}
+
+QString TZSelectStockController::retryHint() const
+{
+    return listState == ListState::Offline ? QStringLiteral("网络恢复后会自动获取股票列表")
+                                           : QStringLiteral("获取股票列表后才能查找");
 }
 
 QString TZSelectStockController::footnote() const

@@ -32,10 +32,11 @@ class TZSelectStockController : public KRBaseController {
     /// What was found, or the stocks picked before while nothing is typed.
     Q_PROPERTY(GadgetListModel *rows READ rows CONSTANT)
     Q_PROPERTY(bool recent READ isRecent NOTIFY shownChanged)
-    /// The panel in the place of an empty list, "" when there are rows or the list is being fetched.
+    /// The text in the place of an empty list, "" when there are rows.
     Q_PROPERTY(QString notice READ notice NOTIFY shownChanged)
-    Q_PROPERTY(QString noticeDetail READ noticeDetail NOTIFY shownChanged)
+    /// Whether that panel offers to fetch the list again.
     Q_PROPERTY(bool canRetry READ canRetry NOTIFY shownChanged)
+    Q_PROPERTY(QString retryHint READ retryHint NOTIFY shownChanged)
     /// Below a list that was cut, otherwise "".
     Q_PROPERTY(QString footnote READ footnote NOTIFY shownChanged)
     /// The row that Enter picks; -1 for none.
@@ -56,12 +57,11 @@ public:
     GadgetListModel *rows() { return &shownRows; }
     bool isRecent() const;
     QString notice() const;
-    QString noticeDetail() const;
     bool canRetry() const;
+    QString retryHint() const;
     QString footnote() const;
     int currentRow() const { return selected; }
 
-    Q_INVOKABLE void clearText();
     Q_INVOKABLE void clearRecent();
     /// Up or down by `step` rows, staying inside the list.
     Q_INVOKABLE void moveCurrentRow(int step);
@@ -82,6 +82,7 @@ private:
     /// Whether there is a list to search in, and if not, why.
     enum class ListState { Ready, Fetching, Failed, Offline, Missing, Unusable };
 
+    bool hasText() const;
     void fetchIfEmpty();
     void readListState();
     void refresh();

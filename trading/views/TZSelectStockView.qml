@@ -5,4 +5,162 @@ import Zorvane.Ui
 
 PageFrame {
     id: page
+
+    readonly property TZSelectStockController screen: controller as TZSelectStockController
+
+    function move(event: KeyEvent) {
+        const page = Math.max(1, Math.floor(list.height / Theme.rowHeight))
+        const steps = {
+            [Qt.Key_Up]: -1,
+            [Qt.Key_Down]: 1,
+            [Qt.Key_PageUp]: -page,
+            [Qt.Key_PageDown]: page
+        }
+        event.accepted = event.key in steps
+        if (event.accepted)
+            screen.moveCurrentRow(steps[event.key])
+    }
+
+    Column {
+        id: top
+        width: parent.width
+
+        TextInputRow {
+            id: field
+            focus: true
+            icon: "search"
+            text: page.screen.text
+            placeholder: page.screen.placeholder
+            inputMethodHints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
+            onEdited: value => page.screen.text = value
+            onAccepted: page.screen.pickCurrentRow()
+            Keys.onPressed: event => page.move(event)
+        }
+        SectionHeader {
+            visible: page.screen.recent
+            text: "最近选择"
+
+            TextButton {
+                anchors { right: parent.right; rightMargin: Theme.spacingSmall; verticalCenter: parent.verticalCenter }
+                text: "清除记录"
+                font: Theme.label
+                onClicked: page.screen.clearRecent()
+            }
+        }
+    }
+    ListView {
+        id: list
+        anchors { left: parent.left; right: parent.right; top: top.bottom; bottom: parent.bottom }
+        clip: true
+        activeFocusOnTab: count > 0
+        boundsBehavior: Flickable.StopAtBounds
+        reuseItems: true
+        model: page.screen.rows
+        currentIndex: page.screen.currentRow
+        highlightMoveDuration: 0
+        onDragStarted: page.screen.scrollViewWillBeginDragging()
+        Accessible.role: Accessible.List
+        Accessible.name: page.screen.title
+        Keys.onPressed: event => page.move(event)
+        Keys.onReturnPressed: page.screen.pickCurrentRow()
+        Keys.onEnterPressed: page.screen.pickCurrentRow()
+
+        delegate: StockDelegate {
+            width: ListView.view.width
+            current: ListView.isCurrentItem
+            onClicked: page.screen.pick(index)
+        }
+        footer: Text {
+            width: ListView.view.width
+            height: text === "" ? 0 : Theme.rowHeight
+            text: page.screen.footnote
+            font: Theme.label
+            color: Theme.textSecondary
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
+            Accessible.ignored: text === ""
+        }
+    }
+    MVNoDataView {
+        anchors.fill: list
+        visible: page.screen.notice !== "" && !page.screen.canRetry
+        text: page.screen.notice
+    }
+    MVNoNetView {
+        anchors.fill: list
+        visible: page.screen.canRetry
+        text: page.screen.notice
+        hint: page.screen.retryHint
+        onReloadData: page.screen.retry()
+    }
+
+    /// A text whose middle piece stands out.
+    component Pieces: Row {
+        id: pieces
+
+        required property list<string> texts
+        required property font style
+        property color colour: Theme.textPrimary
+
+        Repeater {
+            model: pieces.texts
+
+            Text {
+                required property int index
+                required property string modelData
+
+                text: modelData
+                font: pieces.style
+                color: index === 1 ? Theme.link : pieces.colour
+                Accessible.ignored: true
+            }
+        }
+    }
+    component StockDelegate: Tappable {
+        id: row
+
+        required property int index
+        required property list<string> code
+        required property list<string> name
+        required property list<string> initials
+        required property string sentence
+        property bool current: false
+
+        implicitHeight: Theme.rowHeight
+        ringInset: 2
+        activeFocusOnTab: false
+        text: sentence
+        Accessible.role: Accessible.ListItem
+        Accessible.selected: current
+
+        background: Rectangle {
+            color: row.pressed || row.current ? Theme.surfacePressed : Theme.surface
+
+            Hairline {
+                anchors { left: parent.left; right: parent.right; bottom: parent.bottom; leftMargin: Theme.margin }
+            }
+        }
+        contentItem: Item {
+            Column {
+                anchors { left: parent.left; leftMargin: Theme.margin; verticalCenter: parent.verticalCenter }
+                spacing: 2
+
+                Pieces {
+                    texts: row.name
+                    style: Theme.body
+                }
+                Pieces {
+                    texts: row.code
+                    style: Theme.caption
+                    colour: Theme.textSecondary
+                }
+            }
+            Pieces {
+                anchors { right: parent.right; rightMargin: Theme.margin; verticalCenter: parent.verticalCenter }
+                texts: row.initials
+                style: Theme.label
+                colour: Theme.textSecondary
+            }
+        }
+    }
 }
