@@ -11,7 +11,7 @@ bool namesJson(const QByteArray &contentType)
 {
     static constexpr std::array<QByteArrayView, 4> accepted{"application/json", "text/json",
                                                             "text/javascript", "text/html"};
-    const QByteArray type = contentType.left(contentType.indexOf(';')).trimmed().toLower();
+    const QByteArray type = contentType.split(';').first().trimmed().toLower();
     return std::find(accepted.begin(), accepted.end(), type) != accepted.end();
 }
 

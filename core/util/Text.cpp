@@ -168,8 +168,14 @@ void fillGadget(const QMetaObject &type, void *gadget, const QVariantMap &map)
     for (int i = 0; i < type.propertyCount(); ++i) {
         const QMetaProperty property = type.property(i);
         const auto entry = map.constFind(QLatin1String(property.name()));
-        if (entry != map.constEnd() && property.typeId() == QMetaType::QString)
-            property.writeOnGadget(gadget, textForm(*entry));
+        if (entry == map.constEnd() || property.typeId() != QMetaType::QString)
+            continue;
+        const QString text = textForm(*entry);
+        // A property of a member is written only where it differs, and an empty text equals the null one that
+        // is there.
+        if (text.isEmpty())
+            property.writeOnGadget(gadget, QStringLiteral(" "));
+        property.writeOnGadget(gadget, text.isEmpty() ? QStringLiteral("") : text);
     }
 }
 

@@ -191,6 +191,8 @@ void RecordingKits::registerDeviceToken(const QByteArray &token)
 
 void RecordingKits::setAlias(const QString &alias, const QString &type)
 {
+    if (onAlias)
+        onAlias(alias);
     calls.append(QStringLiteral("setAlias %1 %2").arg(alias, type));
 }
 

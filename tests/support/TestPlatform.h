@@ -131,6 +131,7 @@ public:
     void endLogPageView(const QString &page) override;
 
     QStringList calls;
+    std::function<void(const QString &alias)> onAlias;
     QList<PushCategory> categories;
     ShareContent shared;
     std::function<void(const QVariantMap &)> push;

@@ -1,0 +1,214 @@
+#include "core/util/Text.h"
+
+#include "core/session/TZUserModel.h"
+#include "core/util/Amount.h"
+#include "core/util/Colour.h"
+#include "core/util/Service.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+
+namespace {
+
+const QVariant null = QVariant::fromValue(nullptr);
+constexpr qint64 most = std::numeric_limits<qint64>::max();
+constexpr qint64 least = std::numeric_limits<qint64>::min();
+
+QVariant text(const char *utf8)
+{
+    return QString::fromUtf8(utf8);
+}
+
+TEST(Text, WritesValuesAsThePlatformDoes)
+{
+    const std::pair<QVariant, const char *> cases[] = {
+        {true, "1"},
+        {false, "0"},
+        {0, "0"},
+        {-7, "-7"},
+        {7.0, "7"},
+        {0.29, "0.29"},
+        {12345678.9, "12345678.9"},
+        {-0.0, "0"},
+        {1e15, "1000000000000000"},
+        {most, "9223372036854775807"},
+        {1e300, "1e+300"},
+        {0.1 + 0.2, "0.30000000000000004"},
+        {text(" a "), " a "},
+        {null, ""},
+        {QVariant(), ""},
+        {QVariantMap{{QStringLiteral("a"), 1}}, ""},
+        {QVariantList{1}, ""},
+    };
+    for (const auto &[value, written] : cases)
+        EXPECT_EQ(textForm(value).toStdString(), written);
+}
+
+TEST(Text, ReadsLeadingNumbers)
+{
+    struct Case {
+        QVariant value;
+        double number;
+        qint64 whole;
+    };
+    const Case cases[] = {
+        {text(""), 0, 0},
+        {text("  12.34元"), 12.34, 12},
+        {text("\n\t 5"), 5, 5},
+        {text("-3.9"), -3.9, -3},
+        {text("+.5"), 0.5, 0},
+        {text("5."), 5, 5},
+        {text("."), 0, 0},
+        {text("-"), 0, 0},
+        {text("1e3"), 1000, 1},
+        {text("1e"), 1, 1},
+        {text("1e+x"), 1, 1},
+        {text("1,234"), 1, 1},
+        {text("0x1A"), 0, 0},
+        {text("nan"), 0, 0},
+        {text("inf"), 0, 0},
+        {text("１２"), 0, 0},
+        {text("abc1"), 0, 0},
+        {text("1e999"), std::numeric_limits<double>::max(), 1},
+        {text("99999999999999999999"), 99999999999999999999.0, most},
+        {text("-99999999999999999999"), -99999999999999999999.0, least},
+        {text("9223372036854775807"), 9223372036854775807.0, most},
+        {true, 1, 1},
+        {12.9, 12.9, 12},
+        {-12.9, -12.9, -12},
+        {1e300, 1e300, most},
+        {std::nan(""), 0, 0},
+        {INFINITY, std::numeric_limits<double>::max(), most},
+        {null, 0, 0},
+        {QVariant(), 0, 0},
+        {QVariantMap(), 0, 0},
+        {QVariantList{7}, 0, 0},
+    };
+    for (const Case &c : cases) {
+        EXPECT_EQ(doubleValue(c.value), c.number) << textForm(c.value).toStdString();
+        EXPECT_EQ(integerValue(c.value), c.whole) << textForm(c.value).toStdString();
+    }
+}
+
+TEST(Text, ReadsTruth)
+{
+    for (const QVariant &yes :
+         {QVariant(true), QVariant(1), QVariant(-1), QVariant(0.5), text("1"), text("true"), text("YES"),
+          text("y"), text("T"), text(" \t+0007"), text("-9"), text("1false")})
+        EXPECT_TRUE(boolValue(yes)) << textForm(yes).toStdString();
+    for (const QVariant &no : {QVariant(), null, QVariant(false), QVariant(0), QVariant(0.0), text(""),
+                               text("0"), text("false"), text("no"), text("00"), text(" a1"),
+                               QVariant(QVariantList{1}), QVariant(QVariantMap{{QStringLiteral("a"), 1}})})
+        EXPECT_FALSE(boolValue(no)) << textForm(no).toStdString();
+}
+
+TEST(Text, FillsModelsByNameAndKeepsWhatIsAbsentApartFromWhatIsEmpty)
+{
+    const auto user =
+        fromDictionary<TZUserModel>(QVariantMap{{QStringLiteral("api_token"), QStringLiteral("")},
+                                                {QStringLiteral("cell"), 13812345678LL},
+                                                {QStringLiteral("has_register"), true},
+                                                {QStringLiteral("name"), QVariantMap{}},
+                                                {QStringLiteral("unknown"), 1}});
+    EXPECT_EQ(user.cell, QStringLiteral("13812345678"));
+    EXPECT_EQ(user.has_register, QStringLiteral("1"));
+    const QVariantMap back = toDictionary(user);
+    EXPECT_EQ(back.keys(), QStringList({QStringLiteral("api_token"), QStringLiteral("cell"),
+                                        QStringLiteral("has_register"), QStringLiteral("name")}));
+    EXPECT_TRUE(toDictionary(fromDictionary<TZUserModel>(text("no dictionary"))).isEmpty());
+    EXPECT_EQ(fromArray<TZUserModel>(QVariantList{1, null, QVariantMap()}).size(), 3);
+    EXPECT_TRUE(fromArray<TZUserModel>(QVariantMap()).isEmpty());
+}
+
+TEST(Amount, GroupsAndRoundsHalfToEvenInTheDigitsThatAreSeen)
+{
+    const std::pair<QVariant, const char *> cases[] = {
+        {1234567.8, "1,234,567.80"},
+        {0, "0.00"},
+        {text(""), "0.00"},
+        {text("abc"), "0.00"},
+        {null, "0.00"},
+        {std::nan(""), "0.00"},
+        {0.125, "0.12"},
+        {0.135, "0.14"},
+        {0.375, "0.38"},
+        {2.675, "2.68"},
+        {2.665, "2.66"},
+        {text("1.005"), "1.00"},
+        {text("1.0050001"), "1.01"},
+        {0.005, "0.00"},
+        {0.015, "0.02"},
+        {9.995, "10.00"},
+        {999.995, "1,000.00"},
+        {999999.999, "1,000,000.00"},
+        {-1234.5, "-1,234.50"},
+        {-123.0, "-123.00"},
+        {-0.001, "0.00"},
+        {-0.006, "-0.01"},
+        {1e-300, "0.00"},
+        {100, "100.00"},
+        {1000, "1,000.00"},
+        {1e15, "1,000,000,000,000,000.00"},
+        {1e21, "1,000,000,000,000,000,000,000.00"},
+        {true, "1.00"},
+        {QVariantList(), "0.00"},
+    };
+    for (const auto &[value, written] : cases)
+        EXPECT_EQ(Service::formatAmountNumber(value).toStdString(), written);
+    EXPECT_EQ(Service::formatAmountNumber(1e308).size(), 309 + 102 + 3);
+}
+
+TEST(Amount, CutsOnButtonsInSinglePrecisionAndRoundsOnLabels)
+{
+    struct Case {
+        QVariant amount;
+        const char *button;
+        const char *label;
+    };
+    const Case cases[] = {
+        {text("12.349"), "12.34", "12.35"},
+        {text("1234.567"), "1,234.56", "1,234.57"},
+        {text("0.29"), "0.29", "0.29"},
+        {0.29, "0.29", "0.29"},
+        // What a float holds: 1234567.875, times a hundred rounded to a multiple of 8.
+        {text("1234567.89"), "1,234,567.84", "1,234,567.89"},
+        {text("-12.341"), "-12.35", "-12.34"},
+        {text("0"), "0.00", "0.00"},
+        {text("0.125"), "0.12", "0.12"},
+        {text("0.375"), "0.37", "0.38"},
+        {text("junk"), "0.00", "0.00"},
+        {text(""), "", ""},
+        {text("  "), "", ""},
+        {null, "", ""},
+        {QVariant(), "", ""},
+    };
+    for (const Case &c : cases) {
+        EXPECT_EQ(buttonAmount(c.amount).toStdString(), c.button);
+        EXPECT_EQ(labelAmount(c.amount).toStdString(), c.label);
+    }
+    EXPECT_EQ(buttonAmount(1e300), labelAmount(1e300));
+    EXPECT_EQ(buttonAmountWithYuan(text("12.349")), QStringLiteral("12.34元"));
+    EXPECT_EQ(labelAmountWithYuan(text("12.349")), QStringLiteral("12.35元"));
+    EXPECT_EQ(labelAmountWithYuan(text("")), QString());
+}
+
+TEST(Amount, ClearsSpacesButKeepsLineBreaks)
+{
+    EXPECT_EQ(clearSpaceAndWrap(QStringLiteral("\t 1 2\n3 4\t")), QStringLiteral("12\n34"));
+    EXPECT_EQ(clearSpaceAndWrap(QStringLiteral("\n")), QStringLiteral("\n"));
+    EXPECT_EQ(clearSpaceAndWrap(QString()), QString());
+}
+
+TEST(ColourTest, ReadsSixDigitsAndNothingElse)
+{
+    const Colour blue{0x27 / 255.0, 0x87 / 255.0, 0xda / 255.0, 1};
+    for (const char *good : {"2787DA", "#2787da", "0x2787da", " 0X2787DA\n", "0x#2787DA"})
+        EXPECT_EQ(KRColor_hexValue(QString::fromLatin1(good)), blue) << good;
+    for (const char *bad :
+         {"", "#FFF", "2787D", "2787DA0", "2787DA00", "GGGGGG", "#0x2787DA", "0x2787", "０１２３４５"})
+        EXPECT_EQ(colorWithHexString(QString::fromUtf8(bad)), Colour()) << bad;
+    EXPECT_EQ(colorWithHexString(QStringLiteral("2787DA"), 0.25).alpha, 0.25);
+}
+
+} // namespace
