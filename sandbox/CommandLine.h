@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <optional>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -13,7 +12,7 @@ struct Options {
     std::string host = "127.0.0.1";
     int port = 8443; ///< 0: any free port
     std::filesystem::path dataDir;
-    std::optional<std::uint64_t> seed; ///< nothing: the database's own, or 1 for a new one
+    std::uint64_t seed = 1;
     bool marketHours = false;
     std::filesystem::path readyFile; ///< gets the ready line when not empty
     bool quiet = false;

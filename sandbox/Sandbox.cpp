@@ -89,13 +89,15 @@ private:
     std::thread m_thread;
 };
 
+/// Every step may be repeated, so that a start that was cut short is made good by the next.
 void makeDemoUser(http::Service &service)
 {
-    const identity::User user = http::registerUser(service, demoCell, {});
+    const identity::User user = service.users.create(demoCell, {});
+    service.brokerage.createDemoAccount(user.id);
     service.users.setNick(user.id, "体验用户");
-    service.users.setTradePassword(user.id, "123456");
     service.users.setRealName(user.id, "张三丰", "110101199003070011");
     service.users.setCard(user.id, {"招商银行", "CMB", "7890"});
+    http::welcome(service, user.id);
     messages::Message news;
     news.user = user.id;
     news.source = messages::source::activity;
@@ -104,6 +106,7 @@ void makeDemoUser(http::Service &service)
     news.content = "选择一只股票，点一下盘口中的价格，填写数量并确认。买入数量须为100股的整数倍，当天买入的股"
                    "票下一个交易日才能卖出。";
     service.messages.add(std::move(news));
+    service.users.setTradePassword(user.id, "123456");
 }
 
 } // namespace
@@ -112,7 +115,7 @@ struct Sandbox::Parts {
     Parts(const Options &options, const std::function<void(const std::string &)> &print)
         : directory(options.dataDir), caFile(options.dataDir / "ca.pem"),
           certificate(tls::serverIdentity(options.dataDir, tls::Clock::now())),
-          brokerage({directory.database(), options.seed.value_or(1), options.marketHours}, clock),
+          brokerage({directory.database(), options.seed, options.marketHours}, clock),
           users(directory.database(), realNow),
           sms(directory.database(), realNow,
               [print](const identity::Sms &sent) { print("SMS " + sent.cell + ": " + sent.code); }),
@@ -121,10 +124,11 @@ struct Sandbox::Parts {
                                          messages, push,      orderWatch, faults, options.dataDir / "images"},
           server(certificate, router, faults, options.quiet ? http::Server::Log{} : http::Server::Log{print})
     {
-        if (users.all().empty())
+        const auto demo = users.byCell(demoCell);
+        if (!demo || !demo->hasTradePassword)
             makeDemoUser(service);
         for (const identity::User &user : users.all())
-            user.cell == demoCell ? brokerage.createDemoAccount(user.id) : brokerage.createAccount(user.id);
+            brokerage.createAccount(user.id);
         http::addAccountRoutes(router, service);
         http::addStockRoutes(router, service);
         http::addTradingRoutes(router, service);

@@ -39,14 +39,19 @@ identity::User registerUser(Service &service, const std::string &cell, const std
 {
     identity::User user = service.users.create(cell, invitedBy);
     service.brokerage.createAccount(user.id);
-    messages::Message welcome;
-    welcome.user = user.id;
-    welcome.source = messages::source::system;
-    welcome.title = "欢迎使用Zorvane";
-    welcome.summary = "您的账户已开通";
-    welcome.content = "您的账户已开通。这里是模拟环境：公司、行情和资金都不是真实的，请放心尝试。";
-    service.messages.add(std::move(welcome));
+    welcome(service, user.id);
     return user;
+}
+
+void welcome(Service &service, UserId user)
+{
+    messages::Message message;
+    message.user = user;
+    message.source = messages::source::system;
+    message.title = "欢迎使用Zorvane";
+    message.summary = "您的账户已开通";
+    message.content = "您的账户已开通。这里是模拟环境：公司、行情和资金都不是真实的，请放心尝试。";
+    service.messages.add(std::move(message));
 }
 
 void sendMessage(Service &service, messages::Message message)

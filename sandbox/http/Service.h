@@ -40,6 +40,9 @@ void requireTradePassword(Service &service, const Call &call, const identity::Us
 /// Registers the number: the user, an empty account, a word of welcome.
 identity::User registerUser(Service &service, const std::string &cell, const std::string &invitedBy);
 
+/// Gives a new user the first message.
+void welcome(Service &service, UserId user);
+
 /// Keeps a message and pushes it (pageId 2) to the user's open clients.
 void sendMessage(Service &service, messages::Message message);
 

@@ -1,0 +1,185 @@
+#include "RunningSandbox.h"
+
+#include <array>
+#include <csignal>
+#include <fstream>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace sandbox::test {
+namespace {
+
+/// The program as a process of its own; its output is collected in files.
+class Process {
+public:
+    explicit Process(const std::vector<std::string> &arguments)
+    {
+        m_pid = ::fork();
+        if (m_pid == 0) {
+            std::vector<char *> words{const_cast<char *>(SANDBOX_PROGRAM)};
+            for (const std::string &argument : arguments)
+                words.push_back(const_cast<char *>(argument.c_str()));
+            words.push_back(nullptr);
+            static_cast<void>(::freopen(out().c_str(), "w", stdout));
+            static_cast<void>(::freopen(err().c_str(), "w", stderr));
+            ::execv(SANDBOX_PROGRAM, words.data());
+            ::_exit(127);
+        }
+    }
+    ~Process()
+    {
+        if (m_pid > 0) {
+            ::kill(m_pid, SIGKILL);
+            ::waitpid(m_pid, nullptr, 0);
+        }
+    }
+    Process(const Process &) = delete;
+    Process &operator=(const Process &) = delete;
+
+    /// The exit status, or minus the signal that ended it.
+    int wait()
+    {
+        int status = 0;
+        ::waitpid(m_pid, &status, 0);
+        m_pid = 0;
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+    }
+    void signal(int number) { ::kill(m_pid, number); }
+
+    [[nodiscard]] std::string printed() const { return read(out()); }
+    [[nodiscard]] std::string complained() const { return read(err()); }
+    /// Waits for the line that says that it is ready.
+    std::string ready()
+    {
+        for (int i = 0; i < 1500; ++i) {
+            const std::string text = printed();
+            if (text.find('\n') != std::string::npos)
+                return text.substr(0, text.find('\n'));
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        }
+        return {};
+    }
+
+private:
+    static std::string read(const std::filesystem::path &file)
+    {
+        std::ifstream stream(file);
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+    [[nodiscard]] std::filesystem::path out() const { return m_folder.path() / "out"; }
+    [[nodiscard]] std::filesystem::path err() const { return m_folder.path() / "err"; }
+
+    TemporaryFolder m_folder;
+    pid_t m_pid = 0;
+};
+
+int portOf(const std::string &ready)
+{
+    const std::size_t colon = ready.find(':', ready.find("//"));
+    return std::stoi(ready.substr(colon + 1));
+}
+
+TEST(CommandLine, WrongOptionsEndWithOneLineAndStatusTwo)
+{
+    const TemporaryFolder folder;
+    const std::string data = folder.path().string();
+    for (const std::vector<std::string> &arguments :
+         {std::vector<std::string>{"--colour"},
+          {"--port"},
+          {"--port", "70000"},
+          {"--port", "x"},
+          {"--port", "-1"},
+          {"--seed", "1.5"},
+          {"extra"},
+          {"--data-dir", ""},
+          {"--data-dir", "/dev/null/x"},
+          {"--data-dir", data, "--host", "256.1.1.1"},
+          {"--data-dir", data, "--port", "0", "--ready-file", "/no/such/folder/file"}}) {
+        Process process(arguments);
+        EXPECT_EQ(process.wait(), 2) << arguments.front();
+        const std::string text = process.complained();
+        EXPECT_EQ(text.rfind("zorvane-sandbox: ", 0), 0u) << text;
+        EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 1) << text;
+        EXPECT_EQ(process.printed(), "") << arguments.front();
+    }
+}
+
+TEST(CommandLine, HelpNamesEveryOption)
+{
+    Process process({"--help"});
+    EXPECT_EQ(process.wait(), 0);
+    for (const char *option :
+         {"--host", "--port", "--data-dir", "--seed", "--market-hours", "--ready-file", "--quiet"})
+        EXPECT_NE(process.printed().find(option), std::string::npos) << option;
+}
+
+TEST(CommandLine, AFileThatIsNoDatabaseIsNamedAndLeftAlone)
+{
+    const TemporaryFolder folder;
+    const std::string content(8192, 'x');
+    std::ofstream(folder.path() / "sandbox.db") << content;
+    Process process({"--data-dir", folder.path().string(), "--port", "0"});
+    EXPECT_EQ(process.wait(), 2);
+    EXPECT_NE(process.complained().find("sandbox.db"), std::string::npos) << process.complained();
+    std::ifstream stream(folder.path() / "sandbox.db");
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(stream), {}), content);
+}
+
+TEST(CommandLine, AnUsedPortAndAnUsedFolderAreToldApart)
+{
+    const TemporaryFolder folder;
+    const TemporaryFolder other;
+    Process first({"--data-dir", folder.path().string(), "--port", "0", "--quiet"});
+    const int port = portOf(first.ready());
+    Process samePort({"--data-dir", other.path().string(), "--port", std::to_string(port)});
+    EXPECT_EQ(samePort.wait(), 2);
+    EXPECT_NE(samePort.complained().find("in use"), std::string::npos) << samePort.complained();
+    Process sameFolder({"--data-dir", folder.path().string(), "--port", "0"});
+    EXPECT_EQ(sameFolder.wait(), 2);
+    EXPECT_NE(sameFolder.complained().find("another sandbox"), std::string::npos) << sameFolder.complained();
+}
+
+TEST(CommandLine, StartsAnswersAndEndsOnASignalWhileAClientIsConnected)
+{
+    const TemporaryFolder folder;
+    const std::filesystem::path readyFile = folder.path() / "ready";
+    Process process({"--data-dir", (folder.path() / "new/data").string(), "--port", "0", "--ready-file",
+                     readyFile.string()});
+    const std::string ready = process.ready();
+    const std::string expected = "ready https://127.0.0.1:" + std::to_string(portOf(ready)) + "/ ca " +
+                                 (folder.path() / "new/data/ca.pem").string();
+    EXPECT_EQ(ready, expected);
+    std::ifstream stream(readyFile);
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(stream), {}), expected + "\n");
+
+    Client client(portOf(ready), folder.path() / "new/data/ca.pem");
+    EXPECT_TRUE(succeeded(client.get("loanOverview")));
+    EXPECT_TRUE(succeeded(client.post("user/start", {{"cell", "13800138000"}})));
+    const auto began = std::chrono::steady_clock::now();
+    process.signal(SIGTERM);
+    EXPECT_EQ(process.wait(), 0);
+    EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::seconds(3));
+    EXPECT_NE(process.printed().find("SMS 13800138000: "), std::string::npos);
+    EXPECT_NE(process.printed().find("GET /loanOverview 200 "), std::string::npos);
+}
+
+TEST(CommandLine, AKillAtAnyMomentOfTheFirstStartLeavesDataThatTheNextStartMakesGood)
+{
+    const TemporaryFolder folder;
+    const std::vector<std::string> arguments{"--data-dir", folder.path().string(), "--port", "0", "--quiet"};
+    for (int i = 0; i < 12; ++i) {
+        Process process(arguments);
+        std::this_thread::sleep_for(std::chrono::milliseconds(i * 12));
+        process.signal(SIGKILL);
+        process.wait();
+    }
+    Process process(arguments);
+    Client client(portOf(process.ready()), folder.path() / "ca.pem");
+    const Json users = client.get("sandbox/state").at("data").at("users");
+    ASSERT_EQ(users.size(), 1u);
+    EXPECT_EQ(users[0].at("nick"), "体验用户");
+    EXPECT_EQ(users[0].at("holdings").size(), 4u);
+}
+
+} // namespace
+} // namespace sandbox::test

@@ -1,0 +1,120 @@
+#include "RunningSandbox.h"
+
+namespace sandbox::test {
+namespace {
+
+class Console : public testing::Test {
+protected:
+    std::string page(const std::string &path)
+    {
+        const auto result = client.raw().Get("/" + path);
+        if (result && result->status == 303)
+            return page(result->get_header_value("Location").substr(1));
+        return result && result->status == 200 ? result->body : "";
+    }
+
+    /// Posts a form as a page of this server would, and answers the page it leads to.
+    std::string submit(const std::string &path, const Fields &fields)
+    {
+        const auto result = client.raw().Post("/" + path, {{"Origin", origin()}}, fields);
+        EXPECT_EQ(result->status, 303) << path;
+        return page(result->get_header_value("Location").substr(1));
+    }
+
+    std::string origin() const { return "https://127.0.0.1:" + std::to_string(running.sandbox().port()); }
+
+    mutable RunningSandbox running;
+    Client client = running.signedIn();
+};
+
+TEST_F(Console, ShowsCodesUsersBooksMarketAndFaults)
+{
+    EXPECT_NE(page("sandbox/").find(running.codeFor("13800138000")), std::string::npos);
+    EXPECT_NE(page("sandbox/users").find("体验用户"), std::string::npos);
+    EXPECT_NE(page("sandbox/user?id=1").find("Holdings"), std::string::npos);
+    EXPECT_NE(page("sandbox/market").find("trading day"), std::string::npos);
+    EXPECT_NE(page("sandbox/faults").find("drop-after"), std::string::npos);
+    EXPECT_NE(page("sandbox/style.css").find("focus-visible"), std::string::npos);
+    EXPECT_EQ(page("sandbox/user?id=1").find(client.token), std::string::npos);
+}
+
+TEST_F(Console, ItsFormsActOnTheMarketAndTheUsers)
+{
+    EXPECT_NE(submit("sandbox/clock", {{"action", "freeze"}}).find("frozen"), std::string::npos);
+    const Millis before = running.service().brokerage.now();
+    submit("sandbox/clock", {{"action", "minute"}});
+    EXPECT_EQ(running.service().brokerage.now(), before + 60'000);
+    submit("sandbox/clock", {{"action", "tomorrow"}});
+    EXPECT_GT(running.service().brokerage.now(), before + 60'000);
+
+    const std::string stock = client.get("holding").at("data").at(0).at("stockCode");
+    const std::string upper =
+        client.get("timelyInfo/timelyOrderForm?stockCode=" + stock).at("data").at("upperLimit");
+    submit("sandbox/price", {{"stockCode", stock}, {"price", upper}});
+    EXPECT_EQ(client.get("timelyInfo/timelyOrderForm?stockCode=" + stock).at("data").at("match"), upper);
+    submit("sandbox/seal", {{"stockCode", stock}, {"seal", "up"}});
+    EXPECT_EQ(client.get("timelyInfo/timelyOrderForm?stockCode=" + stock)
+                  .at("data")
+                  .at("sellPankou")
+                  .at(0)
+                  .at("price"),
+              "0.00");
+
+    const Cents cash = running.service().brokerage.usableMoney(1);
+    submit("sandbox/deposit", {{"user", "1"}, {"amount", "1234.56"}});
+    EXPECT_EQ(running.service().brokerage.usableMoney(1), cash + 123'456);
+    const int unread = client.get("msg/count").at("data");
+    submit("sandbox/message", {{"user", "1"}, {"source", "200"}, {"title", "活动"}, {"content", "内容"}});
+    EXPECT_EQ(client.get("msg/count").at("data"), unread + 1);
+}
+
+TEST_F(Console, ABadEntryComesBackAsANoteAndChangesNothing)
+{
+    const Cents cash = running.service().brokerage.usableMoney(1);
+    EXPECT_NE(submit("sandbox/deposit", {{"user", "1"}, {"amount", "-5"}}).find("note bad"),
+              std::string::npos);
+    EXPECT_NE(submit("sandbox/deposit", {{"user", "77"}, {"amount", "5"}}).find("note bad"),
+              std::string::npos);
+    EXPECT_NE(submit("sandbox/clock", {{"action", "backwards"}}).find("note bad"), std::string::npos);
+    EXPECT_NE(submit("sandbox/price", {{"stockCode", "nope"}, {"price", "1"}}).find("note bad"),
+              std::string::npos);
+    EXPECT_EQ(running.service().brokerage.usableMoney(1), cash);
+}
+
+TEST_F(Console, TextsOfUsersAreShownAndNotExecuted)
+{
+    client.post("user/set_nick", {{"nick", "<b>\"x\"&'y'"}});
+    const std::string shown = page("sandbox/users");
+    EXPECT_EQ(shown.find("<b>\"x\""), std::string::npos);
+    EXPECT_NE(shown.find("&lt;b&gt;&quot;x&quot;&amp;&#39;y&#39;"), std::string::npos);
+    EXPECT_NE(page("sandbox/users?note=%3Cscript%3E").find("&lt;script&gt;"), std::string::npos);
+}
+
+TEST_F(Console, RefusesFormsOfOtherSitesAndForeignHostNames)
+{
+    const Fields fields{{"user", "1"}, {"amount", "5"}};
+    for (const char *origin : {"https://evil.example", "null", "http://127.0.0.1"})
+        EXPECT_EQ(client.raw().Post("/sandbox/deposit", {{"Origin", origin}}, fields)->status, 403) << origin;
+    EXPECT_EQ(client.raw()
+                  .Post("/sandbox/fault", httplib::Headers{{"Origin", "https://evil.example"}},
+                        Fields{{"kind", "clear"}})
+                  ->status,
+              403);
+    for (const char *host : {"evil.example", "127.0.0.1.evil.example", ""})
+        EXPECT_EQ(client.raw().Get("/sandbox/", {{"Host", host}})->status, 403) << host;
+    EXPECT_EQ(client.raw().Get("/sandbox/", {{"Host", "localhost:8443"}})->status, 200);
+}
+
+TEST_F(Console, ServesThePagesOfTheClient)
+{
+    for (const char *name : {"recharge_by_bank", "recharge_by_alipay", "about_withdraw_charge",
+                             "stock_buy_rules", "super_partner", "guide_pay", "guide_recharge",
+                             "guide_supplement_earnest", "software_permission_agreement"}) {
+        const std::string html = page(std::string("mobile/") + name + ".html");
+        EXPECT_NE(html.find("getArgs"), std::string::npos) << name;
+        EXPECT_NE(html.find("<h1>"), std::string::npos) << name;
+    }
+}
+
+} // namespace
+} // namespace sandbox::test

@@ -1,0 +1,116 @@
+#include "identity/SmsCodes.h"
+
+#include "identity/Rules.h"
+#include "identity/Users.h"
+
+#include <gtest/gtest.h>
+#include <set>
+
+namespace sandbox::identity {
+namespace {
+
+struct Codes {
+    Millis now = 1'000'000'000;
+    std::vector<Sms> sent;
+    SmsCodes codes{":memory:", [this] { return now; }, [this](const Sms &sms) { sent.push_back(sms); }};
+};
+
+TEST(SmsCodes, OutstandingCodesNeverRepeat)
+{
+    Codes fixture;
+    std::set<std::string> seen;
+    for (int i = 0; i < 2000; ++i)
+        fixture.codes.send("139" + std::to_string(10'000'000 + i), purpose::signIn);
+    for (const Sms &sms : fixture.sent)
+        EXPECT_TRUE(isSixDigits(sms.code) && seen.insert(sms.code).second);
+}
+
+TEST(SmsCodes, ACodeEndsAfterFiveMinutes)
+{
+    Codes fixture;
+    fixture.codes.send("13900000001", purpose::signIn);
+    fixture.now += 5 * 60 * 1000 - 1;
+    EXPECT_EQ(fixture.codes.take(fixture.sent[0].code, purpose::signIn), "13900000001");
+    fixture.codes.send("13900000001", purpose::signIn);
+    fixture.now += 5 * 60 * 1000;
+    EXPECT_FALSE(fixture.codes.inbox(1)[0].open);
+    EXPECT_EQ(fixture.codes.take(fixture.sent[1].code, purpose::signIn), std::nullopt);
+}
+
+TEST(SmsCodes, GuessingStopsForTheRestOfTheMinute)
+{
+    Codes fixture;
+    fixture.codes.send("13900000001", purpose::signIn);
+    const std::string right = fixture.sent[0].code;
+    const std::string wrong = right == "000000" ? "000001" : "000000";
+    for (int i = 0; i < 20; ++i)
+        EXPECT_EQ(fixture.codes.take(wrong, purpose::signIn), std::nullopt);
+    EXPECT_EQ(fixture.codes.take(right, purpose::signIn), std::nullopt);
+    fixture.now += 60'000;
+    EXPECT_EQ(fixture.codes.take(right, purpose::signIn), "13900000001");
+}
+
+TEST(Users, FiveWrongTradePasswordsLockItForFifteenMinutes)
+{
+    Millis now = 1'000'000'000;
+    Users users(":memory:", [&now] { return now; });
+    const UserId user = users.create("13900000001", "").id;
+    users.setTradePassword(user, "123456");
+    for (int left = 4; left > 0; --left) {
+        EXPECT_EQ(users.checkTradePassword(user, "000000"), PasswordCheck::Wrong);
+        EXPECT_EQ(users.triesLeft(user), left);
+    }
+    EXPECT_EQ(users.checkTradePassword(user, "000000"), PasswordCheck::Locked);
+    EXPECT_EQ(users.checkTradePassword(user, "123456"), PasswordCheck::Locked);
+    now += 15 * 60 * 1000;
+    EXPECT_EQ(users.checkTradePassword(user, "000000"), PasswordCheck::Wrong);
+    EXPECT_EQ(users.triesLeft(user), 4);
+    EXPECT_EQ(users.checkTradePassword(user, "123456"), PasswordCheck::Right);
+    EXPECT_EQ(users.triesLeft(user), 5);
+}
+
+TEST(Users, OnlyTheTwentyNewestTokensAreValid)
+{
+    Users users(":memory:", [] { return Millis{1}; });
+    const UserId user = users.create("13900000001", "").id;
+    const std::string oldest = users.issueToken(user);
+    std::string newest;
+    for (int i = 0; i < 20; ++i)
+        newest = users.issueToken(user);
+    EXPECT_FALSE(users.byToken(oldest));
+    EXPECT_EQ(users.byToken(newest)->id, user);
+    EXPECT_FALSE(users.byToken(""));
+}
+
+struct RuleCase {
+    const char *text;
+    bool valid;
+};
+
+TEST(Rules, MobileNumbers)
+{
+    for (const auto &[text, valid] :
+         {RuleCase{"13800138000", true}, RuleCase{"14512345678", true}, RuleCase{"14612345678", false},
+          RuleCase{"17012345678", true}, RuleCase{"17112345678", false}, RuleCase{"17912345678", false},
+          RuleCase{"18912345678", true}, RuleCase{"12812345678", false}, RuleCase{"1380013800", false},
+          RuleCase{"138001380000", false}, RuleCase{"1380013800a", false},
+          RuleCase{"１３８００１３８０００", false}, RuleCase{"", false}})
+        EXPECT_EQ(isCell(text), valid) << text;
+}
+
+TEST(Rules, RealNamesAndIdentityNumbers)
+{
+    for (const auto &[text, valid] : {RuleCase{"张三", true}, RuleCase{"张", false}, RuleCase{"张san", false},
+                                      RuleCase{"张三☀", false}, RuleCase{"欧阳娜娜", true}})
+        EXPECT_EQ(isRealName(text), valid) << text;
+    EXPECT_TRUE(isRealName("一二三四五六七八九十一二三四五六七八九十"));
+    EXPECT_FALSE(isRealName("一二三四五六七八九十一二三四五六七八九十一"));
+    for (const auto &[text, valid] :
+         {RuleCase{"110101900307123", true}, RuleCase{"110101199003071234", true},
+          RuleCase{"11010119900307123x", true}, RuleCase{"11010119900307123Y", false},
+          RuleCase{"1101011990030712", false}})
+        EXPECT_EQ(isIdentityNumber(text), valid) << text;
+}
+
+} // namespace
+} // namespace sandbox::identity
