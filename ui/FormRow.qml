@@ -9,6 +9,7 @@ Tappable {
     property string icon
     property bool chevron: false
     property bool line: true
+    property color labelColour: tones.textPrimary
     property color valueColour: tones.textSecondary
     default property alias trailing: trailingSlot.data
 
@@ -44,7 +45,7 @@ Tappable {
             width: Math.min(implicitWidth, row.width * 0.6)
             text: row.label
             font: Theme.body
-            color: row.enabled ? row.tones.textPrimary : row.tones.disabled
+            color: row.enabled ? row.labelColour : row.tones.disabled
             elide: Text.ElideRight
             Accessible.ignored: true
         }

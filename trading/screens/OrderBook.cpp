@@ -1,0 +1,30 @@
+#include "trading/screens/OrderBook.h"
+
+#include "core/util/Text.h"
+
+namespace {
+TZHandicapModel levelAt(const QVariantList &pankou, int index, const QString &title)
+{
+    const QVariantMap level = pankou.value(index).toMap();
+    return {title.arg(index + 1), textForm(level.value(QStringLiteral("price"))),
+            textForm(level.value(QStringLiteral("volume")))};
+}
+} // namespace
+
+QList<TZHandicapModel> OrderBook::buyLevels(const QVariantList &pankou)
+{
+    QList<TZHandicapModel> levels;
+    levels.reserve(depth);
+    for (int row = 0; row < depth; ++row)
+        levels.append(levelAt(pankou, row, QStringLiteral("买%1")));
+    return levels;
+}
+
+QList<TZHandicapModel> OrderBook::sellLevels(const QVariantList &pankou)
+{
+    QList<TZHandicapModel> levels;
+    levels.reserve(depth);
+    for (int row = 0; row < depth; ++row)
+        levels.append(levelAt(pankou, row < 5 ? 4 - row : 14 - row, QStringLiteral("卖%1")));
+    return levels;
+}

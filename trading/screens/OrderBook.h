@@ -1,0 +1,19 @@
+#pragma once
+
+#include "trading/api/TZHandicapModel.h"
+
+#include <QList>
+#include <QVariant>
+
+/// The levels of a quote's "buyPankou" or "sellPankou", always ten in the order of their rows, the first one
+/// on top. Where the service sent fewer, or something else, a level has empty texts.
+namespace OrderBook {
+
+inline constexpr int depth = 10;
+
+/// 买1 to 买10.
+QList<TZHandicapModel> buyLevels(const QVariantList &pankou);
+/// Kept on purpose: two blocks of five, each with its highest level first: 卖5 to 卖1, then 卖10 to 卖6.
+QList<TZHandicapModel> sellLevels(const QVariantList &pankou);
+
+} // namespace OrderBook

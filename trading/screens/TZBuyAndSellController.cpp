@@ -1,0 +1,378 @@
+#include "trading/screens/TZBuyAndSellController.h"
+
+#include "core/platform/NotificationCenter.h"
+#include "core/platform/Platform.h"
+#include "core/platform/SettingsStore.h"
+#include "core/session/SettingsKeys.h"
+#include "core/shell/KRNavigationController.h"
+#include "core/shell/KRWindow.h"
+#include "core/shell/TZInfoAlertView.h"
+#include "core/util/Service.h"
+#include "core/util/Text.h"
+#include "trading/api/TZStockInfoModel.h"
+#include "trading/api/TZTradeTool.h"
+#include "trading/screens/OrderBook.h"
+#include "trading/screens/TZSelectStockController.h"
+
+#include <algorithm>
+
+using namespace std::chrono_literals;
+
+namespace {
+const QString dataKey = QStringLiteral("data");
+
+QString stockLabel(const QString &name, const QString &code)
+{
+    return QStringLiteral("%1(%2)").arg(name, code);
+}
+
+/// The service did not accept the order without the right trade password.
+bool wantsTradePassword(const QVariantMap &answer)
+{
+    const qint64 code = integerValue(answer.value(QStringLiteral("code")));
+    return code == 12000 || code == 12002;
+}
+} // namespace
+
+TZBuyAndSellController::TZBuyAndSellController(OrderSide orderSide, TZZorvanePageStocksModel tradedStock,
+                                               const QObject *owner, HoldingsDelegate *holdingsDelegate)
+    : side(orderSide), texts(OrderTexts::of(orderSide)), stock(std::move(tradedStock)), delegateOwner(owner),
+      delegate(holdingsDelegate), stockSelectable(stock.stockCode.isEmpty())
+{
+    forgetQuotes();
+}
+
+QString TZBuyAndSellController::stockText() const
+{
+    return stock.stockCode.isEmpty() ? QString() : stockLabel(stock.stockName, stock.stockCode);
+}
+
+QString TZBuyAndSellController::currentPriceText() const
+{
+    return latestPrice.isEmpty() ? QString() : QStringLiteral("现价%1").arg(latestPrice);
+}
+
+void TZBuyAndSellController::viewDidLoad()
+{
+    KRBaseController::viewDidLoad();
+    setShowBackButton(true);
+    Platform::current().notifications.observe(
+        this, TZHandicapView::priceSelectNotification, [this](const QVariant &information) {
+            selectPrice(textForm(information.toMap().value(QStringLiteral("price"))));
+        });
+    countHolding();
+    getBuyPage();
+}
+
+void TZBuyAndSellController::viewWillAppear()
+{
+    KRBaseController::viewWillAppear();
+    shown = true;
+    setTitle(texts.title);
+    if (!isBuyType() || !stock.stockCode.isEmpty())
+        startQuoteTimer();
+}
+
+void TZBuyAndSellController::viewWillDisappear()
+{
+    KRBaseController::viewWillDisappear();
+    endEditing();
+}
+
+void TZBuyAndSellController::viewDidDisappear()
+{
+    KRBaseController::viewDidDisappear();
+    shown = false;
+    quoteTimer.stop();
+    orderTimer.stop();
+}
+
+void TZBuyAndSellController::getBuyPage()
+{
+    const auto answered = [this](const Operation &, const QVariantMap &answer) {
+        usable = doubleValue(answer.value(dataKey));
+        // A price may have been typed or tapped before the answer came.
+        if (isBuyType() && !priceField.isEmpty())
+            countTypedPrice();
+    };
+    TZTradeTool::getBuyPageWithParam({}, Success{this, answered}, {});
+}
+
+// The stock.
+
+void TZBuyAndSellController::gotoSelectStock()
+{
+    if (stockSelectable && navigationController())
+        navigationController()->push(std::make_unique<TZSelectStockController>(this, this));
+}
+
+void TZBuyAndSellController::chooseStock(const TZStockInfoModel &chosen)
+{
+    stockSelectable = false;
+    stock = {};
+    stock.stockCode = chosen.c;
+    stock.stockName = chosen.n;
+    Q_EMIT stockChanged();
+    clearFields();
+    if (isBuyType())
+        setCountLabel({});
+    // The book of one stock never stands under the name of another.
+    forgetQuotes();
+    // Covered by the stock search the timer starts with the next appearance.
+    if (shown)
+        startQuoteTimer();
+}
+
+// The quote.
+
+void TZBuyAndSellController::startQuoteTimer()
+{
+    fetchQuote();
+    quoteTimer.startRepeating(3s, [this] { fetchQuote(); });
+}
+
+void TZBuyAndSellController::fetchQuote()
+{
+    const int number = ++askedQuotes;
+    const auto answered = [this, number](const Operation &, const QVariantMap &answer) {
+        if (number <= shownQuote || !boolValue(answer.value(QStringLiteral("success"))))
+            return;
+        shownQuote = number;
+        showQuote(answer.value(dataKey).toMap());
+    };
+    TZTradeTool::getTimelyInfoWithStockCode(stock.stockCode, Success{this, answered}, {});
+}
+
+void TZBuyAndSellController::showQuote(const QVariantMap &data)
+{
+    const QVariant match = data.value(QStringLiteral("match"));
+    if (!Service::whetherAnEmptyString(match)) {
+        latestPrice = textForm(match);
+        Q_EMIT currentPriceChanged();
+    }
+    previousClose = doubleValue(data.value(QStringLiteral("previousClose")));
+    const QVariant buyPankou = data.value(QStringLiteral("buyPankou"));
+    if (buyPankou.typeId() == QMetaType::QVariantList)
+        buyLevels = OrderBook::buyLevels(buyPankou.toList());
+    const QVariant sellPankou = data.value(QStringLiteral("sellPankou"));
+    if (sellPankou.typeId() == QMetaType::QVariantList)
+        sellLevels = OrderBook::sellLevels(sellPankou.toList());
+    drawBook();
+}
+
+void TZBuyAndSellController::forgetQuotes()
+{
+    shownQuote = askedQuotes;
+    latestPrice.clear();
+    Q_EMIT currentPriceChanged();
+    buyLevels = OrderBook::buyLevels({});
+    sellLevels = OrderBook::sellLevels({});
+    drawBook();
+}
+
+void TZBuyAndSellController::drawBook()
+{
+    const TZHandicapView::Scale scale{
+        std::max(TZHandicapView::deepestVolume(buyLevels), TZHandicapView::deepestVolume(sellLevels)),
+        previousClose};
+    buyView.setLevels(buyLevels, scale);
+    sellView.setLevels(sellLevels, scale);
+}
+
+// Price, quantity, and how many shares they may be.
+
+void TZBuyAndSellController::editPrice(const QString &text)
+{
+    if (text == priceField || !OrderEntryRules::acceptsPrice(text))
+        return;
+    setPrice(text);
+    if (isBuyType())
+        countTimer.startOnce(100ms, [this] { countTypedPrice(); });
+}
+
+void TZBuyAndSellController::editQuantity(const QString &text)
+{
+    if (text != quantityField && OrderEntryRules::acceptsQuantity(text))
+        setQuantity(OrderEntryRules::cutQuantity(text), -1);
+}
+
+void TZBuyAndSellController::selectPrice(const QString &price)
+{
+    setPrice(price);
+    const double yuan = doubleValue(price);
+    if (isBuyType() && yuan != 0)
+        countAffordable(yuan);
+}
+
+void TZBuyAndSellController::countTypedPrice()
+{
+    const double yuan = doubleValue(priceField);
+    if (yuan != 0)
+        countAffordable(yuan);
+    else
+        // Kept on purpose: the limit stays that of the last price.
+        setCountLabel({});
+}
+
+void TZBuyAndSellController::countAffordable(double price)
+{
+    limit = OrderEntryRules::affordableShares(usable, price);
+    setCountLabel(texts.count.arg(limit));
+}
+
+void TZBuyAndSellController::countHolding()
+{
+    if (isBuyType() || stock.availableShares.isEmpty())
+        return;
+    limit = integerValue(stock.availableShares);
+    setCountLabel(texts.count.arg(stock.availableShares));
+}
+
+void TZBuyAndSellController::selectFraction(int tag)
+{
+    if (tag < OrderEntryRules::Quarter || tag > OrderEntryRules::All)
+        return;
+    if (isBuyType() && priceField.isEmpty())
+        setQuantity(QStringLiteral("0"), tag);
+    const qint64 shares = OrderEntryRules::fractionOf(limit, static_cast<OrderEntryRules::Fraction>(tag));
+    setQuantity(QString::number(shares), tag);
+}
+
+void TZBuyAndSellController::setPrice(const QString &price)
+{
+    priceField = price;
+    Q_EMIT priceChanged();
+}
+
+void TZBuyAndSellController::setQuantity(const QString &quantity, int writtenBy)
+{
+    quantityField = quantity;
+    fraction = writtenBy;
+    Q_EMIT quantityChanged();
+}
+
+void TZBuyAndSellController::clearFields()
+{
+    setQuantity({}, -1);
+    setPrice({});
+}
+
+void TZBuyAndSellController::setCountLabel(const QString &label)
+{
+    countLabel = label;
+    Q_EMIT countChanged();
+}
+
+// The order.
+
+QString TZBuyAndSellController::fault() const
+{
+    if (Service::whetherAnEmptyString(stock.stockCode))
+        return texts.noStock;
+    if (Service::whetherAnEmptyString(priceField))
+        return texts.noPrice;
+    if (Service::whetherAnEmptyString(quantityField))
+        return texts.noQuantity;
+    const qint64 shares = integerValue(quantityField);
+    if (!Service::isMultipleOfOneHundred(shares))
+        return texts.notWholeLots;
+    return shares > limit ? QStringLiteral("超过交易数量上限") : QString();
+}
+
+bool TZBuyAndSellController::needTradePwd() const
+{
+    return boolValue(Platform::current().settings.value(SettingsKeys::needTradePwd));
+}
+
+void TZBuyAndSellController::submit()
+{
+    const bool asking = prompt && window() && window()->dialogs()->indexOf(prompt) >= 0;
+    if (orderOnItsWay || asking)
+        return;
+    orderTimer.stop();
+    if (const QString message = fault(); !message.isEmpty())
+        Service::showErrorWithMsg(message);
+    else if (needTradePwd())
+        showTradePwdPrompt();
+    else
+        orderTimer.startOnce(500ms, [this] { sendOrder({}); });
+}
+
+void TZBuyAndSellController::showTradePwdPrompt()
+{
+    endEditing();
+    if (window())
+        prompt = TZTradePwdAlertView::showAlertView(*window(), *this, *this);
+}
+
+void TZBuyAndSellController::checkTradePwd(const QString &password)
+{
+    if (Service::whetherAnEmptyString(password))
+        Service::showErrorWithMsg(QStringLiteral("请输入交易密码"));
+    else
+        // The prompt hid itself before it handed the password over.
+        sendOrder(password);
+}
+
+void TZBuyAndSellController::sendOrder(const QString &password)
+{
+    if (orderOnItsWay)
+        return;
+    // The entry may have been edited since it was checked.
+    if (const QString message = fault(); !message.isEmpty())
+        return Service::showErrorWithMsg(message);
+    endEditing();
+    QVariantMap param{{QStringLiteral("stockCode"), stock.stockCode},
+                      {QStringLiteral("entrustShares"), quantityField},
+                      {QStringLiteral("entrustPrice"), priceField}};
+    if (!password.isEmpty())
+        param.insert(QStringLiteral("tradePassword"), password);
+
+    orderOnItsWay = true;
+    const Success answered{this,
+                           [this](const Operation &, const QVariantMap &answer) { showAnswer(answer); }};
+    const Operation operation = isBuyType() ? TZTradeTool::postCreatBuyWithParam(param, answered, {})
+                                            : TZTradeTool::postCreatSellWithParam(param, answered, {});
+    connect(operation.get(), &RequestOperation::finished, this, [this] { orderOnItsWay = false; });
+}
+
+void TZBuyAndSellController::showAnswer(const QVariantMap &answer)
+{
+    if (boolValue(answer.value(QStringLiteral("success")))) {
+        SettingsStore &settings = Platform::current().settings;
+        settings.setValue(SettingsKeys::needTradePwd, false);
+        settings.synchronize();
+        const QVariant id = answer.value(dataKey).toMap().value(QStringLiteral("id"));
+        if (!Service::whetherAnEmptyString(id))
+            orderPlaced();
+    } else if (wantsTradePassword(answer)) {
+        if (Service::whetherAnEmptyString(answer.value(QStringLiteral("message"))))
+            Service::showErrorWithMsg(QStringLiteral("交易密码不正确，请重试"));
+        showTradePwdPrompt();
+    }
+}
+
+void TZBuyAndSellController::orderPlaced()
+{
+    clearFields();
+    showResult();
+    if (!isBuyType() && delegateOwner)
+        delegate->reloadHoldingData();
+}
+
+void TZBuyAndSellController::showResult()
+{
+    if (!window())
+        return;
+    const auto goOn = [this] {
+        KRNavigationController *const stack = navigationController();
+        if (isBuyType())
+            stack->push(std::make_unique<TZSelectStockController>(this, this));
+        else if (stack->depth() > 1)
+            stack->popTo(stack->at(1));
+    };
+    window()->show(std::make_unique<TZInfoAlertView>(
+        TZInfoAlertViewModel{
+            QStringLiteral("委托挂单成功"), {}, QStringLiteral("实盘炒股"), texts.continueTitle},
+        OwnedAction{this, [this] { backButtonClicked(); }}, OwnedAction{this, goOn}));
+}

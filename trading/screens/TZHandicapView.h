@@ -1,0 +1,53 @@
+#pragma once
+
+#include "core/util/RowListModel.h"
+#include "trading/api/TZHandicapModel.h"
+
+/// A level as it is drawn. Absent texts are dashes.
+struct HandicapRow {
+    Q_GADGET
+    Q_PROPERTY(QString title MEMBER title)
+    Q_PROPERTY(QString price MEMBER price)
+    Q_PROPERTY(QString volume MEMBER volume)
+    /// The volume as a part of the deepest level of both sides, 0 to 1.
+    Q_PROPERTY(double share MEMBER share)
+    /// Of the price against yesterday's close: 1 rise, 0 flat or unknown, -1 fall.
+    Q_PROPERTY(int trend MEMBER trend)
+    /// There is a price to pick.
+    Q_PROPERTY(bool selectable MEMBER selectable)
+public:
+    QString title;
+    QString price;
+    QString volume;
+    double share = 0;
+    int trend = 0;
+    bool selectable = false;
+};
+
+/// One side of the order book.
+class TZHandicapView : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(GadgetListModel *rows READ rows CONSTANT)
+public:
+    using QObject::QObject;
+
+    /// Posted with {"price": text} when a level is tapped.
+    static inline const QString priceSelectNotification = QStringLiteral("HandicapPriceSelectNotification");
+
+    /// What the rows of both sides are measured against.
+    struct Scale {
+        double deepestVolume = 0;
+        /// Yuan; 0 when unknown.
+        double previousClose = 0;
+    };
+    static double deepestVolume(const QList<TZHandicapModel> &levels);
+
+    void setLevels(const QList<TZHandicapModel> &levels, const Scale &scale);
+    GadgetListModel *rows() { return &shownRows; }
+
+    Q_INVOKABLE void selectHandicap(int row);
+
+private:
+    QList<TZHandicapModel> shownLevels;
+    RowListModel<HandicapRow> shownRows;
+};
