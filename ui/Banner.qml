@@ -35,7 +35,7 @@ Rectangle {
         fontSizeMode: Text.Fit
         minimumPixelSize: 11
         height: parent.height
-        color: Theme.onAccent
+        color: Theme.textOnAccent
         verticalAlignment: Text.AlignVCenter
         wrapMode: Text.Wrap
         elide: Text.ElideRight

@@ -23,7 +23,7 @@ Tappable {
     contentItem: Text {
         text: chip.text
         font: Theme.label
-        color: !chip.enabled ? chip.tones.disabled : chip.selected ? Theme.onAccent : chip.tones.textPrimary
+        color: !chip.enabled ? chip.tones.disabled : chip.selected ? Theme.textOnAccent : chip.tones.textPrimary
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight

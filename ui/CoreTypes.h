@@ -7,7 +7,10 @@
 #include "core/shell/KRWindow.h"
 #include "core/shell/OverlayHost.h"
 #include "core/shell/TZBaseTableViewController.h"
+#include "core/shell/TZGuideController.h"
 #include "core/shell/TZInfoAlertView.h"
+#include "core/shell/TZLeftMenuController.h"
+#include "core/shell/TZPlainPageController.h"
 #include "core/shell/TZTradePwdAlertView.h"
 #include "ui/ViewType.h"
 
@@ -48,9 +51,21 @@ struct TZBaseTableViewControllerForViews {
     Q_GADGET
     ZV_VIEW_TYPE(TZBaseTableViewController)
 };
+struct TZGuideControllerForViews {
+    Q_GADGET
+    ZV_VIEW_TYPE(TZGuideController)
+};
 struct TZInfoAlertViewForViews {
     Q_GADGET
     ZV_VIEW_TYPE_AS(TZInfoAlertView, TZInfoAlertDialog)
+};
+struct TZLeftMenuControllerForViews {
+    Q_GADGET
+    ZV_VIEW_TYPE(TZLeftMenuController)
+};
+struct TZPlainPageControllerForViews {
+    Q_GADGET
+    ZV_VIEW_TYPE(TZPlainPageController)
 };
 struct TZTradePwdAlertViewForViews {
     Q_GADGET

@@ -22,11 +22,15 @@ FocusScope {
     Keys.onBackPressed: event => page.goBack(event)
 
     function goBack(event: KeyEvent) {
-        event.accepted = controller.showBackButton || controller.leftItemImage !== "" || controller.leftItemTitle !== ""
+        const leaves = ["common_back_gray", "common_close_gray"]
         if (controller.showBackButton)
             controller.backButtonClicked()
-        else if (event.accepted)
+        else if (leaves.includes(controller.leftItemImage) || controller.leftItemTitle !== "")
             controller.leftItemClick()
+        else if (leaves.includes(controller.rightItemImage))
+            controller.rightItemClick()
+        else
+            event.accepted = false
     }
 
     Rectangle {

@@ -16,7 +16,7 @@ Tappable {
     contentItem: Text {
         text: control.text
         font: Theme.title
-        color: Theme.onAccent
+        color: Theme.textOnAccent
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight

@@ -67,7 +67,7 @@ FocusScope {
         color: enabled ? row.tones.textPrimary : row.tones.disabled
         placeholderTextColor: row.tones.placeholder
         selectionColor: Theme.accent
-        selectedTextColor: Theme.onAccent
+        selectedTextColor: Theme.textOnAccent
         selectByMouse: true
         verticalAlignment: TextInput.AlignVCenter
         leftPadding: 0

@@ -26,7 +26,7 @@ QtObject {
     readonly property color riskBadge: "#ff0000"
     readonly property color successBanner: "#2787DA"
     readonly property color errorBanner: "#E90303"
-    readonly property color onAccent: "#FFFFFF"
+    readonly property color textOnAccent: "#FFFFFF"
 
     // The frame.
     readonly property color navigationBar: "#313030"
@@ -110,6 +110,7 @@ QtObject {
     readonly property font bodyBold: Qt.font({ pixelSize: 15 * textScale, weight: Font.Bold })
     readonly property font title: Qt.font({ pixelSize: 17 * textScale, weight: Font.Bold })
     readonly property font heading: Qt.font({ pixelSize: 20 * textScale, weight: Font.Bold })
+    readonly property font headline: Qt.font({ pixelSize: 26 * textScale, weight: Font.Bold })
     readonly property font amount: Qt.font({ pixelSize: 22 * textScale, weight: Font.Bold })
     readonly property font display: Qt.font({ pixelSize: 36 * textScale, weight: Font.Bold })
     readonly property font unit: Qt.font({ pixelSize: 11 * textScale })

@@ -32,7 +32,7 @@ FocusTrap {
             anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom; bottomMargin: Theme.spacingLarge }
             text: indicator.status
             font: Theme.label
-            color: Theme.onAccent
+            color: Theme.textOnAccent
             Accessible.ignored: true
         }
     }

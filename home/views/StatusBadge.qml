@@ -28,7 +28,7 @@ Tappable {
             anchors.verticalCenter: parent.verticalCenter
             text: badge.text
             font: Theme.label
-            color: Theme.onAccent
+            color: Theme.textOnAccent
             Accessible.ignored: true
         }
     }

@@ -1,0 +1,47 @@
+import QtQuick
+
+/// A destination of the left menu: its name over the small second name.
+Tappable {
+    id: row
+
+    required property string topLabel
+    required property string bottomLabel
+    required property string iconView
+
+    implicitHeight: 72
+    deep: true
+    ringInset: 4
+    text: topLabel
+    Accessible.description: bottomLabel
+    background: Rectangle {
+        color: row.pressed ? Theme.pressedOverlay : Theme.transparent
+    }
+
+    Icon {
+        id: icon
+        anchors { left: parent.left; leftMargin: Theme.spacingHuge; verticalCenter: parent.verticalCenter }
+        name: row.iconView
+        size: 28
+    }
+    Column {
+        anchors { left: icon.right; right: parent.right; leftMargin: Theme.spacingLarge }
+        anchors.verticalCenter: parent.verticalCenter
+
+        Text {
+            width: parent.width
+            text: row.topLabel
+            font: Theme.title
+            color: Theme.navigationText
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+        Text {
+            width: parent.width
+            text: row.bottomLabel
+            font: Theme.caption
+            color: row.tones.textSecondary
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+    }
+}

@@ -1,0 +1,26 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+FocusScope {
+    id: menu
+
+    required property TZLeftMenuController controller
+
+    Column {
+        anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter }
+        spacing: Theme.spacingSmall
+
+        Repeater {
+            model: menu.controller.rows
+
+            LeftMenuRow {
+                required property int index
+
+                width: parent.width
+                focus: index === 0
+                onClicked: menu.controller.didSelectRow(index)
+            }
+        }
+    }
+}
