@@ -17,7 +17,7 @@ SignInPage {
             deep: true
             focus: true
             line: false
-            icon: "login_cell"
+            icon: "login_phone"
             placeholder: "请输入手机号"
             inputMethodHints: Qt.ImhDialableCharactersOnly | Qt.ImhNoPredictiveText
             text: page.entry.cell

@@ -45,7 +45,7 @@ Tappable {
             id: info
             anchors { left: name.right; leftMargin: Theme.spacingSmall; verticalCenter: parent.verticalCenter }
             visible: row.hasInfo
-            name: "account_info"
+            name: "info"
             size: 18
         }
         AmountText {
