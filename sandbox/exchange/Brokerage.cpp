@@ -122,8 +122,8 @@ struct Brokerage::Parts {
             return Refusal{Rule::Suspended, "该股票已停牌"};
         const int day = market.calendar().dayOf(now);
         const int moment = market.calendar().momentOf(day, now);
-        if (moment < 0)
-            return Refusal{Rule::Session, "当日尚未开盘"};
+        if (moment < 0 || market.calendar().phase(now) == Phase::Closed)
+            return Refusal{Rule::Session, "当前休市，价格不变"};
         const Cents shift =
             kind == PriceMove::Kind::Shift ? price - market.prices().unmovedPrice(*stock, day, moment) : 0;
         const PriceMove move{stockCode, day, moment, kind, shift};

@@ -212,14 +212,15 @@ void Exchange::matchResting(Order &order, const Stock &stock, Millis now, Shared
     if (order.queueAhead > 0 && trade.volume > 0)
         queue(order, std::max<Shares>(0, -behindQueue), order.status, now);
     if (behindQueue > 0)
-        fill(order, order.price, shareOf(order, std::min(behindQueue, trade.openToUsers), shared), {}, now);
+        fill(order, order.price,
+             shareOf(order, std::min(behindQueue, m_market.openToUsers(stock, now)), shared), {}, now);
 }
 
 void Exchange::matchAuction(Order &order, const Stock &stock, Millis now, Shared &shared)
 {
     const Trade print = m_market.lastTrade(stock, now);
     if (reaches(order, print.price))
-        fill(order, print.price, shareOf(order, print.openToUsers, shared), {}, now);
+        fill(order, print.price, shareOf(order, m_market.openToUsers(stock, now), shared), {}, now);
     if (isOpen(order.status)) {
         const Shares ahead =
             m_market.queueAt(stock, order.side, order.price, now, m_books.depthUsed(stock.code));

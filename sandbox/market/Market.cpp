@@ -76,6 +76,12 @@ Trade Market::lastTrade(const Stock &stock, Millis time)
     return m_prices.tradeAt(stock, day, m_calendar.momentOf(day, time));
 }
 
+Shares Market::openToUsers(const Stock &stock, Millis time)
+{
+    const int day = m_calendar.dayOf(time);
+    return m_prices.openToUsers(stock, day, m_calendar.momentOf(day, time));
+}
+
 DisplayedLevel Market::level(const Stock &stock, const DayFrame &frame, Side side, Cents price,
                              Millis time) const
 {
@@ -189,11 +195,8 @@ const std::vector<Candle> &Market::finishedCandles(const Stock &stock, int today
         return history.candles;
     history.today = today;
     history.candles.clear();
-    for (int day = std::max(0, today - count); day < today; ++day) {
-        const auto trades = m_prices.tradesUntil(stock, day, m_calendar.momentCount() - 1);
-        if (!trades.empty())
-            history.candles.push_back(candleOf(m_calendar.dateOf(day), trades));
-    }
+    for (int day = std::max(0, today - count); day < today && !stock.suspended; ++day)
+        history.candles.push_back(m_prices.candle(stock, day));
     return history.candles;
 }
 

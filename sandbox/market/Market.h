@@ -36,6 +36,8 @@ public:
     DayFrame frame(const Stock &stock, Millis time);
     /** The latest trade at that time: its price, and the volume of its moment. */
     Trade lastTrade(const Stock &stock, Millis time);
+    /** Of that trade's volume, what our users' resting orders may have had. */
+    Shares openToUsers(const Stock &stock, Millis time);
     /**
      * One side of the book at that time, best first, at most ten levels, without what was used up. At a limit
      * the other side is empty; before the day's first trade and for suspended stocks both are.

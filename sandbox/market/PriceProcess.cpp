@@ -23,6 +23,11 @@ std::int64_t halved(std::int64_t deviation)
     return deviation * 181 / 256;
 }
 
+Shares wholeLots(Shares shares)
+{
+    return shares / 100 * 100;
+}
+
 } // namespace
 
 PriceProcess::PriceProcess(std::uint64_t seed, const Calendar &calendar) : m_seed(seed), m_calendar(calendar)
@@ -41,9 +46,10 @@ Trade PriceProcess::tradeAt(const Stock &stock, int day, int moment)
 {
     const DayFrame today = frame(stock, day);
     if (moment < 0 || stock.suspended)
-        return {today.previousClose, 0, 0};
+        return {today.previousClose, 0};
     const Path walk = path(stock, day, today.previousClose);
-    return traded(walk, moment, priceOf(stock, today, moment, valueAt(walk, moment)));
+    return {priceOf(stock, today, moment, valueAt(walk, moment)),
+            wholeLots(volumeThrough(walk, moment)) - wholeLots(volumeThrough(walk, moment - 1))};
 }
 
 std::vector<Trade> PriceProcess::tradesUntil(const Stock &stock, int day, int moment)
@@ -58,10 +64,52 @@ std::vector<Trade> PriceProcess::tradesUntil(const Stock &stock, int day, int mo
     values.front() = walk.open;
     values.back() = walk.close;
     fill(walk, values, 0, last, walk.deviation / 2);
-    trades.reserve(static_cast<std::size_t>(moment) + 1);
-    for (int i = 0; i <= moment; ++i)
-        trades.push_back(traded(walk, i, priceOf(stock, today, i, values[static_cast<std::size_t>(i)])));
+    const std::vector<Shares> volumes = volumesOf(walk);
+    Shares through = 0;
+    for (int i = 0; i <= moment; ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        const Shares before = through;
+        through += volumes[at];
+        trades.push_back({priceOf(stock, today, i, values[at]), wholeLots(through) - wholeLots(before)});
+    }
     return trades;
+}
+
+Shares PriceProcess::openToUsers(const Stock &stock, int day, int moment)
+{
+    const Shares quarter = tradeAt(stock, day, moment).volume / 4;
+    return wholeLots(quarter + between(draw(m_seed, Quarter, std::stoi(stock.code), day, moment), 0, 99));
+}
+
+Candle PriceProcess::candle(const Stock &stock, int day)
+{
+    const int last = m_calendar.momentCount() - 1;
+    Candle candle;
+    candle.day = m_calendar.dateOf(day);
+    if (moved(stock, day)) {
+        const auto trades = tradesUntil(stock, day, last);
+        const auto [low, high] = std::minmax_element(
+            trades.begin(), trades.end(), [](const Trade &a, const Trade &b) { return a.price < b.price; });
+        candle.open = trades.front().price;
+        candle.high = high->price;
+        candle.low = low->price;
+        candle.close = trades.back().price;
+        for (const Trade &trade : trades)
+            candle.volume += trade.volume;
+    } else {
+        const DayFrame frame = this->frame(stock, day);
+        const Path walk = path(stock, day, frame.previousClose);
+        std::int64_t lowest = std::min(walk.open, walk.close);
+        std::int64_t highest = std::max(walk.open, walk.close);
+        widen(walk, 0, walk.open, last, walk.close, walk.deviation / 2, lowest, highest);
+        candle.open = priceOf(stock, frame, 0, walk.open);
+        candle.high = priceOf(stock, frame, 0, highest);
+        candle.low = priceOf(stock, frame, 0, lowest);
+        candle.close = priceOf(stock, frame, last, walk.close);
+        candle.volume = wholeLots(walk.volume);
+    }
+    candle.turnover = candle.volume * (candle.open + candle.high + candle.low + candle.close) / 4;
+    return candle;
 }
 
 void PriceProcess::add(const PriceMove &move)
@@ -110,8 +158,7 @@ PriceProcess::Path PriceProcess::path(const Stock &stock, int day, Cents previou
     walk.open = std::max(walk.open, kFine);
     walk.close = std::max(walk.close, kFine);
     const Shares usualShares = stock.typicalTurnover / previousClose;
-    walk.sharesPerMoment =
-        usualShares * between(draw(walk.seed, DayVolume), 50, 180) / 100 / m_calendar.momentCount();
+    walk.volume = usualShares * between(draw(walk.seed, DayVolume), 50, 180) / 100;
     return walk;
 }
 
@@ -152,20 +199,96 @@ void PriceProcess::fill(const Path &path, std::vector<std::int64_t> &values, int
     fill(path, values, middle, high, halved(deviation));
 }
 
-Trade PriceProcess::traded(const Path &path, int moment, Cents price) const
+void PriceProcess::widen(const Path &path, int low, std::int64_t lowValue, int high, std::int64_t highValue,
+                         std::int64_t deviation, std::int64_t &lowest, std::int64_t &highest) const
 {
-    const std::uint64_t bits = draw(path.seed, Volume, moment);
+    if (high - low < 2)
+        return;
+    // All displacements below this stretch together: 3.464 / (1 - 181 / 256) deviations at most.
+    const std::int64_t reach = 12 * deviation;
+    if (std::max(lowValue, highValue) + reach <= highest && std::min(lowValue, highValue) - reach >= lowest)
+        return;
+    const int middle = (low + high) / 2;
+    const std::int64_t value =
+        (lowValue + highValue) / 2 + deviate(draw(path.seed, Middle, middle), deviation);
+    lowest = std::min(lowest, value);
+    highest = std::max(highest, value);
+    widen(path, low, lowValue, middle, value, halved(deviation), lowest, highest);
+    widen(path, middle, value, high, highValue, halved(deviation), lowest, highest);
+}
+
+Shares PriceProcess::auctionVolume(const Path &path, int moment) const
+{
     // An auction gathers about a hundredth of the day's volume.
-    const Shares usual = path.sharesPerMoment;
-    const Shares shares = m_calendar.isAuction(moment)
-                              ? usual * m_calendar.momentCount() / 100 * between(bits & 0xffff, 50, 150) / 100
-                              : usual * between(bits & 0xffff, 0, 200) * between(bits >> 32, 0, 200) / 10'000;
-    // Rounded to lots by chance, so that small volumes keep their mean.
-    const auto toLots = [](Shares exact, std::uint64_t chance) {
-        return (exact + between(chance, 0, 99)) / 100 * 100;
-    };
-    const Shares volume = toLots(shares, bits >> 16 & 0xffff);
-    return {price, volume, toLots(volume / 4, draw(path.seed, Quarter, moment))};
+    return m_calendar.isAuction(moment)
+               ? path.volume / 100 * between(draw(path.seed, Volume, moment), 50, 150) / 100
+               : 0;
+}
+
+Shares PriceProcess::leftPart(const Path &path, int first, int count, Shares volume) const
+{
+    const Shares even = volume * (count / 2) / count;
+    return even * between(draw(path.seed, Volume, first, count), 40, 160) / 100;
+}
+
+Shares PriceProcess::volumeThrough(const Path &path, int moment) const
+{
+    const int last = m_calendar.momentCount() - 1;
+    if (moment < 0)
+        return 0;
+    if (moment == last)
+        return path.volume;
+    const Shares opening = auctionVolume(path, 0);
+    if (m_calendar.isAuction(moment))
+        return opening;
+    int first = m_calendar.isAuction(0) ? 1 : 0;
+    int count = m_calendar.momentCount() - 2 * first;
+    Shares volume = path.volume - opening - auctionVolume(path, last);
+    Shares through = opening;
+    while (count > 1) {
+        const Shares left = leftPart(path, first, count, volume);
+        const int half = count / 2;
+        if (moment < first + half) {
+            count = half;
+            volume = left;
+        } else {
+            through += left;
+            volume -= left;
+            first += half;
+            count -= half;
+        }
+    }
+    return through + volume;
+}
+
+void PriceProcess::spread(const Path &path, std::vector<Shares> &volumes, int first, int count,
+                          Shares volume) const
+{
+    if (count == 1) {
+        volumes[static_cast<std::size_t>(first)] = volume;
+        return;
+    }
+    const Shares left = leftPart(path, first, count, volume);
+    spread(path, volumes, first, count / 2, left);
+    spread(path, volumes, first + count / 2, count - count / 2, volume - left);
+}
+
+std::vector<Shares> PriceProcess::volumesOf(const Path &path) const
+{
+    std::vector<Shares> volumes(static_cast<std::size_t>(m_calendar.momentCount()));
+    volumes.front() = auctionVolume(path, 0);
+    volumes.back() = auctionVolume(path, m_calendar.momentCount() - 1);
+    const int first = m_calendar.isAuction(0) ? 1 : 0;
+    spread(path, volumes, first, m_calendar.momentCount() - 2 * first,
+           path.volume - volumes.front() - volumes.back());
+    return volumes;
+}
+
+bool PriceProcess::moved(const Stock &stock, int day) const
+{
+    const auto moves = m_moves.find(stock.code);
+    return moves != m_moves.end() && std::any_of(moves->second.begin(), moves->second.end(),
+                                                 [day](const PriceMove &move) { return move.day == day; });
 }
 
 Cents PriceProcess::priceOf(const Stock &stock, const DayFrame &frame, int moment, std::int64_t value) const

@@ -25,7 +25,6 @@ struct DayFrame {
 struct Trade {
     Cents price = 0;
     Shares volume = 0;
-    Shares openToUsers = 0; ///< of the volume, what resting orders of our users may have had: about a quarter
 };
 
 /** A hand on the price: from a moment on to the end of that day. */
@@ -60,6 +59,12 @@ public:
     /** All trades of the day up to and including the moment. */
     std::vector<Trade> tradesUntil(const Stock &stock, int day, int moment);
 
+    /** Of a moment's volume what our users' resting orders may have had: a quarter, in lots rounded by
+     * chance. */
+    Shares openToUsers(const Stock &stock, int day, int moment);
+    /** A whole day. Its turnover is the volume at the mean of the four prices. */
+    Candle candle(const Stock &stock, int day);
+
     /** Takes a move up; moves of one stock come in order of time. */
     void add(const PriceMove &move);
     /** The price the stock would have without moves, which a shift adds to. */
@@ -72,7 +77,7 @@ private:
         std::int64_t open = 0;
         std::int64_t close = 0;
         std::int64_t deviation = 0;
-        Shares sharesPerMoment = 0;
+        Shares volume = 0; ///< of the whole day
     };
 
     Cents previousClose(const Stock &stock, int day);
@@ -80,7 +85,14 @@ private:
     std::int64_t valueAt(const Path &path, int moment) const;
     void fill(const Path &path, std::vector<std::int64_t> &values, int low, int high,
               std::int64_t deviation) const;
-    Trade traded(const Path &path, int moment, Cents price) const;
+    void widen(const Path &path, int low, std::int64_t lowValue, int high, std::int64_t highValue,
+               std::int64_t deviation, std::int64_t &lowest, std::int64_t &highest) const;
+    Shares auctionVolume(const Path &path, int moment) const;
+    Shares volumeThrough(const Path &path, int moment) const;
+    std::vector<Shares> volumesOf(const Path &path) const;
+    void spread(const Path &path, std::vector<Shares> &volumes, int first, int count, Shares volume) const;
+    Shares leftPart(const Path &path, int first, int count, Shares volume) const;
+    bool moved(const Stock &stock, int day) const;
     Cents priceOf(const Stock &stock, const DayFrame &frame, int moment, std::int64_t value) const;
 
     std::uint64_t m_seed;

@@ -48,7 +48,7 @@ struct MinutePoint {
     bool operator==(const MinutePoint &) const = default;
 };
 
-/** One trading day. */
+/** One trading day. A finished day's turnover is its volume at the mean of the four prices. */
 struct Candle {
     int day = 0; ///< 20260105
     Cents open = 0;

@@ -9,6 +9,23 @@ namespace {
 
 constexpr std::uint64_t kSeed = 3;
 
+void expectCandle(const Candle &candle, const std::vector<Trade> &trades)
+{
+    Cents high = 0;
+    Cents low = trades.front().price;
+    Shares volume = 0;
+    for (const Trade &trade : trades) {
+        high = std::max(high, trade.price);
+        low = std::min(low, trade.price);
+        volume += trade.volume;
+    }
+    EXPECT_EQ(candle.open, trades.front().price);
+    EXPECT_EQ(candle.high, high);
+    EXPECT_EQ(candle.low, low);
+    EXPECT_EQ(candle.close, trades.back().price);
+    EXPECT_EQ(candle.volume, volume);
+}
+
 TEST(Market, PricesStayWithinTheLimitsAndDaysAreChained)
 {
     Market market(kSeed, true);
@@ -26,6 +43,7 @@ TEST(Market, PricesStayWithinTheLimitsAndDaysAreChained)
             }
             if (!trades.empty()) {
                 EXPECT_EQ(market.prices().frame(stock, day + 1).previousClose, trades.back().price);
+                expectCandle(market.prices().candle(stock, day), trades);
                 locked += frame.locked(trades.back().price);
             }
         }

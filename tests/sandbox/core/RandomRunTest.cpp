@@ -1,6 +1,8 @@
 #include "TradingFixture.h"
 #include "market/Random.h"
 
+#include <thread>
+
 namespace sandbox {
 namespace {
 
@@ -91,6 +93,37 @@ TEST_P(RandomRun, TheBooksAreSoundAfterEveryStep)
     EXPECT_GT(deals.integer(0), 20) << "much was traded";
     EXPECT_EQ(deals.integer(1), 2);
     EXPECT_GT(deals.integer(2), 1) << "over more than a day";
+}
+
+class Crowd : public TradingFixture {};
+
+TEST_F(Crowd, ManyThreadsLeaveSoundBooks)
+{
+    open(false, shanghai(kTuesday, 9, 30));
+    const std::string code = stock(Board::ShanghaiMain).code;
+    for (UserId user = 1; user <= 4; ++user)
+        openAccount(100'000'000, user);
+    const std::string price = yuanText(quote(code).asks[2].price);
+    std::vector<std::thread> crowd;
+    for (UserId user = 1; user <= 4; ++user)
+        crowd.emplace_back([&, user] {
+            for (int i = 0; i < 40; ++i) {
+                brokerage().placeOrder({user, Side::Buy, code, price, "200"});
+                for (const Order &order : brokerage().openOrders(user))
+                    brokerage().cancelOrder(user, entrustNo(order.id));
+                brokerage().quote(code);
+                brokerage().accountSummary(user);
+                brokerage().tick();
+                brokerage().stepClock(200);
+            }
+        });
+    for (std::thread &thread : crowd)
+        thread.join();
+    std::size_t taken = 0;
+    for (UserId user = 1; user <= 4; ++user)
+        for (int page = 0; !brokerage().ordersToday(user, page).empty(); ++page)
+            taken += brokerage().ordersToday(user, page).size();
+    EXPECT_EQ(taken, 160u);
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomRun, ::testing::Range(1, 11));
