@@ -76,31 +76,36 @@ void TZSelectStockController::viewDidLoad()
     notifications.observe(this, NotificationNames::reachabilityChanged, [this](const QVariant &) {
         if (listState == ListState::Offline &&
             Platform::current().settings.value(SettingsKeys::networkStatus).toBool())
-            retry();
+            fetch();
     });
-    fetchIfEmpty();
-    refresh();
+    readListState();
 }
 
-void TZSelectStockController::fetchIfEmpty()
+void TZSelectStockController::viewWillAppear()
 {
-    readListState();
-    if (listState != ListState::Missing)
-        return;
+    KRBaseController::viewWillAppear();
+    if (listState == ListState::Missing)
+        fetch();
+}
+
+void TZSelectStockController::fetch()
+{
     if (!Service::isConnectionAvailable()) {
         listState = ListState::Offline;
+        refresh();
         return;
     }
     listState = ListState::Fetching;
     showWaitingView();
     const Failure failed(this,
                          [this](const Operation &, const RequestError &) { listState = ListState::Failed; });
-    const Operation fetch = TZStockInfoTool::getStockInfoWithParam({}, {}, failed);
-    connect(fetch.get(), &RequestOperation::finished, this, [this] {
+    const Operation request = TZStockInfoTool::getStockInfoWithParam({}, {}, failed);
+    connect(request.get(), &RequestOperation::finished, this, [this] {
         if (listState == ListState::Fetching)
             readListState();
         refresh();
     });
+    refresh();
 }
 
 void TZSelectStockController::readListState()
@@ -193,8 +198,8 @@ QString TZSelectStockController::footnote() const
 
 void TZSelectStockController::retry()
 {
-    fetchIfEmpty();
-    refresh();
+    if (canRetry())
+        fetch();
 }
 
 void TZSelectStockController::clearRecent()

@@ -72,6 +72,7 @@ public:
     Q_INVOKABLE void retry();
 
     void viewDidLoad() override;
+    void viewWillAppear() override;
 
 Q_SIGNALS:
     void textChanged();
@@ -83,7 +84,7 @@ private:
     enum class ListState { Ready, Fetching, Failed, Offline, Missing, Unusable };
 
     bool hasText() const;
-    void fetchIfEmpty();
+    void fetch();
     void readListState();
     void refresh();
     void setCurrentRow(int row);
