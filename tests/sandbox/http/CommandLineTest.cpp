@@ -2,7 +2,9 @@
 
 #include <array>
 #include <csignal>
+#include <fcntl.h>
 #include <fstream>
+#include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -14,17 +16,16 @@ class Process {
 public:
     explicit Process(const std::vector<std::string> &arguments)
     {
-        m_pid = ::fork();
-        if (m_pid == 0) {
-            std::vector<char *> words{const_cast<char *>(SANDBOX_PROGRAM)};
-            for (const std::string &argument : arguments)
-                words.push_back(const_cast<char *>(argument.c_str()));
-            words.push_back(nullptr);
-            static_cast<void>(::freopen(out().c_str(), "w", stdout));
-            static_cast<void>(::freopen(err().c_str(), "w", stderr));
-            ::execv(SANDBOX_PROGRAM, words.data());
-            ::_exit(127);
-        }
+        std::vector<char *> words{const_cast<char *>(SANDBOX_PROGRAM)};
+        for (const std::string &argument : arguments)
+            words.push_back(const_cast<char *>(argument.c_str()));
+        words.push_back(nullptr);
+        posix_spawn_file_actions_t files;
+        posix_spawn_file_actions_init(&files);
+        posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, out().c_str(), O_WRONLY | O_CREAT, 0600);
+        posix_spawn_file_actions_addopen(&files, STDERR_FILENO, err().c_str(), O_WRONLY | O_CREAT, 0600);
+        EXPECT_EQ(::posix_spawn(&m_pid, SANDBOX_PROGRAM, &files, nullptr, words.data(), environ), 0);
+        posix_spawn_file_actions_destroy(&files);
     }
     ~Process()
     {

@@ -1,6 +1,8 @@
 #include "RunningSandbox.h"
 #include "http/Form.h"
 
+#include <fstream>
+
 namespace sandbox::test {
 namespace {
 
@@ -137,6 +139,15 @@ TEST_F(RouteTable, EveryRouteAnswersWithAnEnvelopeAndNoneIsUnknown)
         EXPECT_TRUE(succeeded(envelope) || list || !message(envelope).empty()) << route.path;
     }
     EXPECT_EQ(client.get("sandbox/state").at("data").at("unknown").at("count"), 0);
+}
+
+TEST(Protocol, ItsDescriptionNamesEveryRoute)
+{
+    std::ifstream file(PROTOCOL_DOCUMENT);
+    const std::string text(std::istreambuf_iterator<char>(file), {});
+    for (const Route &route : routes())
+        EXPECT_NE(text.find(std::string("`") + route.method + " " + route.path + "`"), std::string::npos)
+            << route.path;
 }
 
 TEST_F(RouteTable, SignedOutCallersAreAskedToSignIn)
