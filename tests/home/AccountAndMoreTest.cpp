@@ -1,0 +1,147 @@
+#include "core/platform/ShareService.h"
+#include "core/session/NotificationNames.h"
+#include "core/session/SettingsKeys.h"
+#include "core/shell/KRNavigationController.h"
+#include "core/shell/KRSideMenu.h"
+#include "core/shell/KRWindow.h"
+#include "core/shell/TZInfoAlertView.h"
+#include "home/screens/TZMoreViewController.h"
+#include "home/screens/TZMyAccountController.h"
+#include "tests/support/RecordingRouter.h"
+#include "tests/support/TestPlatform.h"
+
+class AccountTest : public PlatformTest {
+protected:
+    AccountTest()
+    {
+        signIn();
+        auto screen = std::make_unique<TZMyAccountController>(router);
+        account = screen.get();
+        window.setRoot(
+            std::make_unique<KRSideMenu>(std::make_unique<KRNavigationController>(std::move(screen)),
+                                         std::make_unique<KRBaseController>()));
+        window.makeKeyAndVisible();
+    }
+    TZMoreViewController *more()
+    {
+        account->rightItemClick();
+        return qobject_cast<TZMoreViewController *>(account->navigationController()->top());
+    }
+    TZInfoAlertView *alert()
+    {
+        return window.dialogs()->count() == 0 ? nullptr
+                                              : qobject_cast<TZInfoAlertView *>(window.dialogs()->at(0));
+    }
+    QStringList values()
+    {
+        QStringList texts;
+        for (const AccountRow &row : account->assetRows()->rows())
+            texts.append(row.title + row.value);
+        return texts;
+    }
+
+    RecordingRouter router;
+    KRWindow window;
+    TZMyAccountController *account = nullptr;
+};
+
+TEST_F(AccountTest, ItShowsTheFiguresAsTheServiceWritesThemAndReadsThemAgainWhenTold)
+{
+    EXPECT_EQ(values(), (QStringList{"可用余额", "  冻结资金", " 借款总额", "持仓市值"}));
+    http.answer(QStringLiteral("userIndex"),
+                succeeded(QVariantMap{{"asset", QVariantMap{{"availableMoney", "1000.5"},
+                                                            {"frozenMoney", 20},
+                                                            {"borrowMoney", QVariant()},
+                                                            {"stockValue", "3,000.00"}}}}));
+    EXPECT_EQ(values(), (QStringList{"可用余额1000.5", "  冻结资金20", " 借款总额", "持仓市值3,000.00"}));
+    notifications.post(NotificationNames::refreshAccount);
+    EXPECT_TRUE(http.hasPending(QStringLiteral("userIndex")));
+    http.answer(QStringLiteral("userIndex"), refused(QString()));
+    EXPECT_EQ(values().constFirst(), QStringLiteral("可用余额1000.5"));
+}
+
+TEST_F(AccountTest, TheAvailableBalanceExplainsItself)
+{
+    account->clickAvailableBtn();
+    ASSERT_TRUE(alert());
+    EXPECT_EQ(alert()->titleText(), QStringLiteral("可用于购买股票的金额"));
+    EXPECT_EQ(alert()->ensureText(), QStringLiteral("您的充值金额、配资保证金及配资借款金额未使用的部分"));
+    EXPECT_TRUE(alert()->leftTitle().isEmpty());
+    EXPECT_EQ(alert()->rightTitle(), QStringLiteral("知道了"));
+    alert()->rightBtnClick();
+    EXPECT_FALSE(alert());
+}
+
+TEST_F(AccountTest, ItsButtonsOpenWhatTheySay)
+{
+    account->rechargeBtnClick();
+    account->withdrawalsBtnClick();
+    account->seePersonalInfo();
+    account->seeFundRecords();
+    EXPECT_EQ(router.calls,
+              (QStringList{"openRechargeGate", "openWithdraw", "openPersonal", "openFundRecords"}));
+}
+
+TEST_F(AccountTest, MoreOpensTheStoreFeedbackAndShare)
+{
+    TZMoreViewController *const screen = more();
+    ASSERT_TRUE(screen);
+    kits.calls.clear();
+    screen->didSelectRow(0);
+    EXPECT_TRUE(
+        kits.calls.constLast().contains(QStringLiteral("itms-apps://itunes.apple.com/app/i000000000")));
+    screen->didSelectRow(2);
+    EXPECT_EQ(kits.calls.size(), 2);
+    screen->didSelectRow(3);
+    EXPECT_EQ(kits.shared.title, QStringLiteral("Zorvane--一站式杠杆炒股"));
+    EXPECT_EQ(kits.shared.text,
+              QStringLiteral("推荐#Zorvane#炒股，配资＋炒股一站式解决，一份资金四倍收益，佣金低至万三。"));
+    EXPECT_EQ(kits.shared.image, QStringLiteral("common_logo"));
+    EXPECT_EQ(kits.shared.link, QStringLiteral("https://www.zorvane.example/"));
+    screen->didSelectRow(7);
+    EXPECT_EQ(kits.calls.size(), 3);
+}
+
+TEST_F(AccountTest, TheServiceIsCalledOnlyAfterAQuestion)
+{
+    TZMoreViewController *const screen = more();
+    kits.calls.clear();
+    screen->didSelectRow(1);
+    ASSERT_TRUE(alert());
+    EXPECT_EQ(alert()->titleText(), QStringLiteral("联系客服"));
+    EXPECT_EQ(alert()->ensureText(), QStringLiteral("客服电话：400-000-0000 \n每天9:00-18:00"));
+    alert()->leftBtnClick();
+    EXPECT_TRUE(kits.calls.isEmpty());
+    screen->didSelectRow(1);
+    alert()->rightBtnClick();
+    ASSERT_EQ(kits.calls.size(), 1);
+    EXPECT_TRUE(kits.calls.constFirst().contains(QStringLiteral("tel://400-000-0000")));
+}
+
+TEST_F(AccountTest, SigningOutForgetsTheUserAndStartsOver)
+{
+    settings.setValue(QStringLiteral("UserIndex"), QVariantMap{{"success", true}});
+    settings.setValue(SettingsKeys::infoVersion, QStringLiteral("12"));
+    const QStringList kept{SettingsKeys::networkStatus, SettingsKeys::isFirstSeeSpeedCapital,
+                           SettingsKeys::isFirstSeeMyCapital, SettingsKeys::bundleVersion,
+                           SettingsKeys::firstEnterCommissions};
+    for (const QString &key : kept)
+        settings.setValue(key, true);
+
+    TZMoreViewController *const screen = more();
+    screen->clickLogoutBtn();
+    EXPECT_EQ(alert()->titleText(), QStringLiteral("提示"));
+    EXPECT_EQ(alert()->ensureText(), QStringLiteral("确定要退出当前账号？"));
+    alert()->leftBtnClick();
+    EXPECT_TRUE(settings.values.contains(SettingsKeys::user));
+    EXPECT_TRUE(router.calls.isEmpty());
+
+    screen->clickLogoutBtn();
+    alert()->rightBtnClick();
+    EXPECT_EQ(router.calls, QStringList(QStringLiteral("setupSideMenuController")));
+    QStringList left = settings.allKeys();
+    left.sort();
+    QStringList expected = kept + QStringList(SettingsKeys::needTradePwd);
+    expected.sort();
+    EXPECT_EQ(left, expected);
+}
