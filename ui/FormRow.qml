@@ -6,7 +6,7 @@ Tappable {
 
     property string label
     property string value
-    property string icon
+    property string picture
     property bool chevron: false
     property bool line: true
     property color labelColour: tones.textPrimary
@@ -35,14 +35,14 @@ Tappable {
         Icon {
             id: iconImage
             anchors { left: parent.left; leftMargin: Theme.margin; verticalCenter: parent.verticalCenter }
-            visible: row.icon !== ""
-            name: row.icon
+            visible: row.picture !== ""
+            name: row.picture
         }
         Text {
             id: labelText
-            anchors { left: row.icon === "" ? parent.left : iconImage.right; verticalCenter: parent.verticalCenter }
-            anchors.leftMargin: row.icon === "" ? Theme.margin : Theme.spacing
-            width: Math.min(implicitWidth, row.width * 0.6)
+            anchors { left: row.picture === "" ? parent.left : iconImage.right; verticalCenter: parent.verticalCenter }
+            anchors.leftMargin: row.picture === "" ? Theme.margin : Theme.spacing
+            width: Math.min(implicitWidth, row.value === "" ? arrow.x - x : row.width * 0.6)
             text: row.label
             font: Theme.body
             color: row.enabled ? row.labelColour : row.tones.disabled
@@ -52,11 +52,13 @@ Tappable {
         AmountText {
             anchors { left: labelText.right; right: trailingSlot.left; verticalCenter: parent.verticalCenter }
             anchors.leftMargin: Theme.spacing
-            anchors.rightMargin: trailingSlot.width > 0 ? Theme.spacingSmall : 0
+            anchors.rightMargin: trailingSlot.width > 0 ? Theme.spacingSmall : row.chevron ? Theme.spacingTiny : 0
             text: row.value
             font: Theme.body
             color: row.enabled ? row.valueColour : row.tones.disabled
             horizontalAlignment: Text.AlignRight
+            verticalAlignment: Text.AlignVCenter
+            height: row.height
             elide: Text.ElideRight
             Accessible.ignored: true
         }

@@ -1,4 +1,5 @@
 import QtQuick
+import Zorvane.Ui
 
 /// The window: phone-shaped on a desktop, the whole screen on a phone.
 Window {

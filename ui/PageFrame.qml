@@ -21,13 +21,16 @@ FocusScope {
     Keys.onEscapePressed: event => page.goBack(event)
     Keys.onBackPressed: event => page.goBack(event)
 
+    function leaves(image: string): bool {
+        return image === "common_back_gray" || image === "common_close_gray"
+    }
+
     function goBack(event: KeyEvent) {
-        const leaves = ["common_back_gray", "common_close_gray"]
         if (controller.showBackButton)
             controller.backButtonClicked()
-        else if (leaves.includes(controller.leftItemImage) || controller.leftItemTitle !== "")
+        else if (leaves(controller.leftItemImage) || controller.leftItemTitle !== "")
             controller.leftItemClick()
-        else if (leaves.includes(controller.rightItemImage))
+        else if (leaves(controller.rightItemImage))
             controller.rightItemClick()
         else
             event.accepted = false

@@ -24,7 +24,7 @@ PageFrame {
             width: ListView.view.width
             chevron: true
             label: title
-            icon: image
+            picture: image
             onClicked: page.more.didSelectRow(index)
         }
         footer: Item {

@@ -15,7 +15,7 @@ PageFrame {
         id: stockRow
         width: parent.width
         deep: true
-        icon: chevron ? "search" : ""
+        picture: chevron ? "search" : ""
         label: page.screen.stockText === "" ? page.screen.stockPlaceholder : page.screen.stockText
         labelColour: page.screen.stockText === "" ? tones.placeholder : tones.textPrimary
         chevron: page.screen.canGotoStockSelect
