@@ -2,27 +2,36 @@
 
 #include "core/platform/SettingsStore.h"
 
-#include <QSettings>
+#include <QTimer>
+#include <QVariantMap>
 
 /// Why a settings file cannot be used.
 enum class SettingsProblem { None, Unreadable, Unwritable, Garbled };
 
-/// The settings in a file of their own that only its owner may read. Types are kept as they were set. Each
-/// change of the file replaces it as a whole.
+/// The settings in a file of their own that only its owner may read. Types are kept as they were set. A
+/// change reaches the disk with `synchronize`, a second later, or when the store goes; each time the file is
+/// replaced as a whole. A file with a problem is left alone.
 class QtSettingsStore : public SettingsStore {
 public:
     /// Makes the file's directory when it is missing, for its owner only.
     explicit QtSettingsStore(const QString &path);
+    ~QtSettingsStore() override;
 
-    /// Asked once after construction, and after `synchronize` where it matters that the disk has it.
-    SettingsProblem problem() const;
+    SettingsProblem problem() const { return state; }
 
-    QVariant value(const QString &key) const override { return settings.value(key); }
-    void setValue(const QString &key, const QVariant &value) override { settings.setValue(key, value); }
-    void remove(const QString &key) override { settings.remove(key); }
-    QStringList allKeys() const override { return settings.allKeys(); }
-    void synchronize() override { settings.sync(); }
+    QVariant value(const QString &key) const override { return values.value(key); }
+    void setValue(const QString &key, const QVariant &value) override;
+    void remove(const QString &key) override;
+    QStringList allKeys() const override { return values.keys(); }
+    void synchronize() override;
 
 private:
-    QSettings settings;
+    SettingsProblem load();
+    void changed();
+
+    const QString path;
+    QVariantMap values;
+    SettingsProblem state;
+    bool unsaved = false;
+    QTimer saveSoon;
 };

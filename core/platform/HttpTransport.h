@@ -4,7 +4,6 @@
 #include <QList>
 #include <QPair>
 #include <QString>
-
 #include <chrono>
 #include <functional>
 #include <variant>
@@ -23,13 +22,15 @@ struct HttpResponse {
     QByteArray body;
 };
 
+/// `Tls`: the other side could not prove itself, or an address was not HTTPS. `Cancelled`: given up on this
+/// side.
 enum class HttpFailure { Offline, TimedOut, Tls, Connection, Cancelled };
 
 using HttpOutcome = std::variant<HttpResponse, HttpFailure>;
 
 /// Sends bytes, brings bytes. Any status is a response; only what yields no whole response is a failure.
-/// Never retries (no request reaches the wire twice), never ignores a TLS error, follows redirects only while they stay
-/// on HTTPS. `done` runs exactly once, on the main thread, never from inside `send`.
+/// Never retries (no request reaches the wire twice), never ignores a TLS error, follows redirects only while
+/// they stay on HTTPS. `done` runs exactly once, on the main thread, never from inside `send`.
 class HttpTransport {
 public:
     virtual ~HttpTransport() = default;

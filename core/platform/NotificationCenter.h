@@ -2,11 +2,10 @@
 
 #include <QObject>
 #include <QVariant>
-
 #include <functional>
 
-/// Named notifications inside the client. Delivered at once, on the caller's thread (the main thread), in the order of
-/// observing; an observer ends with its owner.
+/// Named notifications inside the client. Delivered at once, on the caller's thread (the main thread), in the
+/// order of observing; an observer ends with its owner.
 class NotificationCenter : public QObject {
     Q_OBJECT
 public:

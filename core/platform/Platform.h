@@ -14,8 +14,8 @@ class SettingsStore;
 class ShareService;
 class UrlOpener;
 
-/// What the client needs of the platform below it. The service's tools are stateless classes of static functions, so this
-/// is the one process-wide access point: installed once by `main`, and by each test.
+/// What the client needs of the platform below it. The service's tools are stateless classes of static
+/// functions, so this is the one process-wide access point: installed once by `main`, and by each test.
 struct Platform {
     HttpTransport &http;
     SettingsStore &settings;

@@ -3,10 +3,10 @@
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
-
 #include <functional>
 
-/// What the device may do with a message: the kinds (alert 4, badge 1, sound 2, as one sum) and the actions offered with it.
+/// What the device may do with a message: the kinds (alert 4, badge 1, sound 2, as one sum) and the actions
+/// offered with it.
 struct PushAction {
     QString identifier;
     QString title;

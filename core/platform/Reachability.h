@@ -4,8 +4,9 @@
 
 enum class NetworkStatus { NotReachable, ReachableViaWiFi, ReachableViaWWAN };
 
-/// Whether the service can be reached at all. `changed` runs on the main thread after `start`, for each change.
-/// Unknown counts as reachable; a service on this machine always is.
+/// Whether the service can be reached at all. Unknown counts as reachable; a service on this machine always
+/// is. The one monitor is shared: the first `start` begins it, for the life of the process; `changed` then
+/// runs on the main thread for each change and replaces an earlier one, an empty one only begins.
 class Reachability {
 public:
     virtual ~Reachability() = default;

@@ -4,8 +4,9 @@
 #include <QStringList>
 #include <QVariant>
 
-/// The key-value store of the application: text, booleans, lists and dictionaries by key. Absent keys read as an invalid
-/// variant. What `synchronize` has returned from survives a kill; the stored file is whole at every moment.
+/// The key-value store of the application: text, booleans, lists and dictionaries by key. Absent keys read as
+/// an invalid variant. What `synchronize` has returned from survives a kill; the stored file is whole at
+/// every moment.
 class SettingsStore {
 public:
     virtual ~SettingsStore() = default;

@@ -6,7 +6,8 @@ void Timer::startOnce(std::chrono::milliseconds interval, std::function<void()> 
 {
     running.reset();
     running = Platform::current().runLoop.start(interval, Repeat::Once, [this, fire = std::move(fire)] {
-        // The function may destroy this timer's owner, or start it again: keep what runs alive and touch nothing after.
+        // The function may destroy this timer's owner, or start it again: keep what runs alive and touch
+        // nothing after.
         const auto alive = std::move(running);
         const auto body = fire;
         body();

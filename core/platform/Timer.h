@@ -2,8 +2,8 @@
 
 #include "core/platform/RunLoop.h"
 
-/// A timer as a member of its owner: ends with it. Starting again replaces what was running, which is how a burst of
-/// calls becomes one.
+/// A timer as a member of its owner: ends with it. Starting again replaces what was running, which is how a
+/// burst of calls becomes one.
 class Timer {
 public:
     void startOnce(std::chrono::milliseconds interval, std::function<void()> fire);

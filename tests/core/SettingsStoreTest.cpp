@@ -1,6 +1,7 @@
 #include "app/platform/QtSettingsStore.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
@@ -66,8 +67,27 @@ TEST(SettingsStore, IsWholeAfterAKillAtAnyMoment)
             << "both keys are of one flush";
         ASSERT_EQ(QFileInfo(path).permissions() & (QFile::ReadGroup | QFile::ReadOther),
                   QFile::Permissions());
+        EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files),
+                  QStringList({QStringLiteral("zorvane.settings")}));
         told = round;
     }
+}
+
+TEST(SettingsStore, SavesByItselfWithinAboutASecondAndNotWithoutAChange)
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("zorvane.settings"));
+    QtSettingsStore store(path);
+    store.setValue(QStringLiteral("networkStatus"), true);
+    for (const QDeadlineTimer limit(3000); QFileInfo(path).size() == 0 && !limit.hasExpired();)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+    EXPECT_EQ(QtSettingsStore(path).allKeys(), QStringList({QStringLiteral("networkStatus")}));
+
+    ASSERT_TRUE(QFile::remove(path));
+    store.setValue(QStringLiteral("networkStatus"), true);
+    store.remove(QStringLiteral("absent"));
+    store.synchronize();
+    EXPECT_FALSE(QFile::exists(path));
 }
 
 TEST(SettingsStore, BringsValuesBackAsTheyWereSet)
