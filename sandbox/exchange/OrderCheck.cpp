@@ -50,11 +50,11 @@ Failure checkSellLots(Shares shares, Shares available, const LotRule &rule)
 {
     if (fitsLots(shares, rule))
         return std::nullopt;
-    const Shares odd = rule.step == 1 ? available : available % rule.step;
-    const bool takesRemainder = rule.step == 1 ? shares == available : odd != 0 && shares % rule.step == odd;
-    if (takesRemainder)
+    const Shares odd = rule.step > 1 ? available % rule.step : available % rule.minimum;
+    const bool sellsItWhole = rule.step > 1 ? shares % rule.step == odd : shares == available;
+    if (odd != 0 && sellsItWhole)
         return std::nullopt;
-    if (rule.step > 1 && odd != 0)
+    if (odd != 0 && rule.step > 1)
         return Refusal{Rule::OddRemainder, "不足" + std::to_string(rule.step) +
                                                "股的余额须一次性卖出，零股为" + std::to_string(odd) + "股"};
     return Refusal{Rule::Lot, lotText(rule)};

@@ -13,23 +13,7 @@ enum Purpose { Taker = 200, Phases, Size, Gap };
 /** How long displayed volumes stand before they are drawn anew. Each price has a rhythm of its own. */
 constexpr Millis kRhythms[] = {9 * kSecond, 15 * kSecond, 24 * kSecond, 33 * kSecond};
 
-Candle candleOf(int date, const std::vector<Trade> &trades)
-{
-    Candle candle;
-    candle.day = date;
-    if (trades.empty())
-        return candle;
-    candle.open = trades.front().price;
-    candle.close = trades.back().price;
-    candle.high = candle.low = candle.open;
-    for (const Trade &trade : trades) {
-        candle.high = std::max(candle.high, trade.price);
-        candle.low = std::min(candle.low, trade.price);
-        candle.volume += trade.volume;
-        candle.turnover += trade.price * trade.volume;
-    }
-    return candle;
-}
+constexpr std::size_t kRememberedHistories = 200;
 
 std::vector<MinutePoint> minutesOf(const Calendar &calendar, int day, const std::vector<Trade> &trades)
 {
@@ -190,6 +174,8 @@ StockDetail Market::detail(const Stock &stock, Millis time, const UsedDepth &use
 
 const std::vector<Candle> &Market::finishedCandles(const Stock &stock, int today, int count)
 {
+    if (m_history.size() > kRememberedHistories)
+        m_history.clear();
     History &history = m_history[stock.code];
     if (history.today == today)
         return history.candles;

@@ -30,6 +30,24 @@ Shares wholeLots(Shares shares)
 
 } // namespace
 
+Candle candleOf(int date, const std::vector<Trade> &trades)
+{
+    Candle candle;
+    candle.day = date;
+    if (trades.empty())
+        return candle;
+    candle.open = trades.front().price;
+    candle.close = trades.back().price;
+    candle.high = candle.low = candle.open;
+    for (const Trade &trade : trades) {
+        candle.high = std::max(candle.high, trade.price);
+        candle.low = std::min(candle.low, trade.price);
+        candle.volume += trade.volume;
+        candle.turnover += trade.price * trade.volume;
+    }
+    return candle;
+}
+
 PriceProcess::PriceProcess(std::uint64_t seed, const Calendar &calendar) : m_seed(seed), m_calendar(calendar)
 {
 }
@@ -84,32 +102,28 @@ Shares PriceProcess::openToUsers(const Stock &stock, int day, int moment)
 Candle PriceProcess::candle(const Stock &stock, int day)
 {
     const int last = m_calendar.momentCount() - 1;
-    Candle candle;
-    candle.day = m_calendar.dateOf(day);
-    if (moved(stock, day)) {
-        const auto trades = tradesUntil(stock, day, last);
-        const auto [low, high] = std::minmax_element(
-            trades.begin(), trades.end(), [](const Trade &a, const Trade &b) { return a.price < b.price; });
-        candle.open = trades.front().price;
-        candle.high = high->price;
-        candle.low = low->price;
-        candle.close = trades.back().price;
-        for (const Trade &trade : trades)
-            candle.volume += trade.volume;
-    } else {
-        const DayFrame frame = this->frame(stock, day);
-        const Path walk = path(stock, day, frame.previousClose);
-        std::int64_t lowest = std::min(walk.open, walk.close);
-        std::int64_t highest = std::max(walk.open, walk.close);
-        widen(walk, 0, walk.open, last, walk.close, walk.deviation / 2, lowest, highest);
-        candle.open = priceOf(stock, frame, 0, walk.open);
-        candle.high = priceOf(stock, frame, 0, highest);
-        candle.low = priceOf(stock, frame, 0, lowest);
-        candle.close = priceOf(stock, frame, last, walk.close);
-        candle.volume = wholeLots(walk.volume);
-    }
+    Candle candle = moved(stock, day) ? candleOf(m_calendar.dateOf(day), tradesUntil(stock, day, last))
+                                      : drawnCandle(stock, day);
     candle.turnover = candle.volume * (candle.open + candle.high + candle.low + candle.close) / 4;
     return candle;
+}
+
+Candle PriceProcess::drawnCandle(const Stock &stock, int day)
+{
+    const int last = m_calendar.momentCount() - 1;
+    const DayFrame frame = this->frame(stock, day);
+    const Path walk = path(stock, day, frame.previousClose);
+    std::int64_t lowest = std::min(walk.open, walk.close);
+    std::int64_t highest = std::max(walk.open, walk.close);
+    widen(walk, 0, walk.open, last, walk.close, walk.deviation / 2, lowest, highest);
+    const auto priced = [&](std::int64_t value) { return priceOf(stock, frame, last, value); };
+    return {m_calendar.dateOf(day),
+            priced(walk.open),
+            priced(highest),
+            priced(lowest),
+            priced(walk.close),
+            wholeLots(walk.volume),
+            0};
 }
 
 void PriceProcess::add(const PriceMove &move)

@@ -27,6 +27,9 @@ struct Trade {
     Shares volume = 0;
 };
 
+/** A day, or a day so far, out of its trades; all 0 without any. */
+Candle candleOf(int date, const std::vector<Trade> &trades);
+
 /** A hand on the price: from a moment on to the end of that day. */
 struct PriceMove {
     enum class Kind { Shift, SealUp, SealDown, Release };
@@ -93,6 +96,7 @@ private:
     void spread(const Path &path, std::vector<Shares> &volumes, int first, int count, Shares volume) const;
     Shares leftPart(const Path &path, int first, int count, Shares volume) const;
     bool moved(const Stock &stock, int day) const;
+    Candle drawnCandle(const Stock &stock, int day);
     Cents priceOf(const Stock &stock, const DayFrame &frame, int moment, std::int64_t value) const;
 
     std::uint64_t m_seed;
