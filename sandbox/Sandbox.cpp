@@ -7,6 +7,7 @@
 
 #include <condition_variable>
 #include <fcntl.h>
+#include <iostream>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -23,14 +24,13 @@ Millis realNow()
     return duration_cast<milliseconds>(system_clock::now().time_since_epoch()).count();
 }
 
-/// The data directory, readable by its owner only and used by one sandbox at a time.
+/// The data directory, used by one sandbox at a time. One that is made here is its owner's only.
 class DataDirectory {
 public:
     explicit DataDirectory(const std::filesystem::path &path) : m_path(path)
     {
         std::error_code error;
-        std::filesystem::create_directories(path, error);
-        if (!error)
+        if (std::filesystem::create_directories(path, error))
             ::chmod(path.c_str(), 0700);
         m_lock = error ? -1 : ::open((path / "lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
         if (m_lock < 0)
@@ -75,11 +75,20 @@ private:
     {
         std::unique_lock lock(m_mutex);
         while (!m_wake.wait_for(lock, heartbeat, [this] { return m_stopping; })) {
-            m_service.brokerage.tick();
-            m_service.orderWatch.look(m_service.push.listeners(), [this](const Order &order) {
-                http::push(m_service, order.user, 3, http::entrustJson(order, m_service.brokerage.stocks()));
-            });
+            try {
+                beat();
+            } catch (const std::exception &error) {
+                std::cerr << "error: " << error.what() << std::endl;
+            }
         }
+    }
+
+    void beat()
+    {
+        m_service.brokerage.tick();
+        m_service.orderWatch.look(m_service.push.listeners(), [this](const Order &order) {
+            http::push(m_service, order.user, 3, http::entrustJson(order, m_service.brokerage.stocks()));
+        });
     }
 
     http::Service &m_service;
@@ -139,6 +148,7 @@ struct Sandbox::Parts {
         console::addConsole(router, service);
         pages::addPages(router);
         port = server.start(options.host, options.port);
+        host = options.host == "::1" || options.host == "::" ? "[::1]" : "127.0.0.1";
     }
     ~Parts()
     {
@@ -163,6 +173,7 @@ struct Sandbox::Parts {
     http::Service service;
     http::Router router;
     http::Server server;
+    std::string host; ///< as a URL of this machine names it
     int port = 0;
     Heartbeat beat{service};
 };
@@ -188,7 +199,7 @@ int Sandbox::port() const
 
 std::string Sandbox::readyLine() const
 {
-    return "ready https://127.0.0.1:" + std::to_string(m_parts->port) + "/ ca " +
+    return "ready https://" + m_parts->host + ":" + std::to_string(m_parts->port) + "/ ca " +
            std::filesystem::absolute(m_parts->caFile).string();
 }
 

@@ -27,7 +27,7 @@ public:
     Sandbox &operator=(const Sandbox &) = delete;
 
     [[nodiscard]] int port() const;
-    /// "ready https://127.0.0.1:PORT/ ca DIR/ca.pem"
+    /// "ready https://127.0.0.1:PORT/ ca DIR/ca.pem"; with [::1] when it listens on IPv6
     [[nodiscard]] std::string readyLine() const;
     [[nodiscard]] http::Service &service();
 

@@ -4,6 +4,7 @@
 #include <csignal>
 #include <iostream>
 #include <mutex>
+#include <sys/stat.h>
 
 namespace {
 
@@ -11,6 +12,9 @@ constexpr int cannotStart = 2;
 
 int run(const sandbox::Options &options)
 {
+    // What is kept is its owner's only.
+    ::umask(077);
+
     // Blocked here, and so in every thread made later: only sigwait below takes them.
     sigset_t ends;
     sigemptyset(&ends);

@@ -96,8 +96,10 @@ std::string sendMessage(Service &service, const Call &call)
     message.user = owner(service, call);
     message.source = call.text("source") == messages::source::activity ? messages::source::activity
                                                                        : messages::source::system;
-    message.title = call.need("title", "title");
+    message.title = call.text("title");
     message.content = call.text("content", 2000);
+    if (message.title.empty() || message.content.empty())
+        throw Refusal("A message needs a title and a text.");
     message.summary = message.content;
     http::sendMessage(service, std::move(message));
     return "Sent.";

@@ -35,7 +35,7 @@ int Call::number(std::string_view name, int otherwise, int least, int most) cons
     const char *end = value.data() + value.size();
     const auto [rest, error] = std::from_chars(value.data(), end, result);
     if (error != std::errc() || rest != end)
-        throw Refusal("页码不正确");
+        throw Refusal("数字格式不正确");
     return std::clamp(result, least, most);
 }
 

@@ -33,8 +33,8 @@ struct Call {
     /// As text(), and throws Refusal when the field is missing or blank; `title` is its name for the user.
     std::string need(std::string_view name, const std::string &title) const;
 
-    /// The field as a page or size number between `least` and `most`; `otherwise` when missing, Refusal when
-    /// it is no number.
+    /// The field as a whole number, brought between `least` and `most`; `otherwise` when missing, Refusal
+    /// when it is no number.
     [[nodiscard]] int number(std::string_view name, int otherwise, int least, int most) const;
 };
 

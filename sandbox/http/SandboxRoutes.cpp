@@ -66,7 +66,7 @@ Json state(const Router &router, Service &service)
         {{"unknown", {{"count", unknown.count}, {"latest", unknown.latest}}},
          {"clock", {{"now", std::to_string(service.brokerage.now())}, {"speedPercent", clock.speedPercent}}},
          {"tradingDay", std::to_string(service.brokerage.tradingDay())},
-         {"pushStreams", service.push.listeners().size()},
+         {"pushStreams", service.push.streams()},
          {"faults", std::move(faults)},
          {"users", std::move(users)}});
 }

@@ -1,9 +1,8 @@
 #include "http/Server.h"
 
 #include <cerrno>
-#include <cstring>
 #include <httplib.h>
-#include <netinet/in.h>
+#include <netdb.h>
 #include <poll.h>
 #include <unistd.h>
 
@@ -38,21 +37,23 @@ bool hasEnded(const SSL *connection)
     return ::poll(&descriptor, 1, 0) > 0;
 }
 
-/// Whether another program already listens there, told from the reason why binding fails.
+/// Tries again to bind, for the reason that the library does not tell.
 std::string whyNotBound(const std::string &host, int port)
 {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_port = htons(static_cast<std::uint16_t>(port));
-    if (inet_pton(AF_INET, host.c_str(), &address.sin_addr) != 1)
-        return "the address cannot be used";
-    const int socket = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    addrinfo hints{};
+    hints.ai_socktype = SOCK_STREAM;
+    hints.ai_flags = AI_PASSIVE;
+    addrinfo *found = nullptr;
+    if (::getaddrinfo(host.c_str(), std::to_string(port).c_str(), &hints, &found) != 0)
+        return "there is no such address on this machine";
+    const std::unique_ptr<addrinfo, void (*)(addrinfo *)> address(found, &::freeaddrinfo);
+    const int socket = ::socket(address->ai_family, SOCK_STREAM | SOCK_CLOEXEC, 0);
     const int yes = 1;
     ::setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
-    const bool bound = ::bind(socket, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0;
-    const int error = bound ? EADDRINUSE : errno;
+    const int error = ::bind(socket, address->ai_addr, address->ai_addrlen) == 0 ? EADDRINUSE : errno;
     ::close(socket);
-    return error == EADDRINUSE ? "the port is in use" : std::strerror(error);
+    return error == EADDRINUSE ? "the port is in use; choose another with --port, 0 for a free one"
+                               : std::generic_category().message(error);
 }
 
 } // namespace
@@ -210,7 +211,8 @@ void Server::serve(const httplib::Request &request, httplib::Response &response,
     }
     if (m_log) {
         const auto spent = std::chrono::duration_cast<std::chrono::milliseconds>(steady_clock::now() - began);
-        m_log(request.method + " " + printable(request.path) + " " + std::to_string(response.status) + " " +
+        const std::string status = response.status < 0 ? "dropped" : std::to_string(response.status);
+        m_log(request.method + " " + printable(request.path) + " " + status + " " +
               std::to_string(spent.count()) + " ms");
     }
 }

@@ -72,6 +72,12 @@ std::set<UserId> PushHub::listeners() const
     return users;
 }
 
+std::size_t PushHub::streams() const
+{
+    const std::scoped_lock lock(m_mutex);
+    return m_streams.size();
+}
+
 void PushHub::close()
 {
     {

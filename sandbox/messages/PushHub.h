@@ -46,6 +46,8 @@ public:
     void send(UserId user, const std::string &line);
     /// The users who have a stream now.
     std::set<UserId> listeners() const;
+    /// How many streams are open.
+    std::size_t streams() const;
     /// Ends every stream, for the end of the program.
     void close();
 
