@@ -143,32 +143,47 @@ TEST_F(BooksFixture, TheEventsAloneGiveTheBooksAgain)
     EXPECT_NE(dump(copy).find("entrust\n1|"), std::string::npos) << "there is something to compare";
 }
 
-TEST_F(BooksFixture, SameSeedClockAndRequestsGiveTheSameBooksHoweverOftenTheMarketTicks)
+/** Orders that fill at once, rest near the market and far from it, a cancel and a hand on the price. */
+void tradeALot(Brokerage &brokerage)
 {
-    tradeABit();
-    pass(kMinute);
-    Database first(databasePath());
-    const std::string books = dump(first);
-
-    const TemporaryDirectory directory;
-    Millis real = shanghai(kTuesday, 10, 0);
-    Clock clock([&real] { return real; });
-    Brokerage other({directory.file("other.sqlite"), 11, false}, clock);
-    other.createDemoAccount(kUser);
-    const std::string code = other.holdings(kUser).front().stockCode;
-    const Quote shown = *other.quote(code);
+    const std::string code = brokerage.holdings(1).front().stockCode;
+    const Quote shown = *brokerage.quote(code);
     const auto order = [&](Side side, Cents price, const char *shares) {
-        other.placeOrder({kUser, side, code, yuanText(price), shares});
+        brokerage.placeOrder({1, side, code, yuanText(price), shares});
     };
     order(Side::Buy, shown.asks[1].price, "600");
     order(Side::Buy, shown.lowerLimit, "100");
-    order(Side::Sell, shown.upperLimit, "400");
     order(Side::Sell, shown.bids[1].price, "300");
-    other.cancelOrder(kUser, entrustNo(2));
-    other.movePrice(code, shown.last + 7);
-    for (int i = 0; i < 70; ++i) {
+    for (std::size_t line = 0; line < 4; ++line) {
+        order(Side::Buy, shown.bids[line].price, "500");
+        order(Side::Sell, shown.asks[line].price, "200");
+    }
+    brokerage.cancelOrder(1, entrustNo(2));
+    brokerage.movePrice(code, shown.last + 2);
+}
+
+TEST_F(BooksFixture, SameSeedClockAndRequestsGiveTheSameBooksHoweverOftenItTicksOrStartsAgain)
+{
+    tradeALot(brokerage());
+    pass(40 * kMinute);
+    Database first(databasePath());
+    const std::string books = dump(first);
+    EXPECT_GT(brokerage().dealsToday(kUser, 0).size(), 3u) << "there is something to compare";
+
+    const TemporaryDirectory directory;
+    const BrokerageOptions options{directory.file("other.sqlite"), 11, false};
+    Millis real = shanghai(kTuesday, 10, 0);
+    Clock clock([&real] { return real; });
+    auto other = std::make_unique<Brokerage>(options, clock);
+    other->createDemoAccount(kUser);
+    tradeALot(*other);
+    for (int second = 1; second <= 40 * 60; ++second) {
         real += kSecond;
-        other.tick();
+        other->tick();
+        if (second % 300 == 0) {
+            other.reset();
+            other = std::make_unique<Brokerage>(options, clock);
+        }
     }
     Database second(directory.file("other.sqlite"));
     EXPECT_EQ(dump(second), books);
