@@ -15,9 +15,9 @@ constexpr int mostRedirects = 5;
 /// One request from sending to its outcome, redirects included; deletes itself.
 class Exchange : public QObject {
 public:
-    Exchange(QNetworkAccessManager &networkManager, QSslConfiguration tlsConfiguration,
+    Exchange(QNetworkAccessManager &networkManager, const QSslConfiguration &tlsConfiguration,
              bool allowLoopbackHttp, HttpRequest httpRequest, std::function<void(const HttpOutcome &)> onDone)
-        : QObject(&networkManager), manager(networkManager), tls(std::move(tlsConfiguration)),
+        : QObject(&networkManager), manager(networkManager), tls(tlsConfiguration),
           loopbackHttp(allowLoopbackHttp), request(std::move(httpRequest)), done(std::move(onDone))
     {
         deadline.setSingleShot(true);
@@ -145,10 +145,8 @@ private:
 } // namespace
 
 QtHttpTransport::QtHttpTransport(const DeveloperTrust &trust)
-    : tls(QSslConfiguration::defaultConfiguration()), loopbackHttp(trust.loopbackHttp)
+    : tls(trust.configuration()), loopbackHttp(trust.loopbackHttp)
 {
-    if (!trust.authorities.isEmpty())
-        tls.setCaCertificates(trust.authorities);
 }
 
 void QtHttpTransport::send(const HttpRequest &request, std::function<void(const HttpOutcome &)> done)

@@ -1,16 +1,10 @@
 #pragma once
 
+#include "app/platform/DeveloperTrust.h"
 #include "core/platform/HttpTransport.h"
 
 #include <QNetworkAccessManager>
-#include <QSslCertificate>
-
-/// What a developer build may trust: authorities, when there are any, instead of the system's (reading all of
-/// those at start takes longer than the first frame), and plain HTTP to this machine.
-struct DeveloperTrust {
-    QList<QSslCertificate> authorities;
-    bool loopbackHttp = false;
-};
+#include <QSslConfiguration>
 
 /// The transport on the network library: its connection pool keeps connections and TLS sessions, nothing else
 /// is kept between requests (no cookies, no cached answers, no credentials). 301, 302 and 303 are followed as
@@ -24,6 +18,6 @@ public:
 
 private:
     QNetworkAccessManager manager;
-    QSslConfiguration tls;
+    const QSslConfiguration tls;
     const bool loopbackHttp;
 };

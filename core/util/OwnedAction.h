@@ -2,10 +2,10 @@
 
 #include <QObject>
 #include <QPointer>
-
 #include <functional>
 
-/// Something to do later that belongs to an owner: once the owner is gone, or when default-made, calling it does nothing.
+/// Something to do later that belongs to an owner: once the owner is gone, or when default-made, calling it
+/// does nothing.
 class OwnedAction {
 public:
     OwnedAction() = default;

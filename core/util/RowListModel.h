@@ -18,7 +18,10 @@ Q_SIGNALS:
     void countChanged();
 
 protected:
-    GadgetListModel(const QMetaObject &gadgetType, QObject *parent) : QAbstractListModel(parent), type(gadgetType) {}
+    GadgetListModel(const QMetaObject &gadgetType, QObject *parent)
+        : QAbstractListModel(parent), type(gadgetType)
+    {
+    }
     virtual int size() const = 0;
     virtual const void *gadget(int row) const = 0;
 
@@ -33,7 +36,8 @@ public:
     const QList<Row> &rows() const { return stored; }
     const Row &at(int row) const { return stored.at(row); }
 
-    /// Rows are updated in place where the number is the same, so that a list that is redrawn keeps its position.
+    /// Rows are updated in place where the number is the same, so that a list that is redrawn keeps its
+    /// position.
     void setRows(QList<Row> rows)
     {
         if (rows.size() == stored.size() && !rows.isEmpty()) {
