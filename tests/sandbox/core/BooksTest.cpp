@@ -143,7 +143,7 @@ TEST_F(BooksFixture, TheEventsAloneGiveTheBooksAgain)
     EXPECT_NE(dump(copy).find("entrust\n1|"), std::string::npos) << "there is something to compare";
 }
 
-/** Orders that fill at once, rest near the market and far from it, a cancel and a hand on the price. */
+/** Orders that fill at once, rest near the market or wait in a queue, a cancel and a hand on the price. */
 void tradeALot(Brokerage &brokerage)
 {
     const std::string code = brokerage.holdings(1).front().stockCode;
@@ -160,6 +160,9 @@ void tradeALot(Brokerage &brokerage)
     }
     brokerage.cancelOrder(1, entrustNo(2));
     brokerage.movePrice(code, shown.last + 2);
+    const std::string sealed = brokerage.holdings(1)[1].stockCode;
+    brokerage.sealBoard(sealed, Brokerage::Seal::LimitUp);
+    brokerage.placeOrder({1, Side::Buy, sealed, yuanText(brokerage.quote(sealed)->upperLimit), "100"});
 }
 
 TEST_F(BooksFixture, SameSeedClockAndRequestsGiveTheSameBooksHoweverOftenItTicksOrStartsAgain)

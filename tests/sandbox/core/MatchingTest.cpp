@@ -133,8 +133,10 @@ TEST_F(Matching, ACancelReleasesTheMoneyASecondLater)
     EXPECT_EQ(brokerage().cancelProgress(kUser, order.id), CancelProgress::Pending);
     const auto again = brokerage().cancelOrder(kUser, entrustNo(order.id));
     EXPECT_TRUE(std::holds_alternative<Refusal>(again));
+    pass(kSecond - 1);
+    EXPECT_EQ(brokerage().cancelProgress(kUser, order.id), CancelProgress::Pending);
     EXPECT_GT(brokerage().accountSummary(kUser).frozen, 0);
-    pass(kSecond);
+    pass(1);
     EXPECT_EQ(brokerage().cancelProgress(kUser, order.id), CancelProgress::Done);
     EXPECT_EQ(orderNow(order).status, OrderStatus::Cancelled);
     EXPECT_EQ(brokerage().usableMoney(kUser), 1'000'000'000);
