@@ -12,6 +12,8 @@
 #include "home/screens/TZMessageDetailController.h"
 #include "home/screens/TZMyAccountController.h"
 #include "trading/api/TZTradeTool.h"
+#include "trading/screens/TZDealDetailController.h"
+#include "trading/screens/TZRealTradingController.h"
 
 namespace {
 std::unique_ptr<TZPlainPageController> plainPage(const QString &title, const QString &text)
@@ -79,8 +81,7 @@ void AppRouter::setupSideMenuController()
 
 void AppRouter::openRealTrading(KRBaseController &from)
 {
-    from.navigationController()->push(
-        plainPage(QStringLiteral("Zorvane-实盘炒股"), QStringLiteral("在这里查看持仓并买卖股票。")));
+    from.navigationController()->push(std::make_unique<TZRealTradingController>(*this));
 }
 
 void AppRouter::openStockCapital(KRBaseController &from)
@@ -144,7 +145,9 @@ void AppRouter::presentMessageDetail(const QVariantMap &information)
                                                                QStringLiteral("remote")));
 }
 
-void AppRouter::presentOrderDetail(const QVariantMap &)
+void AppRouter::presentOrderDetail(const QVariantMap &information)
 {
-    window.present(plainPage(QStringLiteral("委托详情"), QStringLiteral("在这里查看这笔委托的详情。")));
+    auto detail = std::make_unique<TZDealDetailController>(TZDealDetailController::entrustTitle);
+    detail->setEntrustsTodayModel(fromDictionary<TZEntrustsTodayModel>(information));
+    window.present(std::move(detail));
 }

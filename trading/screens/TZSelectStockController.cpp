@@ -32,8 +32,11 @@ Rank rankOf(const TZStockInfoModel &stock, const QString &text)
 QList<TZStockInfoModel> ranked(const QList<TZStockInfoModel> &found, const QString &text, qsizetype limit)
 {
     std::array<QList<TZStockInfoModel>, 3> ranks;
-    for (const TZStockInfoModel &stock : found)
-        ranks[static_cast<size_t>(rankOf(stock, text))].append(stock);
+    for (const TZStockInfoModel &stock : found) {
+        QList<TZStockInfoModel> &rank = ranks[static_cast<size_t>(rankOf(stock, text))];
+        if (rank.size() < limit)
+            rank.append(stock);
+    }
     return (ranks[0] + ranks[1] + ranks[2]).mid(0, limit);
 }
 

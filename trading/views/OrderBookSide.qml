@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Zorvane.Ui
+import Zorvane.Trading
 
 /// The ten levels of one side of the order book, under each other.
 Column {

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Zorvane.Ui
+import Zorvane.Trading
 
 /// The stock on top, below it the form with the order book at its side.
 PageFrame {

@@ -1,0 +1,133 @@
+#include "trading/screens/TZDealAndEntrustController.h"
+
+#include "core/shell/KRNavigationController.h"
+#include "core/shell/KRWindow.h"
+#include "core/util/Amount.h"
+#include "trading/api/EntrustStatus.h"
+#include "trading/api/TZTradeTool.h"
+#include "trading/screens/TZDealDetailController.h"
+#include "trading/screens/TradeTexts.h"
+
+using namespace std::chrono_literals;
+
+namespace {
+QString stockLabel(const QString &name, const QString &code)
+{
+    return QStringLiteral("%1(%2)").arg(name, code);
+}
+
+QVariantMap pageParam(int page)
+{
+    return {{QStringLiteral("page"), page}};
+}
+} // namespace
+
+TodayRow TodayRow::of(const TZEntrustsTodayModel &entrust)
+{
+    const EntrustStatus status = EntrustStatus::of(entrust.status);
+    return TodayRow{stockLabel(entrust.stockName, entrust.stockCode),
+                    TradeTexts::side(entrust.type),
+                    TradeTexts::isSell(entrust.type),
+                    TradeTexts::time(entrust.createdAt),
+                    entrust.entrustPrice,
+                    entrust.entrustShares,
+                    status.text,
+                    status.tone == EntrustStatus::Dealt,
+                    status.tone == EntrustStatus::Waiting,
+                    {}}
+        .spoken();
+}
+
+TodayRow TodayRow::of(const TZDetailsTodayModel &deal)
+{
+    return TodayRow{stockLabel(deal.stockName, deal.stockCode),
+                    TradeTexts::side(deal.type),
+                    TradeTexts::isSell(deal.type),
+                    TradeTexts::time(deal.updatedAt),
+                    deal.businessPrice,
+                    deal.businessShares,
+                    labelAmount(deal.businessMoney),
+                    false,
+                    false,
+                    {}}
+        .spoken();
+}
+
+TodayRow TodayRow::spoken() const
+{
+    TodayRow row = *this;
+    row.sentence = QStringList{stock, side, time, price, shares, result}.join(QLatin1Char(' '));
+    return row;
+}
+
+Operation TZDealAndEntrustController::EntrustList::requestPage(int page, Success success)
+{
+    // Kept on purpose: the first page of the entrusts, unlike that of the deals, is asked for without its
+    // number.
+    return TZTradeTool::getEntrustsTodayWithParam(page == 0 ? QVariantMap() : pageParam(page),
+                                                  std::move(success), {});
+}
+
+Operation TZDealAndEntrustController::DealList::requestPage(int page, Success success)
+{
+    return TZTradeTool::getDetailsTodayWithParam(pageParam(page), std::move(success), {});
+}
+
+TZDealAndEntrustController::TZDealAndEntrustController()
+    : entrusts([this] { startGuard(); }), deals([this] { startGuard(); })
+{
+}
+
+void TZDealAndEntrustController::viewDidLoad()
+{
+    KRBaseController::viewDidLoad();
+    setTitle(pageTitles().first());
+    setShowBackButton(true);
+    entrusts.attach(window());
+    deals.attach(window());
+    entrusts.beginRefreshing();
+}
+
+void TZDealAndEntrustController::titleBtnClick(int tag)
+{
+    showPage(tag - EntrustTag);
+}
+
+void TZDealAndEntrustController::showPage(int index)
+{
+    if (index == pageIndex || index < 0 || index >= pageTitles().size())
+        return;
+    pageIndex = index;
+    setTitle(pageTitles().at(index));
+    Q_EMIT currentPageChanged();
+    if (index == 0 || shouldReloadDealData)
+        return;
+    shouldReloadDealData = true;
+    deals.beginRefreshing();
+}
+
+void TZDealAndEntrustController::startGuard()
+{
+    guard.startOnce(15s, [this] {
+        entrusts.endRefreshing();
+        deals.endRefreshing();
+    });
+}
+
+void TZDealAndEntrustController::selectEntrust(int row)
+{
+    if (row < 0 || row >= entrustArr().size())
+        return;
+    auto detail = std::make_unique<TZDealDetailController>(TZDealDetailController::entrustTitle);
+    detail->setEntrustsTodayModel(entrustArr().at(row));
+    window()->present(std::move(detail));
+}
+
+void TZDealAndEntrustController::selectDeal(int row)
+{
+    if (row < 0 || row >= dealsArr().size())
+        return;
+    auto detail = std::make_unique<TZDealDetailController>(TZDealDetailController::dealTitle);
+    detail->setDetailsTodayModel(dealsArr().at(row));
+    window()->present(std::move(detail));
+}

@@ -1,0 +1,118 @@
+#include "trading/screens/TZWithdrawalsController.h"
+
+#include "core/util/Service.h"
+#include "core/util/Text.h"
+#include "trading/api/EntrustStatus.h"
+#include "trading/api/TZTradeTool.h"
+#include "trading/screens/TradeTexts.h"
+
+using namespace std::chrono_literals;
+
+namespace {
+const QString dataKey = QStringLiteral("data");
+
+WithdrawalRow rowOf(const TZCallBackPageModel &entrust)
+{
+    WithdrawalRow row{QStringLiteral("%1(%2)").arg(entrust.stockName, entrust.stockCode),
+                      TradeTexts::side(entrust.type),
+                      TradeTexts::isSell(entrust.type),
+                      entrust.entrustPrice,
+                      entrust.entrustShares,
+                      entrust.businessShares,
+                      EntrustStatus::of(entrust.status).text,
+                      {}};
+    row.sentence =
+        QStringList{row.stock, row.side, row.price, row.shares, row.dealt, row.status}.join(QLatin1Char(' '));
+    return row;
+}
+} // namespace
+
+void TZWithdrawalsController::viewDidLoad()
+{
+    TradingListController::viewDidLoad();
+    setTitle(QStringLiteral("撤单"));
+    setShowBackButton(true);
+    beginRefreshing();
+}
+
+void TZWithdrawalsController::viewWillAppear()
+{
+    TradingListController::viewWillAppear();
+    shown = true;
+}
+
+void TZWithdrawalsController::viewDidDisappear()
+{
+    TradingListController::viewDidDisappear();
+    shown = false;
+    pending.stop();
+    timer.stop();
+}
+
+void TZWithdrawalsController::refreshData()
+{
+    const auto answered = [this](const Operation &, const QVariantMap &answer) {
+        showEntrusts(answer.value(dataKey));
+    };
+    refreshUntilAnswered(TZTradeTool::getCallBackPageWithParam({}, Success{this, answered}, {}));
+}
+
+void TZWithdrawalsController::showEntrusts(const QVariant &data)
+{
+    entrusts = fromArray<TZCallBackPageModel>(data);
+    setNoData(entrusts.isEmpty());
+    endRefreshing();
+    QList<WithdrawalRow> rows;
+    for (const TZCallBackPageModel &entrust : std::as_const(entrusts))
+        rows.append(rowOf(entrust));
+    shownRows.setRows(rows);
+}
+
+void TZWithdrawalsController::withdrawalsBtnDidClick(int row)
+{
+    if (row < 0 || row >= entrusts.size())
+        return;
+    callBackPageModel = entrusts.at(row);
+    pending.startOnce(500ms, [this] { withdrawals(); });
+}
+
+void TZWithdrawalsController::withdrawals()
+{
+    const QString id = callBackPageModel.id;
+    const auto answered = [this, id](const Operation &, const QVariantMap &) {
+        watchedOrder = id;
+        watchCancellation();
+    };
+    TZTradeTool::postCreateCancelWithParam({{QStringLiteral("tradeEntrustNo"), callBackPageModel.entrustNo}},
+                                           Success{this, answered}, {});
+}
+
+void TZWithdrawalsController::watchCancellation()
+{
+    // Without an identifier there is nothing to ask for: the indicator, which the tool left on, would stay
+    // for ever.
+    if (Service::whetherAnEmptyString(watchedOrder))
+        return cancellationEnded();
+    if (!shown)
+        return;
+    queryWithDrawStatus();
+    if (!timer.isActive())
+        timer.startRepeating(3s, [this] { queryWithDrawStatus(); });
+}
+
+void TZWithdrawalsController::queryWithDrawStatus()
+{
+    const auto answered = [this, asked = watchedOrder](const Operation &, const QVariantMap &answer) {
+        if (timer.isActive() && asked == watchedOrder && boolValue(answer.value(dataKey)))
+            cancellationEnded();
+    };
+    TZTradeTool::postQueryWithDrawStatusWithParam({{QStringLiteral("id"), watchedOrder}},
+                                                  Success{this, answered}, {});
+}
+
+void TZWithdrawalsController::cancellationEnded()
+{
+    timer.stop();
+    hidenWaitngView();
+    refreshData();
+}

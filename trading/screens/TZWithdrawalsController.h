@@ -1,0 +1,65 @@
+#pragma once
+
+#include "core/util/RowListModel.h"
+#include "trading/api/TZCallBackPageModel.h"
+#include "trading/screens/TradingListController.h"
+
+/// An entrust that can still be cancelled, as the list shows it.
+struct WithdrawalRow {
+    Q_GADGET
+    Q_PROPERTY(QString stock MEMBER stock)
+    Q_PROPERTY(QString side MEMBER side)
+    Q_PROPERTY(bool isSell MEMBER isSell)
+    Q_PROPERTY(QString price MEMBER price)
+    Q_PROPERTY(QString shares MEMBER shares)
+    Q_PROPERTY(QString dealt MEMBER dealt)
+    Q_PROPERTY(QString status MEMBER status)
+    /// The row as one sentence.
+    Q_PROPERTY(QString sentence MEMBER sentence)
+public:
+    QString stock;
+    QString side;
+    bool isSell = false;
+    QString price;
+    QString shares;
+    QString dealt;
+    QString status;
+    QString sentence;
+};
+
+/// Cancels orders. After a cancellation was accepted it is asked every three seconds, without limit, whether
+/// it is through; the waiting indicator stays until then.
+class TZWithdrawalsController : public TradingListController {
+    Q_OBJECT
+    /// Rows of WithdrawalRow.
+    Q_PROPERTY(GadgetListModel *rows READ rows CONSTANT)
+public:
+    GadgetListModel *rows() { return &shownRows; }
+    const QList<TZCallBackPageModel> &withdrawalsArray() const { return entrusts; }
+    QString orderId() const { return watchedOrder; }
+
+    /// Half a second after the last tap one request is sent.
+    Q_INVOKABLE void withdrawalsBtnDidClick(int row);
+
+    void viewDidLoad() override;
+    void viewWillAppear() override;
+    void viewDidDisappear() override;
+
+protected:
+    void refreshData() override;
+
+private:
+    void showEntrusts(const QVariant &data);
+    void withdrawals();
+    void watchCancellation();
+    void queryWithDrawStatus();
+    void cancellationEnded();
+
+    QList<TZCallBackPageModel> entrusts;
+    TZCallBackPageModel callBackPageModel;
+    QString watchedOrder;
+    RowListModel<WithdrawalRow> shownRows;
+    Timer pending;
+    Timer timer;
+    bool shown = false;
+};

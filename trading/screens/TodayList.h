@@ -1,0 +1,74 @@
+#pragma once
+
+#include "core/net/Callbacks.h"
+#include "core/shell/TZBaseTableViewController.h"
+#include "core/util/RowListModel.h"
+#include "core/util/Text.h"
+
+#include <functional>
+
+/// One of the two lists of today, read page by page. Pages count from 0; a further page is appended, a
+/// refresh replaces all.
+class TodayList : public TZBaseTableViewController {
+    Q_OBJECT
+    Q_PROPERTY(GadgetListModel *rows READ rows CONSTANT)
+public:
+    /// `startGuard` is called with every request: it ends the spinners of both lists when no answer comes.
+    explicit TodayList(std::function<void()> startGuard);
+
+    virtual GadgetListModel *rows() = 0;
+    int currentPage() const { return counter; }
+    using TZBaseTableViewController::endRefreshing;
+
+protected:
+    /// `page` 0 is the refresh.
+    virtual Operation requestPage(int page, Success success) = 0;
+    virtual void replace(const QVariant &data) = 0;
+    virtual void append(const QVariant &data) = 0;
+
+    void refreshData() override;
+    void loadMoreData() override;
+
+private:
+    void ask(int wanted);
+    void show(int wanted, const QVariant &data);
+    void ended(int wanted);
+
+    std::function<void()> guard;
+    int counter = 0;
+    int answeredPage = 0;
+};
+
+/// A `TodayList` of `Model`s shown as `Row`s; `Row::of(model)` makes a row.
+template <typename Model, typename Row> class TodayListOf : public TodayList {
+public:
+    using TodayList::TodayList;
+    GadgetListModel *rows() override { return &shownRows; }
+    const QList<Model> &models() const { return all; }
+
+protected:
+    void replace(const QVariant &data) override
+    {
+        all = fromArray<Model>(data);
+        shownRows.setRows(rowsOf(all));
+        setNoData(all.isEmpty());
+    }
+    void append(const QVariant &data) override
+    {
+        const QList<Model> further = fromArray<Model>(data);
+        all += further;
+        shownRows.append(rowsOf(further));
+    }
+
+private:
+    static QList<Row> rowsOf(const QList<Model> &models)
+    {
+        QList<Row> made;
+        for (const Model &model : models)
+            made.append(Row::of(model));
+        return made;
+    }
+
+    QList<Model> all;
+    RowListModel<Row> shownRows;
+};

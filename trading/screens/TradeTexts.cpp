@@ -1,0 +1,21 @@
+#include "trading/screens/TradeTexts.h"
+
+#include "core/util/Service.h"
+#include "core/util/Text.h"
+
+bool TradeTexts::isSell(const QString &type)
+{
+    return integerValue(type) != 1;
+}
+
+QString TradeTexts::side(const QString &type)
+{
+    return isSell(type) ? QStringLiteral("卖出") : QStringLiteral("买入");
+}
+
+QString TradeTexts::time(const QString &stamp)
+{
+    bool isNumber = false;
+    stamp.toDouble(&isNumber);
+    return isNumber ? Service::formatDateStamp(stamp) : stamp;
+}

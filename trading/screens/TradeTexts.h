@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+/// How fields of entrusts and deals are written.
+namespace TradeTexts {
+
+/// "1" is "买入", everything else "卖出".
+bool isSell(const QString &type);
+QString side(const QString &type);
+/// Milliseconds since 1970 as "yyyy-MM-dd HH:mm" in the device's time zone; what is not a number stays as it
+/// is.
+QString time(const QString &stamp);
+
+} // namespace TradeTexts

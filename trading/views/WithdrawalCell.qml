@@ -1,0 +1,108 @@
+import QtQuick
+import Zorvane.Ui
+
+/// An entrust that can still be cancelled.
+Item {
+    id: cell
+
+    required property int index
+    required property string stock
+    required property string side
+    required property bool isSell
+    required property string price
+    required property string shares
+    required property string dealt
+    required property string status
+    required property string sentence
+
+    signal cancelled
+
+    implicitHeight: 76
+    Accessible.role: Accessible.ListItem
+    Accessible.name: sentence
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.deep.surface
+    }
+    Column {
+        anchors { left: parent.left; right: cancel.left; margins: Theme.margin; verticalCenter: parent.verticalCenter }
+        spacing: Theme.spacingSmall
+
+        Row {
+            spacing: Theme.spacingSmall
+
+            Text {
+                text: cell.side
+                font: Theme.bodyBold
+                color: cell.isSell ? Theme.fall : Theme.rise
+                Accessible.ignored: true
+            }
+            Text {
+                text: cell.stock
+                font: Theme.body
+                color: Theme.deep.textPrimary
+                Accessible.ignored: true
+            }
+            Text {
+                anchors.baseline: parent.children[0].baseline
+                text: cell.status
+                font: Theme.caption
+                color: Theme.deep.textSecondary
+                Accessible.ignored: true
+            }
+        }
+        Row {
+            id: figures
+            width: parent.width
+            spacing: Theme.spacing
+
+            Figure {
+                label: "价格"
+                value: cell.price
+            }
+            Figure {
+                label: "委托"
+                value: cell.shares
+            }
+            Figure {
+                label: "成交"
+                value: cell.dealt
+            }
+        }
+    }
+    SecondaryButton {
+        id: cancel
+        anchors { right: parent.right; rightMargin: Theme.margin; verticalCenter: parent.verticalCenter }
+        small: true
+        deep: true
+        text: "撤单"
+        onClicked: cell.cancelled()
+    }
+    Hairline {
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; leftMargin: Theme.margin }
+        deep: true
+    }
+
+    component Figure: Row {
+        id: figure
+
+        required property string label
+        required property string value
+
+        spacing: Theme.spacingTiny
+
+        Text {
+            text: figure.label
+            font: Theme.caption
+            color: Theme.deep.textSecondary
+            Accessible.ignored: true
+        }
+        Text {
+            text: figure.value
+            font: Theme.caption
+            color: Theme.deep.textPrimary
+            Accessible.ignored: true
+        }
+    }
+}
