@@ -1,4 +1,5 @@
 import QtQuick
+import Zorvane.Ui
 
 /// The card of a dialog over the dimmed window; children are laid under each other in it. Esc cancels.
 FocusTrap {

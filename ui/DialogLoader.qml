@@ -1,4 +1,5 @@
 import QtQuick
+import Zorvane.Ui
 
 /// Shows the view that a dialog names.
 Loader {

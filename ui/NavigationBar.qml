@@ -1,4 +1,5 @@
 import QtQuick
+import Zorvane.Ui
 
 /// The bar of a screen: the title or its picture in the middle, the items at the ends.
 Rectangle {

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Zorvane.Ui
 
 /// Draws a stack of screens: one slides over the other, the one below follows slowly. Screens that are covered are not
 /// rendered.
@@ -33,7 +34,7 @@ FocusScope {
             height: stack.height
             animated: stack.visible
             focus: !leaving && (!above || above.leaving)
-            onLeft: stack.navigation.transitionFinished(controller)
+            onGone: stack.navigation.transitionFinished(controller)
         }
     }
 }

@@ -20,7 +20,7 @@ Tappable {
     background: Item {
         Rectangle {
             anchors { right: parent.right; top: parent.top; bottom: parent.bottom; margins: 2 }
-            width: parent.width * Math.min(1, Math.max(0, row.share))
+            width: (parent.width - 4) * Math.min(1, Math.max(0, row.share))
             color: row.buySide ? Theme.buy : Theme.sell
             opacity: 0.25
         }
@@ -48,6 +48,7 @@ Tappable {
             font: Theme.bodyBold
             deep: row.deep
             trend: row.trend
+            horizontalAlignment: Text.AlignRight
             Accessible.ignored: true
         }
         AmountText {

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Zorvane.Ui
 
 /// The frame of a screen: its navigation bar and background; children fill what is left. Esc goes back.
 FocusScope {

@@ -1,10 +1,9 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
+import Zorvane.Ui
 
 /// The list of a list screen: pull down to refresh (F5 does it too), pull up or tap the last row to load more, the panel
-/// of an empty list. Scrolls with the keyboard.
-ListView {
+/// of an empty list.
+ContentList {
     id: list
 
     required property TZBaseTableViewController controller
@@ -12,42 +11,24 @@ ListView {
     property bool canLoadMore: false
     property string noDataText: "暂无数据"
     readonly property int pullDistance: 56
+    // How far the content is pulled below its upper, above its lower end.
+    readonly property real pulledDown: originY - contentY
+    readonly property real pulledUp: contentY + height - originY - Math.max(contentHeight, height)
 
-    clip: true
-    activeFocusOnTab: count > 0
     boundsBehavior: Flickable.DragOverBounds
     topMargin: controller.refreshing ? pullDistance : 0
     onDragStarted: controller.scrollViewWillBeginDragging()
     onDragEnded: {
-        if (contentY - originY < -pullDistance)
+        if (pulledDown > pullDistance)
             controller.beginRefreshing()
-        else if (canLoadMore && count > 0 && contentY - originY + height > contentHeight + pullDistance)
+        else if (canLoadMore && count > 0 && pulledUp > pullDistance)
             controller.beginLoadingMore()
     }
-    Accessible.role: Accessible.List
-
-    Keys.onPressed: event => {
-        const page = Math.max(Theme.rowHeight, height - Theme.rowHeight)
-        const end = Math.max(0, contentHeight - height)
-        const steps = {
-            [Qt.Key_Down]: Theme.rowHeight,
-            [Qt.Key_Up]: -Theme.rowHeight,
-            [Qt.Key_PageDown]: page,
-            [Qt.Key_PageUp]: -page,
-            [Qt.Key_Home]: -contentHeight,
-            [Qt.Key_End]: contentHeight
-        }
+    Keys.onReleased: event => {
         if (event.key === Qt.Key_F5)
             controller.beginRefreshing()
-        else if (event.key in steps)
-            contentY = originY + Math.min(end, Math.max(0, contentY - originY + steps[event.key]))
-        else
-            return
-        event.accepted = true
     }
-
-    footer: LoadMoreRow {
-        width: list.width
+    footerContent: LoadMoreRow {
         visible: list.canLoadMore && list.count > 0
         deep: list.deep
         loading: list.controller.loadingMore
@@ -58,8 +39,9 @@ ListView {
         parent: list
         width: list.width
         height: list.pullDistance
-        y: Math.min(0, -height - (list.contentY - list.originY))
-        visible: list.contentY - list.originY < 0
+        y: list.pulledDown - height
+        visible: list.pulledDown > 0
+
         Spinner {
             anchors.centerIn: parent
             visible: list.controller.refreshing
@@ -69,7 +51,7 @@ ListView {
             visible: !list.controller.refreshing
             name: "pull_arrow"
             size: 20
-            rotation: list.contentY - list.originY < -list.pullDistance ? 180 : 0
+            rotation: list.pulledDown > list.pullDistance ? 180 : 0
         }
     }
     MVNoDataView {

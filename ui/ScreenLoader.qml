@@ -1,4 +1,5 @@
 import QtQuick
+import Zorvane.Ui
 
 /// Shows the view of a screen, found by the name of its class.
 Loader {

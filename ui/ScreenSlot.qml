@@ -1,4 +1,5 @@
 import QtQuick
+import Zorvane.Ui
 
 /// The place of one screen in a stack: slides in when it comes, out when it leaves, with the finger on a swipe from the
 /// left edge.
@@ -14,7 +15,7 @@ FocusScope {
     /// 0 beyond the right edge, 1 in place.
     property real progress: animated && index > 0 ? 0 : 1
 
-    signal left
+    signal gone
 
     function slide(to: real) {
         movement.to = to
@@ -36,7 +37,7 @@ FocusScope {
         property: "progress"
         duration: Theme.motion
         easing.type: Easing.OutCubic
-        onFinished: if (slot.leaving) slot.left()
+        onFinished: if (slot.leaving) slot.gone()
     }
     Item {
         width: Theme.spacingLarge

@@ -1,4 +1,5 @@
 import QtQuick
+import Zorvane.Ui
 
 /// The content over the menu: opened, it shrinks and moves to the right, and a tap on it closes the menu.
 FocusScope {

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Zorvane.Ui
 
 /// Four pages to leaf through with a finger, the arrow keys or the buttons; the last one leads into the client.
 FocusScope {

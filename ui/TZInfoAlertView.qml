@@ -1,4 +1,5 @@
 import QtQuick
+import Zorvane.Ui
 
 /// A question or a piece of news, with one or two answers.
 DialogFrame {

@@ -1,4 +1,5 @@
 import QtQuick
+import Zorvane.Ui
 
 /// Asks for the six digits of the trade password.
 DialogFrame {

@@ -1,6 +1,5 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
+import Zorvane.Ui
 
 /// What fills the window, from the back to the front: its root, what is presented over it, the dialogs, the waiting
 /// indicator, the banners.
@@ -9,9 +8,6 @@ Item {
 
     required property KRWindow window
     required property OverlayHost overlays
-    readonly property KRSideMenu sideMenu: window.root as KRSideMenu
-    readonly property KRBaseController guide: window.root as KRBaseController
-    readonly property bool blocked: overlays.waiting
     /// How many presented stacks have slid into place and cover what is under them.
     property int settled: 0
 
@@ -28,13 +24,13 @@ Item {
     }
     FocusScope {
         anchors.fill: parent
-        focus: !main.blocked
+        focus: !main.overlays.waiting
 
-        Loader {
+        RootLoader {
             anchors.fill: parent
             visible: main.settled === 0
             focus: presented.count === 0 && dialogs.count === 0
-            sourceComponent: main.sideMenu ? sideMenuFrame : main.guide ? guideScreen : null
+            root: main.window.root
         }
         Repeater {
             id: presented
@@ -68,33 +64,14 @@ Item {
             }
         }
     }
-    Loader {
+    WaitingIndicator {
         anchors.fill: parent
-        active: main.overlays.waiting
-        focus: main.blocked
-        sourceComponent: waitingIndicator
+        visible: main.overlays.waiting
+        focus: main.overlays.waiting
+        status: main.overlays.waitingStatus
     }
     Repeater {
         model: main.overlays.banners
         Banner {}
-    }
-    Component {
-        id: sideMenuFrame
-        SideMenuFrame {
-            sideMenu: main.sideMenu
-        }
-    }
-    Component {
-        id: guideScreen
-        ScreenLoader {
-            controller: main.guide
-        }
-    }
-    Component {
-        id: waitingIndicator
-        WaitingIndicator {
-            focus: true
-            status: main.overlays.waitingStatus
-        }
     }
 }

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Zorvane.Ui
+import Zorvane.Home
 
 /// The first page: one of its two faces above the two ways in.
 PageFrame {
@@ -10,11 +11,25 @@ PageFrame {
     required controller
     readonly property TZHomeViewController home: controller as TZHomeViewController
 
-    Loader {
+    RefreshableList {
+        id: signedIn
         anchors { left: parent.left; right: parent.right; top: parent.top; bottom: entries.top }
-        focus: true
-        sourceComponent: page.home.face === TZHomeViewController.SignedIn ? signedIn
-                         : page.home.face === TZHomeViewController.SignedOut ? signedOut : null
+        visible: page.home.face === TZHomeViewController.SignedIn
+        focus: visible
+        controller: page.home
+        deep: true
+        model: 1
+        delegate: LoginViewCell {
+            width: ListView.view.width
+            height: Math.max(implicitHeight, ListView.view.height)
+            home: page.home
+        }
+    }
+    UnloginView {
+        anchors.fill: signedIn
+        visible: page.home.face === TZHomeViewController.SignedOut
+        focus: visible
+        home: page.home
     }
     Row {
         id: entries
@@ -34,25 +49,6 @@ PageFrame {
             text: "炒股"
             caption: "佣金低至万三"
             onClicked: page.home.transactionBtnClick()
-        }
-    }
-    Component {
-        id: signedIn
-        RefreshableList {
-            controller: page.home
-            deep: true
-            model: 1
-            delegate: LoginViewCell {
-                width: ListView.view.width
-                height: Math.max(implicitHeight, ListView.view.height)
-                home: page.home
-            }
-        }
-    }
-    Component {
-        id: signedOut
-        UnloginView {
-            home: page.home
         }
     }
 }

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Zorvane.Ui
+import Zorvane.Home
 
 PageFrame {
     id: page
@@ -9,13 +10,11 @@ PageFrame {
     required controller
     readonly property TZMoreViewController more: controller as TZMoreViewController
 
-    ListView {
+    ContentList {
         anchors.fill: parent
         focus: true
         topMargin: Theme.spacing
-        boundsBehavior: Flickable.StopAtBounds
         model: page.more.moreRows
-        Accessible.role: Accessible.List
         delegate: FormRow {
             required property int index
             required property string title
@@ -27,8 +26,7 @@ PageFrame {
             picture: image
             onClicked: page.more.didSelectRow(index)
         }
-        footer: Item {
-            width: ListView.view.width
+        footerContent: Item {
             height: Theme.buttonHeight + 2 * Theme.spacingHuge
 
             PrimaryButton {

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Zorvane.Ui
+import Zorvane.Home
 
 PageFrame {
     id: page
@@ -15,9 +16,7 @@ PageFrame {
         focus: true
         controller: page.account
         model: page.account.assetRows
-        header: Column {
-            width: ListView.view.width
-
+        headerContent: Column {
             AccountTitle {
                 width: parent.width
                 nick: page.account.nick
@@ -33,9 +32,7 @@ PageFrame {
             width: ListView.view.width
             onInfoClicked: page.account.clickAvailableBtn()
         }
-        footer: Column {
-            width: ListView.view.width
-
+        footerContent: Column {
             Item {
                 width: 1
                 height: Theme.spacing

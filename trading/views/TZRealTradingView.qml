@@ -19,9 +19,7 @@ PageFrame {
         noDataText: "暂无持仓"
         Accessible.name: page.trading.holdingsTitle
 
-        header: Column {
-            width: ListView.view.width
-
+        headerContent: Column {
             Row {
                 id: figures
                 readonly property real tileWidth: (width - 2 * Theme.margin - 2 * Theme.spacing) / 3

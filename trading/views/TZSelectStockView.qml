@@ -49,18 +49,15 @@ PageFrame {
             }
         }
     }
-    ListView {
+    ContentList {
         id: list
         anchors { left: parent.left; right: parent.right; top: top.bottom; bottom: parent.bottom }
-        clip: true
         activeFocusOnTab: count > 0
-        boundsBehavior: Flickable.StopAtBounds
         reuseItems: true
         model: page.screen.rows
         currentIndex: page.screen.currentRow
         highlightMoveDuration: 0
         onDragStarted: page.screen.scrollViewWillBeginDragging()
-        Accessible.role: Accessible.List
         Accessible.name: page.screen.title
         Keys.onPressed: event => page.move(event)
         Keys.onReturnPressed: page.screen.pickCurrentRow()
@@ -71,8 +68,7 @@ PageFrame {
             current: ListView.isCurrentItem
             onClicked: page.screen.pick(index)
         }
-        footer: Text {
-            width: ListView.view.width
+        footerContent: Text {
             height: text === "" ? 0 : Theme.rowHeight
             text: page.screen.footnote
             font: Theme.label

@@ -10,16 +10,12 @@ PageFrame {
     required controller
     readonly property TZStockDetailController detail: controller as TZStockDetailController
 
-    ListView {
+    ContentList {
         anchors { left: parent.left; right: parent.right; top: parent.top; bottom: buttons.top }
-        clip: true
-        boundsBehavior: Flickable.StopAtBounds
         model: page.detail.rows
-        Accessible.role: Accessible.List
         Accessible.name: page.detail.stockText
 
-        header: Column {
-            width: ListView.view.width
+        headerContent: Column {
             topPadding: Theme.spacingHuge
             bottomPadding: Theme.spacingHuge
             leftPadding: Theme.margin
