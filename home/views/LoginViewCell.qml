@@ -1,5 +1,6 @@
 import QtQuick
 import Zorvane.Ui
+import Zorvane.Home
 
 /// The asset summary of a signed-in user.
 Item {

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Zorvane.Ui
+import Zorvane.Home
 
 /// What a visitor sees: how many trade with borrowed capital, and loans of others going by.
 Item {
