@@ -178,7 +178,7 @@ struct Sandbox::Parts {
     Heartbeat beat{service};
 };
 
-Sandbox::Sandbox(const Options &options, std::function<void(const std::string &)> print)
+Sandbox::Sandbox(const Options &options, const std::function<void(const std::string &)> &print)
 {
     try {
         m_parts = std::make_unique<Parts>(options, print);

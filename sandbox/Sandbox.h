@@ -21,7 +21,7 @@ public:
 class Sandbox {
 public:
     /// Throws StartError.
-    Sandbox(const Options &options, std::function<void(const std::string &)> print);
+    Sandbox(const Options &options, const std::function<void(const std::string &)> &print);
     ~Sandbox();
     Sandbox(const Sandbox &) = delete;
     Sandbox &operator=(const Sandbox &) = delete;

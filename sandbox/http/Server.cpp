@@ -1,5 +1,7 @@
 #include "http/Server.h"
 
+#include "http/Body.h"
+
 #include <cerrno>
 #include <httplib.h>
 #include <netdb.h>
@@ -12,7 +14,6 @@ namespace {
 using std::chrono::steady_clock;
 
 constexpr std::size_t connectionThreads = 96;
-constexpr std::size_t longestBody = 8 * 1024 * 1024;
 constexpr std::size_t longestPath = 1000;
 
 bool configure(SSL_CTX &context, const tls::Identity &identity)
@@ -29,6 +30,24 @@ std::string printable(const std::string &path)
     std::replace_if(
         result.begin(), result.end(), [](char c) { return c < 0x21 || c > 0x7e; }, '?');
     return result;
+}
+
+Call readCall(const httplib::Request &request, Body body)
+{
+    Call call;
+    call.method = request.method;
+    call.path = request.path.substr(request.path.empty() ? 0 : 1);
+    call.fields = std::move(body.fields);
+    call.file = std::move(body.upload);
+    if (const std::size_t query = request.target.find('?'); query != std::string::npos)
+        call.fields.merge(parseForm(std::string_view(request.target).substr(query + 1)));
+    call.token = request.get_header_value("api_token");
+    call.infoVersion = request.get_header_value("info_version");
+    call.alias = request.get_header_value("alias");
+    call.host = request.get_header_value("Host");
+    call.origin = request.get_header_value("Origin");
+    call.remote = request.remote_addr;
+    return call;
 }
 
 bool hasEnded(const SSL *connection)
@@ -96,45 +115,11 @@ Server::Server(const tls::Identity &identity, Router &router, Faults &faults, Lo
         return httplib::Server::HandlerResponse::Handled;
     });
     const auto plain = [this](const httplib::Request &request, httplib::Response &response) {
-        serve(request, response, {}, {}, {});
+        serve(request, response, [] { return Body{}; });
     };
     const auto withBody = [this](const httplib::Request &request, httplib::Response &response,
                                  const httplib::ContentReader &read) {
-        std::string body;
-        std::optional<Upload> upload;
-        Fields fields;
-        if (request.is_multipart_form_data()) {
-            Upload part;
-            bool inFile = false;
-            const auto keep = [&] {
-                if (inFile)
-                    upload = part;
-                else if (!part.name.empty())
-                    fields.emplace(part.name, part.content);
-            };
-            const bool whole = read(
-                [&](const httplib::MultipartFormData &header) {
-                    keep();
-                    part = {header.name, header.filename, {}};
-                    inFile = !header.filename.empty() || !header.content_type.empty();
-                    return true;
-                },
-                [&](const char *data, std::size_t size) {
-                    part.content.append(data, size);
-                    return true;
-                });
-            keep();
-            if (!whole)
-                return;
-        } else if (request.has_header("Content-Length") || request.has_header("Transfer-Encoding")) {
-            const bool whole = read([&](const char *data, std::size_t size) {
-                body.append(data, size);
-                return body.size() <= longestBody;
-            });
-            if (!whole)
-                return;
-        }
-        serve(request, response, std::move(body), std::move(upload), std::move(fields));
+        serve(request, response, [&] { return readBody(request, read); });
     };
     m_server->Get(".*", plain).Options(".*", plain);
     m_server->Post(".*", withBody).Put(".*", withBody).Patch(".*", withBody).Delete(".*", withBody);
@@ -179,33 +164,12 @@ void Server::wait(std::chrono::milliseconds time)
     m_wake.wait_for(lock, time, [this] { return m_stopping; });
 }
 
-void Server::serve(const httplib::Request &request, httplib::Response &response, std::string body,
-                   std::optional<Upload> upload, Fields fields)
+void Server::serve(const httplib::Request &request, httplib::Response &response,
+                   const std::function<Body()> &body)
 {
     const auto began = steady_clock::now();
-    Call call;
-    call.method = request.method;
-    call.path = request.path.substr(request.path.empty() ? 0 : 1);
-    call.file = std::move(upload);
-    call.token = request.get_header_value("api_token");
-    call.infoVersion = request.get_header_value("info_version");
-    call.alias = request.get_header_value("alias");
-    call.host = request.get_header_value("Host");
-    call.origin = request.get_header_value("Origin");
-    call.remote = request.remote_addr;
     try {
-        for (const auto &[name, value] : fields)
-            if (!isUtf8(name) || !isUtf8(value))
-                throw BadRequest(400, "请求不是有效的UTF-8文本");
-        const std::string type = request.get_header_value("Content-Type");
-        if (!body.empty() && type.rfind("application/x-www-form-urlencoded", 0) != 0)
-            throw BadRequest(415, "请求格式不正确");
-        call.fields = parseForm(body);
-        call.fields.merge(fields);
-        const std::size_t query = request.target.find('?');
-        if (query != std::string::npos)
-            call.fields.merge(parseForm(std::string_view(request.target).substr(query + 1)));
-        answer(request, call, response);
+        answer(request, readCall(request, body()), response);
     } catch (const BadRequest &bad) {
         write(request, Router::enveloped(failure(bad.what()), bad.status), response);
     }
@@ -263,7 +227,7 @@ void Server::write(const httplib::Request &request, Answer answer, httplib::Resp
     for (const auto &[name, value] : answer.headers)
         response.set_header(name, value);
     if (!answer.stream) {
-        response.set_content(std::move(answer.body), answer.contentType);
+        response.set_content(answer.body, answer.contentType);
         return;
     }
     response.set_chunked_content_provider(

@@ -17,6 +17,8 @@ struct Response;
 
 namespace sandbox::http {
 
+struct Body;
+
 /// The HTTPS front of the service: reads calls, lets faults happen, dispatches, writes answers. One thread
 /// per open connection.
 class Server {
@@ -36,8 +38,8 @@ public:
     void stop();
 
 private:
-    void serve(const httplib::Request &request, httplib::Response &response, std::string body,
-               std::optional<Upload> upload, Fields fields);
+    void serve(const httplib::Request &request, httplib::Response &response,
+               const std::function<Body()> &body);
     void answer(const httplib::Request &request, const Call &call, httplib::Response &response);
     void write(const httplib::Request &request, Answer answer, httplib::Response &response);
     void spoil(const httplib::Request &request, const Fault &fault, Answer answer,

@@ -215,6 +215,11 @@ TEST_F(RouteTable, BrokenEncodingsAreBadRequests)
     const auto multipart = client.raw().Post("/user/set_nick", client.headers(), "--x\r\nbroken",
                                              "multipart/form-data; boundary=x");
     EXPECT_EQ(multipart->status, 400);
+    const std::string long9MB(9 * 1024 * 1024, 'a');
+    Client other = signedIn();
+    const auto overlong = other.raw().Post("/user/set_nick", other.headers(), "nick=" + long9MB,
+                                           "application/x-www-form-urlencoded");
+    EXPECT_TRUE(!overlong || overlong->status == 413);
     EXPECT_EQ(nick(), before);
 }
 
