@@ -14,6 +14,8 @@
 #include "trading/api/TZTradeTool.h"
 #include "trading/screens/TZDealDetailController.h"
 #include "trading/screens/TZRealTradingController.h"
+#include "trading/screens/TZDealDetailController.h"
+#include "trading/screens/TZRealTradingController.h"
 
 namespace {
 std::unique_ptr<TZPlainPageController> plainPage(const QString &title, const QString &text)

@@ -19,5 +19,6 @@ inline const QList<ShareTarget> shareTargets{
 /// The client's identifier in the application store.
 inline const QString storeIdentifier = QStringLiteral("000000000");
 inline const QString servicePhone = QStringLiteral("400-000-0000");
+inline const QString serviceMail = QStringLiteral("service@zorvane.example");
 inline const QString webSite = QStringLiteral("https://www.zorvane.example/");
 } // namespace Configuration

@@ -132,6 +132,7 @@ void KRBaseController::hidenWaitngView()
 
 void KRBaseController::endEditing()
 {
-    if (window())
+    // Once another screen has come on top, what is being edited is that one's.
+    if (window() && (!navigation || navigation->top() == this))
         window()->endEditing();
 }

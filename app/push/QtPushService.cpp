@@ -1,0 +1,89 @@
+#include "app/push/QtPushService.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QNetworkRequest>
+
+#include <algorithm>
+#include <utility>
+
+using namespace std::chrono_literals;
+
+namespace {
+constexpr auto firstDelay = 1s;
+constexpr auto longestDelay = 60s;
+/// The service says every 30 seconds that it is there.
+constexpr std::chrono::milliseconds silence = 75s;
+constexpr qint64 longestLine = 1 << 20;
+constexpr int ok = 200;
+} // namespace
+
+void QtPushService::Later::operator()(QNetworkReply *reply) const
+{
+    // First deaf, then aborted: aborting reports at once, and a reply is not deleted from within its own report.
+    reply->disconnect();
+    reply->abort();
+    reply->deleteLater();
+}
+
+QtPushService::QtPushService(const QString &apiBaseUrl, DeveloperTrust developerTrust)
+    : url(apiBaseUrl + QStringLiteral("sandbox/push")), trust(std::move(developerTrust)), delay(firstDelay)
+{
+}
+
+void QtPushService::onRemoteNotification(std::function<void(const QVariantMap &)> receive)
+{
+    received = std::move(receive);
+}
+
+void QtPushService::setAlias(const QString &newAlias, const QString &)
+{
+    close();
+    alias = newAlias == u"off_line" ? QByteArray() : newAlias.toUtf8();
+    delay = firstDelay;
+    // After the turn that sets it: at start-up the first picture comes before the network.
+    if (!alias.isEmpty())
+        reopening.startOnce(0ms, [this] { open(); });
+}
+
+void QtPushService::open()
+{
+    QNetworkRequest request(url);
+    request.setSslConfiguration(trust.configuration());
+    request.setRawHeader("alias", alias);
+    request.setTransferTimeout(static_cast<int>(silence.count()));
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+    stream.reset(network.get(request));
+    connect(stream.get(), &QNetworkReply::readyRead, this, &QtPushService::readLines);
+    connect(stream.get(), &QNetworkReply::finished, this, &QtPushService::reopenLater);
+}
+
+void QtPushService::close()
+{
+    reopening.stop();
+    stream.reset();
+}
+
+void QtPushService::readLines()
+{
+    if (stream->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() != ok) {
+        stream->readAll();
+        return;
+    }
+    while (stream && stream->canReadLine()) {
+        const QJsonDocument message = QJsonDocument::fromJson(stream->readLine());
+        delay = firstDelay;
+        // What receives the message may set another alias, which ends this stream.
+        if (message.isObject() && received)
+            received(message.object().toVariantMap());
+    }
+    if (stream && stream->bytesAvailable() > longestLine)
+        reopenLater();
+}
+
+void QtPushService::reopenLater()
+{
+    close();
+    reopening.startOnce(delay, [this] { open(); });
+    delay = std::min<std::chrono::seconds>(delay * 2, longestDelay);
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "app/platform/DeveloperTrust.h"
+#include "app/push/QuietPushService.h"
+#include "core/platform/Timer.h"
+
+#include <QByteArray>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QObject>
+#include <QUrl>
+
+#include <chrono>
+#include <memory>
+
+/// The push of developer builds: while an alias is set, a stream is held open to "sandbox/push" below the base URL with the
+/// alias as a header. It brings one JSON object a line, {"pageId": n, "data": {…}}; an empty line only says that the
+/// service is there. A lost stream is opened again after 1 second, then 2, 4, … up to 60, until a line has come through.
+class QtPushService : public QObject, public QuietPushService {
+    Q_OBJECT
+public:
+    /// `apiBaseUrl` ends in "/".
+    QtPushService(const QString &apiBaseUrl, DeveloperTrust developerTrust);
+
+    /// "off_line" ends the stream for good, another alias begins one of its own.
+    void setAlias(const QString &alias, const QString &type) override;
+    void onRemoteNotification(std::function<void(const QVariantMap &)> receive) override;
+
+private:
+    struct Later {
+        void operator()(QNetworkReply *reply) const;
+    };
+
+    void open();
+    void close();
+    void readLines();
+    void reopenLater();
+
+    const QUrl url;
+    const DeveloperTrust trust;
+    QNetworkAccessManager network;
+    std::unique_ptr<QNetworkReply, Later> stream;
+    std::function<void(const QVariantMap &)> received;
+    QByteArray alias;
+    Timer reopening;
+    std::chrono::seconds delay;
+};
