@@ -107,7 +107,7 @@ struct Brokerage::Parts {
         std::vector<Holding> found;
         for (const Position &position : books.positions(user)) {
             const Stock &stock = *market.stocks().find(position.stock);
-            found.push_back(holdingOf(position, stock, market.lastTrade(stock, now).price));
+            found.push_back(holdingOf(position, stock, market.spot(stock, now).price));
         }
         return found;
     }
@@ -132,7 +132,7 @@ struct Brokerage::Parts {
             market.prices().add(move);
             exchange.rematch(stockCode, now);
         });
-        return market.lastTrade(*stock, now).price;
+        return market.spot(*stock, now).price;
     }
 
     Outcome<Order> find(UserId user, const std::string &number)
@@ -246,7 +246,7 @@ void Brokerage::createDemoAccount(UserId user)
             const auto stock = std::find_if(all.begin(), all.end(), [&](const Stock &candidate) {
                 return candidate.board == grant.board && !candidate.suspended && !candidate.specialTreatment;
             });
-            const Cents price = m_parts->market.lastTrade(*stock, now).price;
+            const Cents price = m_parts->market.spot(*stock, now).price;
             m_parts->books.record(now, SharesGranted{user, stock->code, grant.shares,
                                                      price * grant.shares * grant.costPercent / 100});
         }

@@ -197,36 +197,37 @@ void Exchange::matchArriving(Order &order, const Stock &stock, Millis now)
 
 void Exchange::matchResting(Order &order, const Stock &stock, Millis now, Shared &shared)
 {
-    const Trade trade = m_market.lastTrade(stock, now);
-    if (!reaches(order, trade.price))
+    const Cents price = m_market.spot(stock, now).price;
+    if (!reaches(order, price))
         return;
     takeDepth(order, stock, now, true);
     if (!isOpen(order.status))
         return;
-    if (trade.price != order.price) {
+    if (price != order.price) {
         if (order.queueAhead > 0)
             queue(order, 0, order.status, now); // the price went past it: nobody stands before it any more
         return;
     }
-    const Shares behindQueue = trade.volume - order.queueAhead;
-    if (order.queueAhead > 0 && trade.volume > 0)
+    const Shares traded = m_market.volume(stock, now);
+    const Shares behindQueue = traded - order.queueAhead;
+    if (order.queueAhead > 0 && traded > 0)
         queue(order, std::max<Shares>(0, -behindQueue), order.status, now);
-    if (behindQueue > 0)
-        fill(order, order.price,
-             shareOf(order, std::min(behindQueue, m_market.openToUsers(stock, now)), shared), {}, now);
+    if (behindQueue > 0) {
+        const Shares open = std::min(behindQueue, m_market.openToUsers(stock, now));
+        fill(order, order.price, shareOf(order, open, shared), {}, now);
+    }
 }
 
 void Exchange::matchAuction(Order &order, const Stock &stock, Millis now, Shared &shared)
 {
-    const Trade print = m_market.lastTrade(stock, now);
-    if (reaches(order, print.price))
-        fill(order, print.price, shareOf(order, m_market.openToUsers(stock, now), shared), {}, now);
-    if (isOpen(order.status)) {
-        const Shares ahead =
-            m_market.queueAt(stock, order.side, order.price, now, m_books.depthUsed(stock.code));
-        if (ahead != order.queueAhead)
-            queue(order, ahead, order.status, now);
-    }
+    const Cents print = m_market.spot(stock, now).price;
+    if (reaches(order, print))
+        fill(order, print, shareOf(order, m_market.openToUsers(stock, now), shared), {}, now);
+    if (!isOpen(order.status))
+        return;
+    const Shares ahead = m_market.queueAt(stock, order.side, order.price, now, m_books.depthUsed(stock.code));
+    if (ahead != order.queueAhead)
+        queue(order, ahead, order.status, now);
 }
 
 void Exchange::forward(Order &order, const Stock &stock, Millis now)
@@ -255,7 +256,7 @@ bool Exchange::voidOutsideCage(Order &order, const Stock &stock, Millis now)
         const auto levels = m_market.displayed(stock, side, now, used);
         return levels.empty() ? otherwise : levels.front().price;
     };
-    const Cents last = m_market.lastTrade(stock, now).price;
+    const Cents last = m_market.spot(stock, now).price;
     const Cents bid = best(Side::Buy, last);
     const Cents ask = best(Side::Sell, last);
     const PriceLimits cage = priceCage(ask, bid, order.day);

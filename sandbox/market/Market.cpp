@@ -8,7 +8,7 @@ namespace sandbox {
 
 namespace {
 
-enum Purpose { Taker = 200, Phases, Size, Gap };
+enum Purpose { Phases = 200, Size, Gap };
 
 /** How long displayed volumes stand before they are drawn anew. Each price has a rhythm of its own. */
 constexpr Millis kRhythms[] = {9 * kSecond, 15 * kSecond, 24 * kSecond, 33 * kSecond};
@@ -54,10 +54,16 @@ DayFrame Market::frame(const Stock &stock, Millis time)
     return m_prices.frame(stock, m_calendar.dayOf(time));
 }
 
-Trade Market::lastTrade(const Stock &stock, Millis time)
+Spot Market::spot(const Stock &stock, Millis time)
 {
     const int day = m_calendar.dayOf(time);
-    return m_prices.tradeAt(stock, day, m_calendar.momentOf(day, time));
+    return m_prices.spotAt(stock, day, m_calendar.momentOf(day, time));
+}
+
+Shares Market::volume(const Stock &stock, Millis time)
+{
+    const int day = m_calendar.dayOf(time);
+    return m_prices.volumeAt(stock, day, m_calendar.momentOf(day, time));
 }
 
 Shares Market::openToUsers(const Stock &stock, Millis time)
@@ -90,20 +96,12 @@ std::vector<DisplayedLevel> Market::displayed(const Stock &stock, Side side, Mil
         return levels;
     const DayFrame today = m_prices.frame(stock, day);
     const Millis shownAt = m_calendar.timeOf(day, moment);
-    const Cents last = m_prices.tradeAt(stock, day, moment).price;
-    if (last == (side == Side::Sell ? today.limits.upper : today.limits.lower))
-        return levels;
-    // The latest trade took the best level of one side: that side still begins at its price.
     const int number = std::stoi(stock.code);
-    const bool buyerTook =
-        last == today.limits.lower ||
-        (last != today.limits.upper && (draw(m_seed, Taker, number, day, moment) & 1) != 0);
+    const Cents bid = m_prices.spotAt(stock, day, moment).bid;
     const Cents step = side == Side::Sell ? 1 : -1;
-    Cents price = last;
-    if ((side == Side::Sell) != buyerTook)
-        price += step;
+    Cents price = side == Side::Sell ? bid + 1 : bid;
     // Dear stocks have gaps between their levels.
-    const std::int64_t oneIn = std::max<std::int64_t>(1, last / 2000);
+    const std::int64_t oneIn = std::max<std::int64_t>(1, bid / 2000);
     for (bool best = true; levels.size() < static_cast<std::size_t>(kBookDepth) &&
                            price >= today.limits.lower && price <= today.limits.upper;
          price += step, best = false) {
@@ -147,7 +145,7 @@ Quote Market::quote(const Stock &stock, Millis time, const UsedDepth &used)
     quote.time = time;
     if (moment < 0 || stock.suspended)
         return quote;
-    quote.last = m_prices.tradeAt(stock, day, moment).price;
+    quote.last = m_prices.spotAt(stock, day, moment).price;
     const auto show = [&](Side side, std::array<Level, kBookDepth> &levels) {
         std::size_t line = 0;
         for (const DisplayedLevel &shown : displayed(stock, side, time, used))

@@ -34,13 +34,14 @@ public:
     PriceProcess &prices() { return m_prices; }
 
     DayFrame frame(const Stock &stock, Millis time);
-    /** The latest trade at that time: its price, and the volume of its moment. */
-    Trade lastTrade(const Stock &stock, Millis time);
-    /** Of that trade's volume, what our users' resting orders may have had. */
+    Spot spot(const Stock &stock, Millis time);
+    /** Traded in the moment that the time belongs to. */
+    Shares volume(const Stock &stock, Millis time);
+    /** Of that volume, what our users' resting orders may have had. */
     Shares openToUsers(const Stock &stock, Millis time);
     /**
-     * One side of the book at that time, best first, at most ten levels, without what was used up. At a limit
-     * the other side is empty; before the day's first trade and for suspended stocks both are.
+     * One side of the book at that time, best first, at most ten levels, without what was used up. On a
+     * sealed board the other side is empty; before the day's first trade and for suspended stocks both are.
      */
     std::vector<DisplayedLevel> displayed(const Stock &stock, Side side, Millis time, const UsedDepth &used);
     /** What an order that comes now waits behind at its price: 0 when it is better than the side's best. */

@@ -1,6 +1,7 @@
 #include "market/PriceProcess.h"
 
 #include "market/Random.h"
+#include "market/VolumeProfile.h"
 
 #include <algorithm>
 
@@ -8,7 +9,7 @@ namespace sandbox {
 
 namespace {
 
-enum Purpose { Day = 100, Open, Close, Deviation, Event, Middle, Volume, DayVolume, Quarter };
+enum Purpose { Day = 100, Open, Close, Deviation, Event, Middle, DayVolume, Taker, Quarter };
 
 constexpr std::int64_t kFine = 1000; // thousandths of a cent
 
@@ -23,9 +24,15 @@ std::int64_t halved(std::int64_t deviation)
     return deviation * 181 / 256;
 }
 
-Shares wholeLots(Shares shares)
+/** Whole cents, downwards. */
+Cents cents(std::int64_t value)
 {
-    return shares / 100 * 100;
+    return value >= 0 ? value / kFine : -((-value + kFine - 1) / kFine);
+}
+
+bool buyerTook(std::uint64_t daySeed, int moment)
+{
+    return (draw(daySeed, Taker, moment) & 1) != 0;
 }
 
 } // namespace
@@ -54,20 +61,30 @@ PriceProcess::PriceProcess(std::uint64_t seed, const Calendar &calendar) : m_see
 
 DayFrame PriceProcess::frame(const Stock &stock, int day)
 {
-    DayFrame frame{day, previousClose(stock, day), {}};
-    frame.limits = priceLimits(
-        frame.previousClose, dailyLimitPercent(stock.board, stock.specialTreatment, m_calendar.dateOf(day)));
-    return frame;
+    return frameAfter(stock, day, previousClose(stock, day));
 }
 
-Trade PriceProcess::tradeAt(const Stock &stock, int day, int moment)
+DayFrame PriceProcess::frameAfter(const Stock &stock, int day, Cents previousClose) const
+{
+    const int percent = dailyLimitPercent(stock.board, stock.specialTreatment, m_calendar.dateOf(day));
+    return {day, previousClose, priceLimits(previousClose, percent)};
+}
+
+Spot PriceProcess::spotAt(const Stock &stock, int day, int moment)
 {
     const DayFrame today = frame(stock, day);
     if (moment < 0 || stock.suspended)
-        return {today.previousClose, 0};
+        return {today.previousClose, today.previousClose};
     const Path walk = path(stock, day, today.previousClose);
-    return {priceOf(stock, today, moment, valueAt(walk, moment)),
-            wholeLots(volumeThrough(walk, moment)) - wholeLots(volumeThrough(walk, moment - 1))};
+    return spotOf(stock, today, walk, moment, valueAt(walk, moment));
+}
+
+Shares PriceProcess::volumeAt(const Stock &stock, int day, int moment)
+{
+    if (moment < 0 || stock.suspended)
+        return 0;
+    const Path walk = path(stock, day, previousClose(stock, day));
+    return VolumeProfile(walk.seed, m_calendar, walk.volume).at(moment);
 }
 
 std::vector<Trade> PriceProcess::tradesUntil(const Stock &stock, int day, int moment)
@@ -82,21 +99,18 @@ std::vector<Trade> PriceProcess::tradesUntil(const Stock &stock, int day, int mo
     values.front() = walk.open;
     values.back() = walk.close;
     fill(walk, values, 0, last, walk.deviation / 2);
-    const std::vector<Shares> volumes = volumesOf(walk);
-    Shares through = 0;
+    const std::vector<Shares> volumes = VolumeProfile(walk.seed, m_calendar, walk.volume).all();
     for (int i = 0; i <= moment; ++i) {
         const auto at = static_cast<std::size_t>(i);
-        const Shares before = through;
-        through += volumes[at];
-        trades.push_back({priceOf(stock, today, i, values[at]), wholeLots(through) - wholeLots(before)});
+        trades.push_back({spotOf(stock, today, walk, i, values[at]).price, volumes[at]});
     }
     return trades;
 }
 
 Shares PriceProcess::openToUsers(const Stock &stock, int day, int moment)
 {
-    const Shares quarter = tradeAt(stock, day, moment).volume / 4;
-    return wholeLots(quarter + between(draw(m_seed, Quarter, std::stoi(stock.code), day, moment), 0, 99));
+    const Shares quarter = volumeAt(stock, day, moment) / 4;
+    return (quarter + between(draw(m_seed, Quarter, std::stoi(stock.code), day, moment), 0, 99)) / 100 * 100;
 }
 
 Candle PriceProcess::candle(const Stock &stock, int day)
@@ -111,19 +125,17 @@ Candle PriceProcess::candle(const Stock &stock, int day)
 Candle PriceProcess::drawnCandle(const Stock &stock, int day)
 {
     const int last = m_calendar.momentCount() - 1;
-    const DayFrame frame = this->frame(stock, day);
-    const Path walk = path(stock, day, frame.previousClose);
-    std::int64_t lowest = std::min(walk.open, walk.close);
-    std::int64_t highest = std::max(walk.open, walk.close);
-    widen(walk, 0, walk.open, last, walk.close, walk.deviation / 2, lowest, highest);
-    const auto priced = [&](std::int64_t value) { return priceOf(stock, frame, last, value); };
-    return {m_calendar.dateOf(day),
-            priced(walk.open),
-            priced(highest),
-            priced(lowest),
-            priced(walk.close),
-            wholeLots(walk.volume),
-            0};
+    const DayFrame today = frame(stock, day);
+    const Path walk = path(stock, day, today.previousClose);
+    Candle candle;
+    candle.day = m_calendar.dateOf(day);
+    candle.open = spotOf(stock, today, walk, 0, walk.open).price;
+    candle.close = spotOf(stock, today, walk, last, walk.close).price;
+    candle.high = std::max(candle.open, candle.close);
+    candle.low = std::min(candle.open, candle.close);
+    widen(stock, today, walk, 0, walk.open, last, walk.close, walk.deviation / 2, candle);
+    candle.volume = VolumeProfile(walk.seed, m_calendar, walk.volume).wholeDay();
+    return candle;
 }
 
 void PriceProcess::add(const PriceMove &move)
@@ -137,7 +149,7 @@ void PriceProcess::add(const PriceMove &move)
 Cents PriceProcess::unmovedPrice(const Stock &stock, int day, int moment)
 {
     const Path walk = path(stock, day, previousClose(stock, day));
-    return (valueAt(walk, std::max(0, moment)) + kFine / 2) / kFine;
+    return cents(valueAt(walk, moment)) + (buyerTook(walk.seed, moment) ? 1 : 0);
 }
 
 Cents PriceProcess::previousClose(const Stock &stock, int day)
@@ -147,10 +159,9 @@ Cents PriceProcess::previousClose(const Stock &stock, int day)
         const Cents before = closes.empty() ? stock.basePrice : closes.back();
         Cents close = before;
         if (!stock.suspended) {
-            const DayFrame past{missing, before,
-                                priceLimits(before, dailyLimitPercent(stock.board, stock.specialTreatment,
-                                                                      m_calendar.dateOf(missing)))};
-            close = priceOf(stock, past, m_calendar.momentCount() - 1, path(stock, missing, before).close);
+            const DayFrame past = frameAfter(stock, missing, before);
+            const Path walk = path(stock, missing, before);
+            close = spotOf(stock, past, walk, m_calendar.momentCount() - 1, walk.close).price;
         }
         closes.push_back(close);
     }
@@ -213,125 +224,66 @@ void PriceProcess::fill(const Path &path, std::vector<std::int64_t> &values, int
     fill(path, values, middle, high, halved(deviation));
 }
 
-void PriceProcess::widen(const Path &path, int low, std::int64_t lowValue, int high, std::int64_t highValue,
-                         std::int64_t deviation, std::int64_t &lowest, std::int64_t &highest) const
+void PriceProcess::widen(const Stock &stock, const DayFrame &frame, const Path &path, int low,
+                         std::int64_t lowValue, int high, std::int64_t highValue, std::int64_t deviation,
+                         Candle &candle) const
 {
     if (high - low < 2)
         return;
     // All displacements below this stretch together: 3.464 / (1 - 181 / 256) deviations at most.
     const std::int64_t reach = 12 * deviation;
-    if (std::max(lowValue, highValue) + reach <= highest && std::min(lowValue, highValue) - reach >= lowest)
+    const Cents highest = std::min(frame.limits.upper, cents(std::max(lowValue, highValue) + reach) + 1);
+    const Cents lowest = std::max(frame.limits.lower, cents(std::min(lowValue, highValue) - reach));
+    if (highest <= candle.high && lowest >= candle.low)
         return;
     const int middle = (low + high) / 2;
     const std::int64_t value =
         (lowValue + highValue) / 2 + deviate(draw(path.seed, Middle, middle), deviation);
-    lowest = std::min(lowest, value);
-    highest = std::max(highest, value);
-    widen(path, low, lowValue, middle, value, halved(deviation), lowest, highest);
-    widen(path, middle, value, high, highValue, halved(deviation), lowest, highest);
-}
-
-Shares PriceProcess::auctionVolume(const Path &path, int moment) const
-{
-    // An auction gathers about a hundredth of the day's volume.
-    return m_calendar.isAuction(moment)
-               ? path.volume / 100 * between(draw(path.seed, Volume, moment), 50, 150) / 100
-               : 0;
-}
-
-Shares PriceProcess::leftPart(const Path &path, int first, int count, Shares volume) const
-{
-    const Shares even = volume * (count / 2) / count;
-    return even * between(draw(path.seed, Volume, first, count), 40, 160) / 100;
-}
-
-Shares PriceProcess::volumeThrough(const Path &path, int moment) const
-{
-    const int last = m_calendar.momentCount() - 1;
-    if (moment < 0)
-        return 0;
-    if (moment == last)
-        return path.volume;
-    const Shares opening = auctionVolume(path, 0);
-    if (m_calendar.isAuction(moment))
-        return opening;
-    int first = m_calendar.isAuction(0) ? 1 : 0;
-    int count = m_calendar.momentCount() - 2 * first;
-    Shares volume = path.volume - opening - auctionVolume(path, last);
-    Shares through = opening;
-    while (count > 1) {
-        const Shares left = leftPart(path, first, count, volume);
-        const int half = count / 2;
-        if (moment < first + half) {
-            count = half;
-            volume = left;
-        } else {
-            through += left;
-            volume -= left;
-            first += half;
-            count -= half;
-        }
-    }
-    return through + volume;
-}
-
-void PriceProcess::spread(const Path &path, std::vector<Shares> &volumes, int first, int count,
-                          Shares volume) const
-{
-    if (count == 1) {
-        volumes[static_cast<std::size_t>(first)] = volume;
-        return;
-    }
-    const Shares left = leftPart(path, first, count, volume);
-    spread(path, volumes, first, count / 2, left);
-    spread(path, volumes, first + count / 2, count - count / 2, volume - left);
-}
-
-std::vector<Shares> PriceProcess::volumesOf(const Path &path) const
-{
-    std::vector<Shares> volumes(static_cast<std::size_t>(m_calendar.momentCount()));
-    volumes.front() = auctionVolume(path, 0);
-    volumes.back() = auctionVolume(path, m_calendar.momentCount() - 1);
-    const int first = m_calendar.isAuction(0) ? 1 : 0;
-    spread(path, volumes, first, m_calendar.momentCount() - 2 * first,
-           path.volume - volumes.front() - volumes.back());
-    return volumes;
+    const Cents price = spotOf(stock, frame, path, middle, value).price;
+    candle.high = std::max(candle.high, price);
+    candle.low = std::min(candle.low, price);
+    widen(stock, frame, path, low, lowValue, middle, value, halved(deviation), candle);
+    widen(stock, frame, path, middle, value, high, highValue, halved(deviation), candle);
 }
 
 bool PriceProcess::moved(const Stock &stock, int day) const
 {
-    const auto moves = m_moves.find(stock.code);
-    return moves != m_moves.end() && std::any_of(moves->second.begin(), moves->second.end(),
-                                                 [day](const PriceMove &move) { return move.day == day; });
+    return moveAt(stock, day, m_calendar.momentCount()) != nullptr;
 }
 
-Cents PriceProcess::priceOf(const Stock &stock, const DayFrame &frame, int moment, std::int64_t value) const
+const PriceMove *PriceProcess::moveAt(const Stock &stock, int day, int moment) const
 {
-    Cents price = (value + kFine / 2) / kFine;
     const auto moves = m_moves.find(stock.code);
-    if (moves != m_moves.end()) {
-        const auto &list = moves->second;
-        const auto holds = [&](const PriceMove &move) {
-            return move.day == frame.day && move.moment <= moment;
-        };
-        const auto move = std::find_if(list.rbegin(), list.rend(), holds);
-        if (move != list.rend()) {
-            switch (move->kind) {
-            case PriceMove::Kind::Shift:
-                price += move->shift;
-                break;
-            case PriceMove::Kind::SealUp:
-                price = frame.limits.upper;
-                break;
-            case PriceMove::Kind::SealDown:
-                price = frame.limits.lower;
-                break;
-            case PriceMove::Kind::Release:
-                break;
-            }
+    if (moves == m_moves.end())
+        return nullptr;
+    const auto holds = [&](const PriceMove &move) { return move.day == day && move.moment <= moment; };
+    const auto latest = std::find_if(moves->second.rbegin(), moves->second.rend(), holds);
+    return latest == moves->second.rend() ? nullptr : &*latest;
+}
+
+Spot PriceProcess::spotOf(const Stock &stock, const DayFrame &frame, const Path &path, int moment,
+                          std::int64_t value) const
+{
+    const PriceLimits &limits = frame.limits;
+    Cents bid = cents(value);
+    if (const PriceMove *move = moveAt(stock, frame.day, moment)) {
+        switch (move->kind) {
+        case PriceMove::Kind::Shift:
+            bid += move->shift;
+            break;
+        case PriceMove::Kind::SealUp:
+            bid = limits.upper;
+            break;
+        case PriceMove::Kind::SealDown:
+            bid = limits.lower - 1;
+            break;
+        case PriceMove::Kind::Release:
+            break;
         }
     }
-    return std::clamp(price, frame.limits.lower, frame.limits.upper);
+    bid = std::clamp(bid, limits.lower - 1, limits.upper);
+    const Cents price = std::clamp(bid + (buyerTook(path.seed, moment) ? 1 : 0), limits.lower, limits.upper);
+    return {price, bid};
 }
 
 } // namespace sandbox

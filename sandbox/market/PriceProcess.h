@@ -21,6 +21,12 @@ struct DayFrame {
     bool locked(Cents price) const { return price == limits.upper || price == limits.lower; }
 };
 
+/** Where a stock stands at one moment. */
+struct Spot {
+    Cents price = 0; ///< of the latest trade: the bid or the ask
+    Cents bid = 0;   ///< where the buyers' levels begin; the sellers' begin a cent above
+};
+
 /** What is traded at one moment. */
 struct Trade {
     Cents price = 0;
@@ -57,8 +63,9 @@ public:
     PriceProcess(std::uint64_t seed, const Calendar &calendar);
 
     DayFrame frame(const Stock &stock, int day);
-    /** A moment of -1 (before the day's first trade) answers the previous close and no volume. */
-    Trade tradeAt(const Stock &stock, int day, int moment);
+    /** A moment of -1 (before the day's first trade) answers the previous close. */
+    Spot spotAt(const Stock &stock, int day, int moment);
+    Shares volumeAt(const Stock &stock, int day, int moment);
     /** All trades of the day up to and including the moment. */
     std::vector<Trade> tradesUntil(const Stock &stock, int day, int moment);
 
@@ -70,7 +77,7 @@ public:
 
     /** Takes a move up; moves of one stock come in order of time. */
     void add(const PriceMove &move);
-    /** The price the stock would have without moves, which a shift adds to. */
+    /** The price at that moment without moves and limits, which a shift adds to. */
     Cents unmovedPrice(const Stock &stock, int day, int moment);
 
 private:
@@ -83,21 +90,20 @@ private:
         Shares volume = 0; ///< of the whole day
     };
 
+    DayFrame frameAfter(const Stock &stock, int day, Cents previousClose) const;
     Cents previousClose(const Stock &stock, int day);
     Path path(const Stock &stock, int day, Cents previousClose) const;
     std::int64_t valueAt(const Path &path, int moment) const;
     void fill(const Path &path, std::vector<std::int64_t> &values, int low, int high,
               std::int64_t deviation) const;
-    void widen(const Path &path, int low, std::int64_t lowValue, int high, std::int64_t highValue,
-               std::int64_t deviation, std::int64_t &lowest, std::int64_t &highest) const;
-    Shares auctionVolume(const Path &path, int moment) const;
-    Shares volumeThrough(const Path &path, int moment) const;
-    std::vector<Shares> volumesOf(const Path &path) const;
-    void spread(const Path &path, std::vector<Shares> &volumes, int first, int count, Shares volume) const;
-    Shares leftPart(const Path &path, int first, int count, Shares volume) const;
     bool moved(const Stock &stock, int day) const;
     Candle drawnCandle(const Stock &stock, int day);
-    Cents priceOf(const Stock &stock, const DayFrame &frame, int moment, std::int64_t value) const;
+    void widen(const Stock &stock, const DayFrame &frame, const Path &path, int low, std::int64_t lowValue,
+               int high, std::int64_t highValue, std::int64_t deviation, Candle &candle) const;
+    const PriceMove *moveAt(const Stock &stock, int day, int moment) const;
+    /** Price and bid at a moment where the path has this value. */
+    Spot spotOf(const Stock &stock, const DayFrame &frame, const Path &path, int moment,
+                std::int64_t value) const;
 
     std::uint64_t m_seed;
     const Calendar &m_calendar;

@@ -60,11 +60,12 @@ TEST(Market, OneMomentAskedAloneIsTheSameAsInTheWholeDay)
     Cents previous = trades.front().price;
     int changes = 0;
     for (int moment = 0; moment < 28'800; moment += 7) {
-        const Trade alone = other.prices().tradeAt(stock, 300, moment);
-        ASSERT_EQ(alone.price, trades[static_cast<std::size_t>(moment)].price);
-        ASSERT_EQ(alone.volume, trades[static_cast<std::size_t>(moment)].volume);
-        changes += alone.price != previous;
-        previous = alone.price;
+        const Cents alone = other.prices().spotAt(stock, 300, moment).price;
+        ASSERT_EQ(alone, trades[static_cast<std::size_t>(moment)].price);
+        ASSERT_EQ(other.prices().volumeAt(stock, 300, moment),
+                  trades[static_cast<std::size_t>(moment)].volume);
+        changes += alone != previous;
+        previous = alone;
     }
     EXPECT_GT(changes, 400) << "the price moves";
 }
@@ -129,13 +130,13 @@ TEST(Market, AHandOnThePriceLastsToTheEndOfItsDayAndTheNextGoesOnFromThere)
     const Millis noon = shanghai(kTuesday, 12, 0);
     const int day = market.calendar().dayOf(noon);
     const int moment = market.calendar().momentOf(day, noon);
-    const Cents before = market.lastTrade(stock, noon - kMomentLength).price;
+    const Cents before = market.spot(stock, noon - kMomentLength).price;
     const Cents plainClose = market.prices().frame(stock, day + 1).previousClose;
     const PriceLimits limits = market.frame(stock, noon).limits;
 
     market.prices().add({stock.code, day, moment, PriceMove::Kind::SealUp, 0});
-    EXPECT_EQ(market.lastTrade(stock, noon - kMomentLength).price, before) << "the past stays";
-    EXPECT_EQ(market.lastTrade(stock, noon).price, limits.upper);
+    EXPECT_EQ(market.spot(stock, noon - kMomentLength).price, before) << "the past stays";
+    EXPECT_EQ(market.spot(stock, noon).price, limits.upper);
     const Quote sealed = market.quote(stock, noon, {});
     EXPECT_EQ(sealed.asks[0], Level{});
     EXPECT_EQ(sealed.bids[0].price, limits.upper);
