@@ -1,5 +1,6 @@
 import QtQuick
 import Zorvane.Ui
+import Zorvane.Account
 
 /// The code of the message, with the button that has another one sent.
 TextInputRow {

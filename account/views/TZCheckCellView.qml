@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Zorvane.Ui
+import Zorvane.Account
 
 SignInPage {
     id: page

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Zorvane.Account
 
 SignInPage {
     id: page

@@ -152,15 +152,15 @@ void TZHomeViewController::showOverview(const QVariantMap &answer)
     loanOverviewModel = fromDictionary<TZLoanOverviewModel>(answer.value(dataKey));
     overviewKnown = true;
     Q_EMIT overviewChanged();
-    startBroadcast();
+    beginBroadcast();
 }
 
-void TZHomeViewController::startBroadcast()
+void TZHomeViewController::beginBroadcast()
 {
     // The answer that starts the ticker may come when the page is covered, or after a sign-in.
-    if (!beginBroadcast || !appeared || shownFace != Face::SignedOut)
+    if (!broadcastDue || !appeared || shownFace != Face::SignedOut)
         return;
-    beginBroadcast = false;
+    broadcastDue = false;
     getRecentLoans();
     boardcastTimer.startRepeating(2s, [this] { showBoardcast(); });
 }
@@ -168,7 +168,7 @@ void TZHomeViewController::startBroadcast()
 void TZHomeViewController::stopBroadcast()
 {
     boardcastTimer.stop();
-    beginBroadcast = true;
+    broadcastDue = true;
 }
 
 void TZHomeViewController::getRecentLoans()

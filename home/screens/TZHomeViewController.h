@@ -67,7 +67,7 @@ private:
     void setFace(Face face);
     void showHome(const QVariantMap &answer);
     void showOverview(const QVariantMap &answer);
-    void startBroadcast();
+    void beginBroadcast();
     void stopBroadcast();
     void getRecentLoans();
     void showBoardcast();
@@ -87,7 +87,7 @@ private:
     Timer boardcastTimer;
     int boardcastNum = 0;
     int selected = -1;
-    bool beginBroadcast = true;
+    bool broadcastDue = true;
     bool appeared = false;
     bool overviewKnown = false;
     Face shownFace = Face::None;

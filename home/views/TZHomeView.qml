@@ -13,7 +13,7 @@ PageFrame {
 
     RefreshableList {
         id: signedIn
-        anchors { left: parent.left; right: parent.right; top: parent.top; bottom: entries.top }
+        anchors { left: parent.left; right: parent.right; top: parent.top; bottom: entries.top; bottomMargin: Theme.spacing }
         visible: page.home.face === TZHomeViewController.SignedIn
         focus: visible
         controller: page.home

@@ -9,11 +9,18 @@ Item {
     id: face
 
     required property TZHomeViewController home
-    readonly property int rowHeight: 40
 
+    Image {
+        anchors { left: parent.left; right: parent.right; bottom: ticker.top; bottomMargin: Theme.spacingLarge }
+        height: Math.min(width * 0.56, ticker.y - Theme.spacingLarge)
+        sourceSize.width: width
+        fillMode: Image.PreserveAspectCrop
+        source: Theme.image("home_hero")
+        Accessible.ignored: true
+    }
     Column {
-        id: head
-        anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.spacingHuge }
+        anchors { left: parent.left; right: parent.right; margins: Theme.spacingHuge }
+        y: Math.max(Theme.spacingHuge, Math.round((ticker.y - height) * 0.38))
         spacing: Theme.spacingSmall
 
         Text {
@@ -34,35 +41,11 @@ Item {
             horizontalAlignment: Text.AlignHCenter
         }
     }
-    Rectangle {
-        id: panel
-        anchors { left: parent.left; right: parent.right; top: head.bottom; bottom: parent.bottom }
-        anchors { margins: Theme.margin; topMargin: Theme.spacingHuge; bottomMargin: 0 }
-        visible: ticker.count > 0
-        radius: Theme.radiusLarge
-        color: Theme.deep.surface
-
-        ListView {
-            id: ticker
-            anchors { fill: parent; margins: Theme.spacing }
-            clip: true
-            interactive: false
-            model: face.home.boardcastArr
-            currentIndex: face.home.selectedBoardcast
-            preferredHighlightBegin: (height - face.rowHeight) / 2
-            preferredHighlightEnd: (height + face.rowHeight) / 2
-            highlightRangeMode: ListView.ApplyRange
-            highlightMoveDuration: Theme.motion
-            highlightFollowsCurrentItem: true
-            highlight: Rectangle {
-                radius: Theme.radius
-                color: Theme.deep.surfacePressed
-            }
-            Accessible.role: Accessible.List
-            delegate: BoardcastCell {
-                width: ListView.view.width
-                height: face.rowHeight
-            }
-        }
+    BoardcastTicker {
+        id: ticker
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: Theme.margin; bottomMargin: 0 }
+        height: Math.min(implicitHeight, parent.height - 136)
+        model: face.home.boardcastArr
+        currentIndex: face.home.selectedBoardcast
     }
 }
