@@ -1,0 +1,143 @@
+#include "tests/e2e/Hand.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QQuickWindow>
+#include <QTest>
+#include <QTimer>
+
+using namespace std::chrono_literals;
+
+Hand::Hand(QQuickWindow &usedWindow) : window(usedWindow)
+{
+    QAccessible::setActive(true);
+}
+
+bool Hand::wait(const std::function<bool()> &reached, std::chrono::milliseconds atMost)
+{
+    QEventLoop loop;
+    QTimer look;
+    QTimer limit;
+    limit.setSingleShot(true);
+    QObject::connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
+    QObject::connect(&look, &QTimer::timeout, &loop, [&] {
+        if (reached())
+            loop.quit();
+    });
+    if (reached())
+        return true;
+    look.start(20ms);
+    limit.start(atMost);
+    loop.exec();
+    return reached();
+}
+
+bool Hand::waitFor(const QString &name) const
+{
+    return wait([&] { return sees(name); });
+}
+
+bool Hand::waitForPart(const QString &part) const
+{
+    return wait([&] { return seesPart(part); });
+}
+
+bool Hand::waitUntilGone(const QString &name) const
+{
+    return wait([&] { return !sees(name); });
+}
+
+bool Hand::press(const QString &name)
+{
+    waitFor(name);
+    return click(find(name, false));
+}
+
+bool Hand::pressPart(const QString &part)
+{
+    waitForPart(part);
+    return click(find(part, true));
+}
+
+bool Hand::type(const QString &field, const QString &text)
+{
+    if (!press(field))
+        return false;
+    QTest::keyClick(&window, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&window, Qt::Key_Delete);
+    keys(text);
+    return true;
+}
+
+void Hand::key(Qt::Key key)
+{
+    QTest::keyClick(&window, key);
+}
+
+void Hand::keys(const QString &text)
+{
+    for (const QChar character : text)
+        QTest::keyClick(&window, character.toLatin1());
+}
+
+QStringList Hand::names() const
+{
+    QStringList all;
+    visit(QAccessible::queryAccessibleInterface(&window), [&](QAccessibleInterface *seen) {
+        const QString name = seen->text(QAccessible::Name);
+        if (!name.isEmpty())
+            all.append(name);
+        return false;
+    });
+    return all;
+}
+
+QImage Hand::picture() const
+{
+    return window.grabWindow();
+}
+
+std::optional<Hand::Control> Hand::find(const QString &name, bool part) const
+{
+    std::optional<Control> last;
+    // What is drawn last lies on top: a dialog's button before the page's of the same name.
+    visit(QAccessible::queryAccessibleInterface(&window), [&](QAccessibleInterface *seen) {
+        const QString spoken = seen->text(QAccessible::Name);
+        if ((part ? spoken.contains(name) : spoken == name) && !seen->state().disabled)
+            last = Control{spoken, seen->rect()};
+        return false;
+    });
+    return last;
+}
+
+void Hand::visit(QAccessibleInterface *from, const std::function<bool(QAccessibleInterface *)> &seen) const
+{
+    if (!from)
+        return;
+    for (int i = 0; i < from->childCount(); ++i) {
+        QAccessibleInterface *const child = from->child(i);
+        if (!child || child->state().invisible)
+            continue;
+        const QRect onWindow(window.mapToGlobal(QPoint(0, 0)), window.size());
+        if (onWindow.contains(child->rect().center()) && seen(child))
+            return;
+        visit(child, seen);
+    }
+}
+
+bool Hand::click(const std::optional<Control> &control)
+{
+    if (!control)
+        return false;
+    // A person waits until what moves stands still.
+    QRect place = control->place;
+    wait([&] {
+        const QRect before = place;
+        const std::optional<Control> now = find(control->name, false);
+        place = now ? now->place : place;
+        return before == place;
+    });
+    QTest::mouseClick(&window, Qt::LeftButton, {}, window.mapFromGlobal(place.center()));
+    QCoreApplication::processEvents();
+    return true;
+}

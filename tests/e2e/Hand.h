@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QAccessible>
+#include <QImage>
+#include <QRect>
+#include <QString>
+#include <QStringList>
+
+#include <chrono>
+#include <functional>
+#include <optional>
+
+class QQuickWindow;
+
+/// Uses a window as a person does who reads what is on it: finds a control by the name that a screen reader would speak,
+/// and presses it with the mouse or types on the keyboard.
+class Hand {
+public:
+    explicit Hand(QQuickWindow &usedWindow);
+
+    /// Runs the client until `reached`, or until the time is over; says which.
+    static bool wait(const std::function<bool()> &reached, std::chrono::milliseconds atMost = std::chrono::seconds(10));
+
+    bool sees(const QString &name) const { return find(name, false).has_value(); }
+    /// Whether a visible name holds `part`.
+    bool seesPart(const QString &part) const { return find(part, true).has_value(); }
+    bool waitFor(const QString &name) const;
+    bool waitForPart(const QString &part) const;
+    bool waitUntilGone(const QString &name) const;
+
+    /// Waits for the control, then clicks its middle. False when it did not come.
+    bool press(const QString &name);
+    bool pressPart(const QString &part);
+    /// Clicks into the field of that name (its placeholder), empties it and types.
+    bool type(const QString &field, const QString &text);
+    void key(Qt::Key key);
+    void keys(const QString &text);
+
+    /// The names of everything that is on the window, in reading order.
+    QStringList names() const;
+    QImage picture() const;
+
+private:
+    struct Control {
+        QString name;
+        QRect place;
+    };
+    std::optional<Control> find(const QString &name, bool part) const;
+    void visit(QAccessibleInterface *from, const std::function<bool(QAccessibleInterface *)> &seen) const;
+    bool click(const std::optional<Control> &control);
+
+    QQuickWindow &window;
+};

@@ -1,0 +1,66 @@
+#include "tests/e2e/SandboxProcess.h"
+
+#include "tests/e2e/Hand.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QRegularExpression>
+#include <QSslConfiguration>
+
+using namespace std::chrono_literals;
+
+SandboxProcess::SandboxProcess(const QStringList &options)
+{
+    connect(&process, &QProcess::readyReadStandardOutput, this, &SandboxProcess::readLines);
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.start(QStringLiteral(ZORVANE_SANDBOX),
+                  QStringList{QStringLiteral("--port"), QStringLiteral("0"), QStringLiteral("--data-dir"), folder.path(),
+                              QStringLiteral("--seed"), QStringLiteral("7")} + options);
+    if (!Hand::wait([this] { return !url.isEmpty(); }, 60s))
+        qFatal("the sandbox did not start");
+}
+
+SandboxProcess::~SandboxProcess()
+{
+    process.terminate();
+    process.waitForFinished(5000);
+}
+
+QString SandboxProcess::authority() const
+{
+    return folder.filePath(QStringLiteral("ca.pem"));
+}
+
+QVariantMap SandboxProcess::state() const
+{
+    QNetworkRequest request(QUrl(url + QStringLiteral("sandbox/state")));
+    QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+    tls.setCaCertificates(QSslCertificate::fromPath(authority()));
+    request.setSslConfiguration(tls);
+    QNetworkAccessManager manager;
+    const std::unique_ptr<QNetworkReply> reply(manager.get(request));
+    Hand::wait([&] { return reply->isFinished(); });
+    return QJsonDocument::fromJson(reply->readAll()).object().toVariantMap().value(QStringLiteral("data")).toMap();
+}
+
+int SandboxProcess::unknownRequests() const
+{
+    return state().value(QStringLiteral("unknown")).toMap().value(QStringLiteral("count")).toInt();
+}
+
+void SandboxProcess::readLines()
+{
+    static const QRegularExpression ready(QStringLiteral("^ready (https://\\S+)"));
+    static const QRegularExpression sms(QStringLiteral("^SMS (\\d{11}): (\\d{6})"));
+    while (process.canReadLine()) {
+        const QString line = QString::fromUtf8(process.readLine());
+        if (const auto found = ready.match(line); found.hasMatch())
+            url = found.captured(1);
+        if (const auto found = sms.match(line); found.hasMatch())
+            codes.insert(found.captured(1), found.captured(2));
+    }
+}

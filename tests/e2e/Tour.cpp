@@ -1,0 +1,181 @@
+#include "tests/e2e/Tour.h"
+
+#include <cstdio>
+
+using namespace std::chrono_literals;
+
+namespace {
+const QString cell = QStringLiteral("13800138000");
+const QString tradePassword = QStringLiteral("123456");
+const QString placed = QStringLiteral("委托挂单成功");
+} // namespace
+
+Tour::Tour(Hand &usedHand, SandboxProcess &usedSandbox, const QDir &pictureFolder)
+    : hand(usedHand), sandbox(usedSandbox), pictures(pictureFolder)
+{
+}
+
+QList<Tour::Step> Tour::steps()
+{
+    return {
+        {QStringLiteral("guide"), [this] { return hand.waitFor(QStringLiteral("跳过")); }},
+        {QStringLiteral("home, signed out"), [this] { return passGuide(); }},
+        {QStringLiteral("sign-in asked for"), [this] { return askForSignIn(); }},
+        {QStringLiteral("code sent"), [this] { return sendCode(); }},
+        {QStringLiteral("trading page"), [this] { return signInWithCode(); }},
+        {QStringLiteral("order entry"), [this] { return openOrderEntry(); }},
+        {QStringLiteral("stock found"), [this] { return findStock(); }},
+        {QStringLiteral("price tapped"), [this] { return tapPrice(); }},
+        {QStringLiteral("buy placed"), [this] { return submitBuy(); }},
+        {QStringLiteral("order in the books"), [this] { return buyStandsInTheBooks(); }},
+        {QStringLiteral("sell placed"), [this] { return sellHolding(); }},
+        {QStringLiteral("order cancelled"), [this] { return cancelOrder(); }},
+        {QStringLiteral("entrusts and deals"), [this] { return readEntrustsAndDeals(); }},
+        {QStringLiteral("detail"), [this] { return readDetail(); }},
+        {QStringLiteral("my account"), [this] { return openMyAccount(); }},
+        {QStringLiteral("signed out"), [this] { return logOut(); }},
+    };
+}
+
+bool Tour::walk()
+{
+    const QList<Step> all = steps();
+    for (int number = 1; number <= all.size(); ++number) {
+        const Step &step = all.at(number - 1);
+        const bool done = step.act();
+        Hand::wait([] { return false; }, 300ms);
+        const QString file =
+            QStringLiteral("%1-%2.png").arg(number, 2, 10, QLatin1Char('0')).arg(QString(step.name).replace(u' ', u'-').remove(u','));
+        hand.picture().save(pictures.filePath(file));
+        std::printf("  %2d/%d  %-20s %s\n", number, static_cast<int>(all.size()), qPrintable(step.name), done ? "ok" : "FAILED");
+        std::fflush(stdout);
+        if (!done) {
+            std::printf("what was on the window:\n  %s\n", qPrintable(hand.names().join(QStringLiteral("\n  "))));
+            return false;
+        }
+    }
+    return true;
+}
+
+bool Tour::passGuide()
+{
+    return hand.press(QStringLiteral("跳过")) && hand.waitForPart(QStringLiteral("位用户在操盘"));
+}
+
+bool Tour::askForSignIn()
+{
+    return hand.pressPart(QStringLiteral("炒股 佣金")) && hand.waitFor(QStringLiteral("请输入手机号"));
+}
+
+bool Tour::sendCode()
+{
+    return hand.type(QStringLiteral("请输入手机号"), cell) && hand.press(QStringLiteral("下一步")) &&
+           hand.waitFor(QStringLiteral("请输入短信验证码")) && hand.seesPart(QStringLiteral("138****8000")) &&
+           Hand::wait([this] { return !sandbox.codeFor(cell).isEmpty(); });
+}
+
+bool Tour::signInWithCode()
+{
+    return hand.type(QStringLiteral("请输入短信验证码"), sandbox.codeFor(cell)) && hand.press(QStringLiteral("登录")) &&
+           hand.waitFor(QStringLiteral("Zorvane-实盘炒股")) && hand.waitForPart(QStringLiteral("当前持仓(4)"));
+}
+
+bool Tour::openOrderEntry()
+{
+    ordersBefore = ordersInTheBooks();
+    return hand.press(QStringLiteral("买入")) && hand.waitFor(QStringLiteral("请输入股票代码或拼音"));
+}
+
+bool Tour::findStock()
+{
+    return hand.press(QStringLiteral("请输入股票代码或拼音")) && hand.waitFor(QStringLiteral("选择股票")) &&
+           hand.type(QStringLiteral("请输入股票代码或拼音"), QStringLiteral("000002")) &&
+           hand.waitForPart(QStringLiteral("000002"));
+}
+
+bool Tour::tapPrice()
+{
+    hand.key(Qt::Key_Return);
+    return hand.waitForPart(QStringLiteral("(000002)")) && hand.waitForPart(QStringLiteral("卖1 ")) &&
+           hand.pressPart(QStringLiteral("卖1 ")) && hand.waitForPart(QStringLiteral("当前可买入"));
+}
+
+bool Tour::submitBuy()
+{
+    return hand.type(QStringLiteral("请输入买入数量"), QStringLiteral("100")) && hand.press(QStringLiteral("买入")) &&
+           enterTradePassword() && hand.waitFor(placed);
+}
+
+bool Tour::buyStandsInTheBooks()
+{
+    return ordersInTheBooks() == ordersBefore + 1 && hand.press(QStringLiteral("实盘炒股")) &&
+           hand.waitForPart(QStringLiteral("当前持仓"));
+}
+
+bool Tour::sellHolding()
+{
+    const QString price = QStringLiteral("卖5 ");
+    return hand.press(QStringLiteral("卖出")) && hand.waitFor(QStringLiteral("选择卖出股票")) &&
+           hand.pressPart(heldStock()) && hand.waitForPart(price) && hand.pressPart(price) &&
+           hand.type(QStringLiteral("请输入卖出数量"), QStringLiteral("100")) && hand.press(QStringLiteral("卖出")) &&
+           hand.waitFor(placed) && ordersInTheBooks() == ordersBefore + 2 && hand.press(QStringLiteral("实盘炒股")) && back();
+}
+
+bool Tour::cancelOrder()
+{
+    // The cell's own button lies over the action of the same name below it.
+    return hand.press(QStringLiteral("撤单")) && hand.waitForPart(heldStock()) && hand.press(QStringLiteral("撤单")) &&
+           hand.waitUntilGone(QStringLiteral("加载中...")) && hand.waitFor(QStringLiteral("暂无可撤委托")) && back();
+}
+
+bool Tour::readEntrustsAndDeals()
+{
+    return hand.press(QStringLiteral("查看")) && hand.waitForPart(QStringLiteral("已撤单")) &&
+           hand.press(QStringLiteral("当日成交")) && hand.waitForPart(QStringLiteral("(000002)"));
+}
+
+bool Tour::readDetail()
+{
+    return hand.press(QStringLiteral("当日委托")) && hand.pressPart(QStringLiteral("已撤单")) &&
+           hand.waitFor(QStringLiteral("委托详情")) && hand.waitForPart(QStringLiteral("当前状态"));
+}
+
+bool Tour::openMyAccount()
+{
+    return hand.press(QStringLiteral("关闭")) && back() && back() && hand.press(QStringLiteral("菜单")) &&
+           hand.pressPart(QStringLiteral("我的账户")) && hand.waitForPart(QStringLiteral("可用余额"));
+}
+
+bool Tour::logOut()
+{
+    return hand.press(QStringLiteral("更多")) && hand.press(QStringLiteral("退出登录")) &&
+           hand.press(QStringLiteral("确定")) && hand.waitForPart(QStringLiteral("位用户在操盘"));
+}
+
+bool Tour::enterTradePassword()
+{
+    if (!hand.waitFor(QStringLiteral("交易密码")))
+        return false;
+    hand.keys(tradePassword);
+    return true;
+}
+
+bool Tour::back()
+{
+    return hand.press(QStringLiteral("返回"));
+}
+
+QVariantMap Tour::user() const
+{
+    return sandbox.state().value(QStringLiteral("users")).toList().value(0).toMap();
+}
+
+QString Tour::heldStock() const
+{
+    return user().value(QStringLiteral("holdings")).toList().value(0).toMap().value(QStringLiteral("stockName")).toString();
+}
+
+int Tour::ordersInTheBooks() const
+{
+    return static_cast<int>(user().value(QStringLiteral("orders")).toList().size());
+}

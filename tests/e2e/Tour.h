@@ -1,0 +1,53 @@
+#pragma once
+
+#include "tests/e2e/Hand.h"
+#include "tests/e2e/SandboxProcess.h"
+
+#include <QDir>
+
+#include <functional>
+
+/// A walk through the client as a new user takes it, step by step, against a sandbox of its own. Each step is told on the
+/// terminal and leaves a picture; the first that fails ends the walk and says what was on the window instead.
+class Tour {
+public:
+    Tour(Hand &usedHand, SandboxProcess &usedSandbox, const QDir &pictureFolder);
+
+    /// Whether every step came out as expected.
+    bool walk();
+
+private:
+    struct Step {
+        QString name;
+        std::function<bool()> act;
+    };
+
+    QList<Step> steps();
+    bool passGuide();
+    bool askForSignIn();
+    bool sendCode();
+    bool signInWithCode();
+    bool openOrderEntry();
+    bool findStock();
+    bool tapPrice();
+    bool submitBuy();
+    bool buyStandsInTheBooks();
+    bool sellHolding();
+    bool cancelOrder();
+    bool readEntrustsAndDeals();
+    bool readDetail();
+    bool openMyAccount();
+    bool logOut();
+
+    bool enterTradePassword();
+    bool back();
+    /// The demo user in the sandbox's books.
+    QVariantMap user() const;
+    QString heldStock() const;
+    int ordersInTheBooks() const;
+
+    Hand &hand;
+    SandboxProcess &sandbox;
+    QDir pictures;
+    int ordersBefore = 0;
+};
