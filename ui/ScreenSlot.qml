@@ -13,7 +13,7 @@ FocusScope {
     /// The screen over this one.
     property ScreenSlot above
     /// 0 beyond the right edge, 1 in place.
-    property real progress: animated && index > 0 ? 0 : 1
+    property real progress: 1
 
     signal gone
 
@@ -25,7 +25,15 @@ FocusScope {
     x: Math.round((1 - progress) * width - (above ? above.progress * width / 4 : 0))
     visible: !above || above.progress < 1
     onLeavingChanged: if (leaving) slide(0)
-    Component.onCompleted: if (leaving || progress < 1) slide(leaving ? 0 : 1)
+    // Decided once: a screen that came while its stack was covered is in place when the stack is seen again.
+    Component.onCompleted: {
+        if (leaving) {
+            slide(0)
+        } else if (animated && index > 0) {
+            progress = 0
+            slide(1)
+        }
+    }
 
     ScreenLoader {
         anchors.fill: parent
