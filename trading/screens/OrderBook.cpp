@@ -3,10 +3,10 @@
 #include "core/util/Text.h"
 
 namespace {
-TZHandicapModel levelAt(const QVariantList &pankou, int index, const QString &title)
+TZHandicapModel levelAt(const QVariantList &pankou, int index, const QString &side)
 {
     const QVariantMap level = pankou.value(index).toMap();
-    return {title.arg(index + 1), textForm(level.value(QStringLiteral("price"))),
+    return {side + QString::number(index + 1), textForm(level.value(QStringLiteral("price"))),
             textForm(level.value(QStringLiteral("volume")))};
 }
 } // namespace
@@ -16,7 +16,7 @@ QList<TZHandicapModel> OrderBook::buyLevels(const QVariantList &pankou)
     QList<TZHandicapModel> levels;
     levels.reserve(depth);
     for (int row = 0; row < depth; ++row)
-        levels.append(levelAt(pankou, row, QStringLiteral("买%1")));
+        levels.append(levelAt(pankou, row, QStringLiteral("买")));
     return levels;
 }
 
@@ -25,6 +25,6 @@ QList<TZHandicapModel> OrderBook::sellLevels(const QVariantList &pankou)
     QList<TZHandicapModel> levels;
     levels.reserve(depth);
     for (int row = 0; row < depth; ++row)
-        levels.append(levelAt(pankou, row < 5 ? 4 - row : 14 - row, QStringLiteral("卖%1")));
+        levels.append(levelAt(pankou, row < 5 ? 4 - row : 14 - row, QStringLiteral("卖")));
     return levels;
 }

@@ -12,7 +12,7 @@ class TZChooseSellStockController : public TradingListController, public Holding
     /// Rows of HoldingRow.
     Q_PROPERTY(GadgetListModel *holdings READ holdings CONSTANT)
 public:
-    GadgetListModel *holdings() { return &holdingRows; }
+    RowListModel<HoldingRow> *holdings() { return &holdingRows; }
     const QList<TZZorvanePageStocksModel> &holdingMArray() const { return stocks; }
 
     Q_INVOKABLE void selectHolding(int row);

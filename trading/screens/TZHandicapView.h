@@ -43,7 +43,7 @@ public:
     static double deepestVolume(const QList<TZHandicapModel> &levels);
 
     void setLevels(const QList<TZHandicapModel> &levels, const Scale &scale);
-    GadgetListModel *rows() { return &shownRows; }
+    RowListModel<HandicapRow> *rows() { return &shownRows; }
 
     Q_INVOKABLE void selectHandicap(int row);
 

@@ -46,7 +46,7 @@ public:
     QString profitText() const;
     int profitTrend() const { return signOf(pageModel.profit); }
     GadgetListModel *actions() { return &actionRows; }
-    GadgetListModel *holdings() { return &holdingRows; }
+    RowListModel<HoldingRow> *holdings() { return &holdingRows; }
 
     const TZZorvanePageModel &zorvanePageModel() const { return pageModel; }
     const QList<TZZorvanePageStocksModel> &holdsArray() const { return holds; }

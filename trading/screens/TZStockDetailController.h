@@ -22,7 +22,7 @@ public:
     QString price() const { return currentPrice; }
     QString change() const { return changeText; }
     int trend() const { return changeSign; }
-    GadgetListModel *rows() { return &holdingRows; }
+    RowListModel<DetailRow> *rows() { return &holdingRows; }
 
     Q_INVOKABLE void buy();
     Q_INVOKABLE void sell();

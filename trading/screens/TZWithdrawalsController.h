@@ -34,7 +34,7 @@ class TZWithdrawalsController : public TradingListController {
     /// Rows of WithdrawalRow.
     Q_PROPERTY(GadgetListModel *rows READ rows CONSTANT)
 public:
-    GadgetListModel *rows() { return &shownRows; }
+    RowListModel<WithdrawalRow> *rows() { return &shownRows; }
     const QList<TZCallBackPageModel> &withdrawalsArray() const { return entrusts; }
     QString orderId() const { return watchedOrder; }
 

@@ -1,0 +1,567 @@
+#include "trading/screens/TZBuyAndSellController.h"
+
+#include "core/session/SettingsKeys.h"
+#include "tests/trading/TradingFixture.h"
+#include "trading/api/TZStockInfoModel.h"
+#include "trading/screens/TZSelectStockController.h"
+
+namespace {
+const QString buyPath = QStringLiteral("entrust/createBuy");
+const QString sellPath = QStringLiteral("entrust/createSell");
+const QString quotePath = QStringLiteral("timelyInfo/timelyOrderForm");
+
+TZStockInfoModel stock(const QString &code, const QString &name)
+{
+    return {code, name, QString()};
+}
+
+QVariantMap quote(const QVariant &match, double best = 12.34)
+{
+    QVariantList levels;
+    for (int i = 0; i < 10; ++i)
+        levels.append(
+            QVariantMap{{"price", QString::number(best + i / 100.0, 'f', 2)}, {"volume", 100 * (i + 1)}});
+    return succeeded(QVariantMap{{"match", match}, {"buyPankou", levels}, {"sellPankou", levels}});
+}
+
+class HoldingsList : public QObject, public HoldingsDelegate {
+public:
+    void reloadHoldingData() override { ++reloads; }
+    int reloads = 0;
+};
+} // namespace
+
+class OrderEntryTest : public TradingFixture {
+protected:
+    OrderEntryTest() { settings.setValue(SettingsKeys::needTradePwd, false); }
+
+    void openBuying(const QString &money = QStringLiteral("10000.00"))
+    {
+        screen = push<TZBuyAndSellController>(OrderSide::Buy);
+        http.answer(QStringLiteral("buyPage"), succeeded(money));
+    }
+    void openSelling(const QString &available = QStringLiteral("1237"))
+    {
+        TZZorvanePageStocksModel holding;
+        holding.stockCode = QStringLiteral("600001");
+        holding.stockName = QStringLiteral("海天传媒");
+        holding.availableShares = available;
+        screen = push<TZBuyAndSellController>(OrderSide::Sell, holding, &holdings, &holdings);
+        http.answer(QStringLiteral("buyPage"), succeeded("10000.00"));
+    }
+    void enter(const QString &price, const QString &quantity)
+    {
+        screen->editPrice(price);
+        runLoop.advance(100ms);
+        screen->editQuantity(quantity);
+    }
+    void openWithEntry()
+    {
+        openBuying();
+        screen->chooseStock(stock("600001", "海天传媒"));
+        enter("12.34", "800");
+    }
+    QString lastBanner() const { return banners().isEmpty() ? QString() : banners().constLast(); }
+    QStringList titles(TZHandicapView *view) const
+    {
+        QStringList all;
+        for (const HandicapRow &row : view->rows()->rows())
+            all.append(row.title);
+        return all;
+    }
+
+    HoldingsList holdings;
+    TZBuyAndSellController *screen = nullptr;
+};
+
+TEST_F(OrderEntryTest, BuyingBeginsWithoutAStockAndQuotesItEveryThreeSecondsOnceChosen)
+{
+    openBuying();
+    EXPECT_EQ(screen->title(), "买入");
+    EXPECT_TRUE(screen->showBackButton());
+    EXPECT_EQ(screen->stockText(), "");
+    runLoop.advance(10s);
+    EXPECT_EQ(http.countOf(quotePath), 0);
+
+    screen->chooseStock(stock("600001", "海天传媒"));
+    EXPECT_EQ(screen->stockText(), "海天传媒(600001)");
+    EXPECT_FALSE(screen->canGotoStockSelect());
+    EXPECT_EQ(http.countOf(quotePath), 1);
+    EXPECT_EQ(http.last().fields(), (QVariantMap{{"stockCode", "600001"}}));
+    runLoop.advance(2999ms);
+    EXPECT_EQ(http.countOf(quotePath), 1);
+    runLoop.advance(1ms);
+    EXPECT_EQ(http.countOf(quotePath), 2);
+    runLoop.advance(30s);
+    EXPECT_EQ(http.countOf(quotePath), 12);
+    EXPECT_EQ(http.countOf("buyPage"), 1);
+}
+
+TEST_F(OrderEntryTest, SellingQuotesItsHoldingAtOnceAndIsLimitedToWhatIsAvailable)
+{
+    openSelling();
+    EXPECT_EQ(screen->title(), "卖出");
+    EXPECT_EQ(http.countOf(quotePath), 1);
+    EXPECT_EQ(screen->totalCount(), 1237);
+    EXPECT_EQ(screen->countText(), "         当前可卖出1237股");
+    EXPECT_FALSE(screen->canGotoStockSelect());
+    enter("12.34", "1300");
+    EXPECT_EQ(screen->countText(), "         当前可卖出1237股");
+}
+
+TEST_F(OrderEntryTest, TheTimerRunsOnlyWhileTheScreenIsShown)
+{
+    openBuying();
+    screen->gotoSelectStock();
+    auto *const search = top<TZSelectStockController>();
+    ASSERT_NE(search, nullptr);
+    screen->chooseStock(stock("600001", "海天传媒"));
+    runLoop.advance(10s);
+    EXPECT_EQ(http.countOf(quotePath), 0);
+    stack().pop();
+    EXPECT_EQ(http.countOf(quotePath), 1);
+    runLoop.advance(3s);
+    EXPECT_EQ(http.countOf(quotePath), 2);
+
+    KRNavigationController *const covering = window.present(std::make_unique<KRBaseController>());
+    runLoop.advance(30s);
+    EXPECT_EQ(http.countOf(quotePath), 2);
+    covering->dismiss();
+    EXPECT_EQ(http.countOf(quotePath), 3);
+
+    stack().pop();
+    settle();
+    runLoop.advance(30s);
+    EXPECT_EQ(http.countOf(quotePath), 3);
+    http.answer(quotePath, quote("12.30"));
+}
+
+TEST_F(OrderEntryTest, AStockOnceChosenIsNotSearchedAgain)
+{
+    openBuying();
+    screen->chooseStock(stock("600001", "海天传媒"));
+    screen->gotoSelectStock();
+    EXPECT_EQ(stack().top(), screen);
+}
+
+TEST_F(OrderEntryTest, AQuoteFillsPriceAndBookAndABrokenOneLeavesThem)
+{
+    openWithEntry();
+    EXPECT_EQ(screen->currentPriceText(), "");
+    EXPECT_EQ(screen->sellHandicapView()->rows()->at(0).price, "--");
+    http.answer(quotePath, quote("12.30"));
+    EXPECT_EQ(screen->currentPriceText(), "现价12.30");
+    EXPECT_EQ(titles(screen->sellHandicapView()),
+              (QStringList{"卖5", "卖4", "卖3", "卖2", "卖1", "卖10", "卖9", "卖8", "卖7", "卖6"}));
+    EXPECT_EQ(titles(screen->buyHandicapView()).constFirst(), "买1");
+    EXPECT_EQ(screen->sellHandicapView()->rows()->at(4).price, "12.34");
+    EXPECT_DOUBLE_EQ(screen->buyHandicapView()->rows()->at(4).share, 0.5);
+
+    const QList<TZHandicapModel> before = screen->buyArr();
+    const auto unchanged = [&] {
+        return screen->currentPriceText() == "现价12.30" &&
+               screen->buyArr().at(0).price == before.at(0).price && screen->sellArr().at(9).volume == "600";
+    };
+    const QList<QVariantMap> broken{
+        refused("行情不可用"),
+        {{"success", false}, {"data", quote("99.99", 99).value("data")}},
+        succeeded(QVariantMap{{"match", ""}, {"buyPankou", "x"}, {"sellPankou", QVariantMap()}}),
+        succeeded(QVariantMap{{"match", QVariant::fromValue(nullptr)},
+                              {"buyPankou", QVariant::fromValue(nullptr)}}),
+        succeeded(QVariantList{1, 2}),
+        succeeded("text"),
+        {},
+    };
+    for (const QVariantMap &answer : broken) {
+        runLoop.advance(3s);
+        http.answer(quotePath, answer);
+        EXPECT_TRUE(unchanged());
+    }
+    runLoop.advance(3s);
+    http.fail(quotePath, HttpFailure::TimedOut);
+    EXPECT_TRUE(unchanged());
+}
+
+TEST_F(OrderEntryTest, AQuoteThatComesLateNeverReplacesANewerOneNorAnotherStocksBook)
+{
+    openBuying();
+    screen->chooseStock(stock("600001", "海天传媒"));
+    FakeTransport::Sent &slow = http.last();
+    runLoop.advance(3s);
+    http.answer(quotePath, quote("12.40"));
+    http.answer(slow, quote("12.30"));
+    EXPECT_EQ(screen->currentPrice(), "12.40");
+
+    runLoop.advance(3s);
+    FakeTransport::Sent &ofTheOld = http.last();
+    screen->chooseStock(stock("000002", "东方钢铁"));
+    EXPECT_EQ(screen->currentPriceText(), "");
+    EXPECT_EQ(screen->buyArr().at(0).price, "");
+    http.answer(ofTheOld, quote("12.50"));
+    EXPECT_EQ(screen->currentPrice(), "");
+    EXPECT_EQ(screen->buyArr().at(0).price, "");
+    http.answer(quotePath, quote("33.00", 33));
+    EXPECT_EQ(screen->buyArr().at(0).price, "33.00");
+}
+
+TEST_F(OrderEntryTest, ATappedLevelFillsThePriceAndCountsWhatItPaysFor)
+{
+    openBuying();
+    screen->chooseStock(stock("600001", "海天传媒"));
+    http.answer(quotePath, quote("12.30"));
+    screen->sellHandicapView()->selectHandicap(4);
+    EXPECT_EQ(screen->price(), "12.34");
+    EXPECT_EQ(screen->totalCount(), 810);
+    EXPECT_EQ(screen->countText(), "         当前可买入810股");
+
+    notifications.post(TZHandicapView::priceSelectNotification, QVariantMap{{"price", "0.00"}});
+    EXPECT_EQ(screen->price(), "0.00");
+    EXPECT_EQ(screen->totalCount(), 810);
+    EXPECT_EQ(screen->countText(), "         当前可买入810股");
+    for (const QVariant &strange :
+         {QVariant(), QVariant("text"), QVariant(QVariantMap{{"price", QVariantList{1}}})})
+        notifications.post(TZHandicapView::priceSelectNotification, strange);
+    EXPECT_EQ(screen->totalCount(), 810);
+}
+
+TEST_F(OrderEntryTest, ALevelWithoutAPriceIsNotPicked)
+{
+    openWithEntry();
+    screen->sellHandicapView()->selectHandicap(0);
+    screen->sellHandicapView()->selectHandicap(10);
+    screen->sellHandicapView()->selectHandicap(-1);
+    EXPECT_EQ(screen->price(), "12.34");
+}
+
+TEST_F(OrderEntryTest, ATypedPriceIsCountedATenthOfASecondLater)
+{
+    openBuying();
+    screen->editPrice("12.34");
+    runLoop.advance(99ms);
+    EXPECT_EQ(screen->countText(), "");
+    runLoop.advance(1ms);
+    EXPECT_EQ(screen->countText(), "         当前可买入810股");
+    screen->editPrice("12.345");
+    EXPECT_EQ(screen->price(), "12.34");
+
+    for (const QString nothing : {"", "0", "0.00", "."}) {
+        screen->editPrice("12.34");
+        runLoop.advance(100ms);
+        screen->editPrice(nothing);
+        runLoop.advance(100ms);
+        EXPECT_EQ(screen->countText(), "") << qPrintable(nothing);
+        EXPECT_EQ(screen->totalCount(), 810);
+    }
+}
+
+TEST_F(OrderEntryTest, MoneyThatComesAfterThePriceIsCounted)
+{
+    screen = push<TZBuyAndSellController>(OrderSide::Buy);
+    enter("12.34", "");
+    EXPECT_EQ(screen->totalCount(), 0);
+    http.answer(QStringLiteral("buyPage"), succeeded(10000.0));
+    EXPECT_EQ(screen->useableAmount(), 10000.0);
+    EXPECT_EQ(screen->totalCount(), 810);
+}
+
+TEST_F(OrderEntryTest, QuickButtonsWriteWholeLots)
+{
+    openBuying();
+    screen->selectFraction(OrderEntryRules::All);
+    EXPECT_EQ(screen->quantity(), "0");
+    screen->editPrice("12.34");
+    runLoop.advance(100ms);
+    const QStringList expected{"200", "400", "800"};
+    for (int tag = 0; tag < 3; ++tag) {
+        screen->selectFraction(tag);
+        EXPECT_EQ(screen->quantity(), expected.at(tag));
+        EXPECT_EQ(screen->selectedFraction(), tag);
+    }
+    screen->selectFraction(3);
+    screen->selectFraction(-1);
+    EXPECT_EQ(screen->quantity(), "800");
+    screen->editQuantity("123456789");
+    EXPECT_EQ(screen->quantity(), "12345678");
+    EXPECT_EQ(screen->selectedFraction(), -1);
+    screen->editQuantity("1 00");
+    EXPECT_EQ(screen->quantity(), "12345678");
+}
+
+TEST_F(OrderEntryTest, ChoosingAStockEmptiesTheEntry)
+{
+    openWithEntry();
+    screen->selectFraction(0);
+    screen->chooseStock(stock("000002", "东方钢铁"));
+    EXPECT_EQ(screen->price(), "");
+    EXPECT_EQ(screen->quantity(), "");
+    EXPECT_EQ(screen->countText(), "");
+    EXPECT_EQ(screen->zorvanePageStocksModel().stockCode, "000002");
+    EXPECT_EQ(screen->zorvanePageStocksModel().availableShares, "");
+}
+
+TEST_F(OrderEntryTest, TheFirstFaultIsSaidAndNothingIsSent)
+{
+    struct Case {
+        QString code;
+        QString price;
+        QString quantity;
+        QString buying;
+        QString selling;
+    };
+    const QList<Case> table{
+        {"", "", "", "请输入股票代码", "请输入正确的股票代码"},
+        {"", "12.34", "100", "请输入股票代码", "请输入正确的股票代码"},
+        {"600001", "", "", "请输入买入价格", "请输入卖出价格"},
+        {"600001", "", "150", "请输入买入价格", "请输入卖出价格"},
+        {"600001", "12.34", "", "请输入买入数量", "请输入卖出数量"},
+        {"600001", "12.34", "0", "买入数量须为100的整数倍", "卖出数量须为100的整数倍"},
+        {"600001", "12.34", "50", "买入数量须为100的整数倍", "卖出数量须为100的整数倍"},
+        {"600001", "12.34", "150", "买入数量须为100的整数倍", "卖出数量须为100的整数倍"},
+        {"600001", "12.34", "99999950", "买入数量须为100的整数倍", "卖出数量须为100的整数倍"},
+        {"600001", "12.34", "900", "超过交易数量上限", "超过交易数量上限"},
+        {"600001", "12.34", "99999900", "超过交易数量上限", "超过交易数量上限"},
+    };
+    for (const OrderSide side : {OrderSide::Buy, OrderSide::Sell}) {
+        for (const Case &each : table) {
+            TZZorvanePageStocksModel model;
+            model.stockCode = each.code;
+            model.availableShares = QStringLiteral("810");
+            screen = push<TZBuyAndSellController>(side, model);
+            http.answer(QStringLiteral("buyPage"), succeeded("10000.00"));
+            enter(each.price, each.quantity);
+            screen->submit();
+            runLoop.advance(1s);
+            EXPECT_EQ(lastBanner(), side == OrderSide::Buy ? each.buying : each.selling)
+                << qPrintable(each.price) << ' ' << qPrintable(each.quantity);
+            EXPECT_EQ(http.countOf(buyPath) + http.countOf(sellPath), 0);
+            stack().pop();
+            settle();
+        }
+    }
+}
+
+TEST_F(OrderEntryTest, AnOddRemainderIsNotSold)
+{
+    openSelling("150");
+    enter("12.34", "150");
+    screen->submit();
+    EXPECT_EQ(lastBanner(), "卖出数量须为100的整数倍");
+}
+
+TEST_F(OrderEntryTest, TapsWithinHalfASecondSendOneOrderHalfASecondAfterTheLast)
+{
+    openWithEntry();
+    screen->submit();
+    runLoop.advance(400ms);
+    screen->submit();
+    runLoop.advance(400ms);
+    screen->submit();
+    runLoop.advance(499ms);
+    EXPECT_EQ(http.countOf(buyPath), 0);
+    runLoop.advance(1ms);
+    EXPECT_EQ(http.countOf(buyPath), 1);
+    EXPECT_EQ(http.pending(buyPath).fields(),
+              (QVariantMap{{"stockCode", "600001"}, {"entrustShares", "800"}, {"entrustPrice", "12.34"}}));
+    runLoop.advance(10s);
+    EXPECT_EQ(http.countOf(buyPath), 1);
+}
+
+TEST_F(OrderEntryTest, NoSecondOrderGoesWhileOneIsOnItsWay)
+{
+    openWithEntry();
+    screen->submit();
+    runLoop.advance(500ms);
+    // A refused quote takes the indicator away although the order is still on its way.
+    http.answer(quotePath, refused("行情不可用"));
+    EXPECT_FALSE(overlays.isWaiting());
+    screen->submit();
+    runLoop.advance(14s);
+    EXPECT_EQ(http.countOf(buyPath), 1);
+
+    http.fail(buyPath, HttpFailure::TimedOut);
+    EXPECT_EQ(alert(), nullptr);
+    EXPECT_EQ(screen->quantity(), "800");
+    screen->submit();
+    runLoop.advance(500ms);
+    EXPECT_EQ(http.countOf(buyPath), 2);
+}
+
+TEST_F(OrderEntryTest, AnEntryChangedInTheHalfSecondIsCheckedAgain)
+{
+    openWithEntry();
+    screen->submit();
+    screen->editQuantity("99999900");
+    runLoop.advance(500ms);
+    EXPECT_EQ(lastBanner(), "超过交易数量上限");
+    EXPECT_EQ(http.countOf(buyPath), 0);
+}
+
+TEST_F(OrderEntryTest, LeavingInTheHalfSecondSendsNothing)
+{
+    openWithEntry();
+    screen->submit();
+    screen->backButtonClicked();
+    runLoop.advance(1s);
+    EXPECT_EQ(http.countOf(buyPath), 0);
+}
+
+TEST_F(OrderEntryTest, TheFirstOrderAsksForThePasswordTheNextDoesNot)
+{
+    settings.setValue(SettingsKeys::needTradePwd, true);
+    openWithEntry();
+    screen->submit();
+    screen->submit();
+    ASSERT_NE(prompt(), nullptr);
+    EXPECT_EQ(window.dialogs()->count(), 1);
+    runLoop.advance(5s);
+    EXPECT_EQ(http.countOf(buyPath), 0);
+
+    screen->checkTradePwd(QString());
+    EXPECT_EQ(lastBanner(), "请输入交易密码");
+    EXPECT_NE(prompt(), nullptr);
+    EXPECT_EQ(http.countOf(buyPath), 0);
+
+    typePassword("123456");
+    EXPECT_EQ(prompt(), nullptr);
+    EXPECT_EQ(http.pending(buyPath).fields().value("tradePassword"), "123456");
+    const int flushes = settings.flushes;
+    http.answer(buyPath, succeeded(QVariantMap{{"id", 77}}));
+    EXPECT_EQ(settings.value(SettingsKeys::needTradePwd), false);
+    EXPECT_GT(settings.flushes, flushes);
+    ASSERT_NE(alert(), nullptr);
+    alert()->cancel();
+
+    enter("12.34", "100");
+    screen->submit();
+    runLoop.advance(500ms);
+    EXPECT_FALSE(http.pending(buyPath).fields().contains("tradePassword"));
+}
+
+TEST_F(OrderEntryTest, ARefusedPasswordBringsThePromptBack)
+{
+    for (const QVariant &code : {QVariant("12000"), QVariant("12002"), QVariant(12000), QVariant(12002.0)}) {
+        openWithEntry();
+        screen->submit();
+        runLoop.advance(500ms);
+        QVariantMap answer = refused("交易密码错误");
+        answer.insert("code", code);
+        http.answer(buyPath, answer);
+        EXPECT_EQ(lastBanner(), "交易密码错误");
+        typePassword("111111");
+        answer.insert("message", "");
+        http.answer(buyPath, answer);
+        EXPECT_EQ(lastBanner(), "交易密码不正确，请重试");
+        typePassword("123456");
+        EXPECT_EQ(http.pending(buyPath).fields().value("tradePassword"), "123456");
+        http.answer(buyPath, succeeded(QVariantMap{{"id", "9"}}));
+        ASSERT_NE(alert(), nullptr);
+        alert()->leftBtnClick();
+        settle();
+    }
+}
+
+TEST_F(OrderEntryTest, AnyOtherRefusalShowsOnlyTheServersMessageAndKeepsTheEntry)
+{
+    openWithEntry();
+    for (const QVariant &code :
+         {QVariant("12001"), QVariant(), QVariant("abc"), QVariant(QVariantList{12000})}) {
+        screen->submit();
+        runLoop.advance(500ms);
+        QVariantMap answer = refused("可用资金不足");
+        answer.insert("code", code);
+        http.answer(buyPath, answer);
+        EXPECT_EQ(lastBanner(), "可用资金不足");
+        EXPECT_EQ(window.dialogs()->count(), 0);
+        EXPECT_EQ(screen->price() + screen->quantity(), "12.34800");
+    }
+}
+
+TEST_F(OrderEntryTest, AnAcceptedAnswerWithoutAnIdentifierShowsNothing)
+{
+    for (const QVariant &data : {QVariant(), QVariant("x"), QVariant(QVariantMap{{"id", ""}}),
+                                 QVariant(QVariantMap{{"id", QVariant::fromValue(nullptr)}})}) {
+        settings.setValue(SettingsKeys::needTradePwd, false);
+        openWithEntry();
+        screen->submit();
+        runLoop.advance(500ms);
+        settings.setValue(SettingsKeys::needTradePwd, true);
+        http.answer(buyPath, succeeded(data));
+        EXPECT_EQ(settings.value(SettingsKeys::needTradePwd), false);
+        EXPECT_EQ(alert(), nullptr);
+        EXPECT_EQ(screen->quantity(), "800");
+    }
+}
+
+TEST_F(OrderEntryTest, APlacedBuyOffersTheTradingPageOrAnotherStock)
+{
+    openWithEntry();
+    screen->submit();
+    runLoop.advance(500ms);
+    http.answer(buyPath, succeeded(QVariantMap{{"id", "9"}}));
+    EXPECT_EQ(screen->price() + screen->quantity(), "");
+    ASSERT_NE(alert(), nullptr);
+    EXPECT_EQ(alert()->titleText(), "委托挂单成功");
+    EXPECT_EQ(alert()->leftTitle(), "实盘炒股");
+    EXPECT_EQ(alert()->rightTitle(), "继续买入");
+
+    alert()->rightBtnClick();
+    EXPECT_NE(top<TZSelectStockController>(), nullptr);
+    screen->chooseStock(stock("000002", "东方钢铁"));
+    stack().pop();
+    EXPECT_EQ(screen->stockText(), "东方钢铁(000002)");
+
+    enter("12.34", "100");
+    screen->submit();
+    runLoop.advance(500ms);
+    http.answer(buyPath, succeeded(QVariantMap{{"id", "10"}}));
+    const int depth = stack().depth();
+    alert()->leftBtnClick();
+    EXPECT_EQ(stack().depth(), depth - 1);
+}
+
+TEST_F(OrderEntryTest, APlacedSaleReloadsTheHoldingsAndGoesBackToTheSecondScreen)
+{
+    KRBaseController *const second = push<KRBaseController>();
+    push<KRBaseController>();
+    openSelling();
+    enter("12.34", "1200");
+    screen->submit();
+    runLoop.advance(500ms);
+    EXPECT_EQ(http.countOf(buyPath), 0);
+    http.answer(sellPath, succeeded(QVariantMap{{"id", "9"}}));
+    EXPECT_EQ(holdings.reloads, 1);
+    EXPECT_EQ(alert()->rightTitle(), "继续卖出");
+    alert()->rightBtnClick();
+    EXPECT_EQ(stack().top(), second);
+}
+
+TEST_F(OrderEntryTest, AnswersAfterTheScreenIsGoneDoNothing)
+{
+    settings.setValue(SettingsKeys::needTradePwd, true);
+    openWithEntry();
+    screen->submit();
+    typePassword("123456");
+    FakeTransport::Sent &order = http.pending(buyPath);
+    FakeTransport::Sent &late = http.pending(quotePath);
+    stack().pop();
+    settle();
+    http.answer(late, quote("12.30"));
+    http.answer(order, succeeded(QVariantMap{{"id", "9"}}));
+    notifications.post(TZHandicapView::priceSelectNotification, QVariantMap{{"price", "1.00"}});
+    runLoop.advance(10s);
+    EXPECT_EQ(alert(), nullptr);
+    EXPECT_EQ(runLoop.activeTimers(), 0);
+}
+
+TEST_F(OrderEntryTest, ThePromptGoesWithItsScreen)
+{
+    settings.setValue(SettingsKeys::needTradePwd, true);
+    openWithEntry();
+    screen->submit();
+    prompt()->setInputTextField("123456");
+    stack().pop();
+    settle();
+    runLoop.advance(2s);
+    EXPECT_EQ(http.countOf(buyPath), 0);
+    EXPECT_EQ(window.dialogs()->count(), 0);
+}

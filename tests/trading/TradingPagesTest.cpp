@@ -1,0 +1,500 @@
+#include "core/session/SettingsKeys.h"
+#include "tests/trading/TradingFixture.h"
+#include "trading/screens/TZBuyAndSellController.h"
+#include "trading/screens/TZChooseSellStockController.h"
+#include "trading/screens/TZDealAndEntrustController.h"
+#include "trading/screens/TZDealDetailController.h"
+#include "trading/screens/TZRealTradingController.h"
+#include "trading/screens/TZStockDetailController.h"
+#include "trading/screens/TZWithdrawalsController.h"
+
+namespace {
+QVariantMap holding(const QString &code, const QString &profit)
+{
+    return {{"stockCode", code},         {"stockName", "海天传媒"}, {"shares", "1500"},
+            {"availableShares", "1200"}, {"costPerShare", 9.5},     {"currentPrice", "10.00"},
+            {"profitMoney", profit},     {"profitRate", "5.26"}};
+}
+
+QVariantMap tradingPage(const QVariant &available, const QVariant &profit = "750",
+                        const QVariantList &stocks = {})
+{
+    return succeeded(QVariantMap{{"availableMoney", available},
+                                 {"stockValue", "15000"},
+                                 {"frozenMoney", "0"},
+                                 {"profit", profit},
+                                 {"stocks", stocks}});
+}
+
+QVariantMap entrust(const QString &id, const QString &entrustNo, const QVariant &type = "1")
+{
+    return {
+        {"id", id},           {"entrustNo", entrustNo}, {"stockCode", "600001"},  {"stockName", "海天传媒"},
+        {"type", type},       {"status", "2"},          {"entrustPrice", "9.99"}, {"entrustShares", "300"},
+        {"businessShares", 0}};
+}
+
+QStringList linesOf(TZDealDetailController &detail)
+{
+    QStringList lines;
+    for (const DetailRow &row : detail.rows()->rows())
+        lines.append(row.label + u' ' + row.value);
+    return lines;
+}
+} // namespace
+
+class TradingPageTest : public TradingFixture {
+protected:
+    TZRealTradingController *open(const QVariant &available = "1000.00")
+    {
+        auto *const opened = push<TZRealTradingController>(router);
+        http.answer(QStringLiteral("zorvanePage"), tradingPage(available));
+        return opened;
+    }
+};
+
+TEST_F(TradingPageTest, ItReadsItsPageWhenItAppearsAndPullsAQuarterOfASecondLater)
+{
+    auto *const page = push<TZRealTradingController>(router);
+    EXPECT_EQ(page->title(), "Zorvane-实盘炒股");
+    EXPECT_EQ(page->leftItemImage(), "common_back_gray");
+    EXPECT_EQ(page->rightItemImage(), "real_trade_Info");
+    EXPECT_EQ(page->availableMoney(), "--");
+    EXPECT_EQ(page->profitText(), "");
+    EXPECT_EQ(http.countOf("warnInfo"), 1);
+    http.answer(QStringLiteral("warnInfo"), succeeded(QVariantMap{{"warnLine", "100"}}));
+    EXPECT_EQ(page->warnInfoModel().warnLine, "100");
+    EXPECT_EQ(alert(), nullptr);
+
+    EXPECT_EQ(http.countOf("zorvanePage"), 1);
+    EXPECT_FALSE(page->refreshing());
+    runLoop.advance(250ms);
+    EXPECT_EQ(http.countOf("zorvanePage"), 2);
+    EXPECT_TRUE(page->refreshing());
+    http.answer(QStringLiteral("zorvanePage"),
+                tradingPage("1234567.8", "-750.5", {holding("600001", "-750.5"), holding("000002", "")}));
+    EXPECT_FALSE(page->refreshing());
+    EXPECT_EQ(page->availableMoney(), "1,234,567.80");
+    EXPECT_EQ(page->holdingsTitle(), "当前持仓(2)");
+    EXPECT_EQ(page->profitText(), "持仓盈亏       -750.50");
+    EXPECT_EQ(page->profitTrend(), -1);
+    EXPECT_FALSE(page->noData());
+    EXPECT_EQ(page->holdings()->at(0).sentence, "海天传媒 600001 9.5 10.00 1500 1200 -750.50 5.26%");
+    EXPECT_EQ(page->holdings()->at(0).trend, -1);
+}
+
+TEST_F(TradingPageTest, ARefreshAlwaysEnds)
+{
+    auto *const page = open();
+    EXPECT_TRUE(page->noData());
+    const QList<std::function<void()>> ends{
+        [this] { http.answer(QStringLiteral("zorvanePage"), refused("系统维护")); },
+        [this] { http.fail(QStringLiteral("zorvanePage"), HttpFailure::Connection); },
+        [this] { runLoop.advance(15s); },
+        [this] { http.answer(QStringLiteral("zorvanePage"), succeeded("text")); },
+    };
+    for (const auto &end : ends) {
+        page->beginRefreshing();
+        EXPECT_TRUE(page->refreshing());
+        end();
+        EXPECT_FALSE(page->refreshing());
+    }
+}
+
+TEST_F(TradingPageTest, WithoutANetworkTheLastPageIsShown)
+{
+    open("1000.00");
+    stack().pop();
+    settle();
+    settings.setValue(SettingsKeys::networkStatus, false);
+    const int sent = http.count();
+    auto *const page = push<TZRealTradingController>(router);
+    runLoop.advance(1s);
+    EXPECT_EQ(http.count(), sent);
+    EXPECT_EQ(page->availableMoney(), "1,000.00");
+    EXPECT_FALSE(page->refreshing());
+}
+
+TEST_F(TradingPageTest, LessThanOneYuanIsNoMoneyToBuyWith)
+{
+    struct Case {
+        QVariant available;
+        bool canBuy;
+    };
+    const QList<Case> table{
+        {"0.99", false}, {"0", false}, {"", false},    {QVariant::fromValue(nullptr), false},
+        {"abc", false},  {"1", true},  {"1.00", true}, {0.99, false},
+        {1000.5, true},  {"-5", true}};
+    for (const Case &each : table) {
+        TZRealTradingController *const page = open(each.available);
+        page->actionBarClick(TZRealTradingController::BuyTag);
+        EXPECT_EQ(top<TZBuyAndSellController>() != nullptr, each.canBuy)
+            << qPrintable(each.available.toString());
+        EXPECT_EQ(alert() == nullptr, each.canBuy);
+        if (alert()) {
+            EXPECT_EQ(alert()->titleText(), "您账户中没有可用资金，先去");
+            EXPECT_EQ(alert()->ensureText(), "配资或者充值再来炒股吧。");
+            EXPECT_EQ(alert()->leftTitle(), "去配资");
+            EXPECT_EQ(alert()->rightTitle(), "去充值");
+            alert()->cancel();
+        }
+        stack().popToRoot();
+        settle();
+    }
+}
+
+TEST_F(TradingPageTest, WithoutMoneyTheWaysLeadToFinancingAndRecharge)
+{
+    open("0")->actionBarClick(TZRealTradingController::BuyTag);
+    alert()->rightBtnClick();
+    EXPECT_EQ(router.calls, QStringList{"openRechargeGate"});
+    router.calls.clear();
+
+    top<TZRealTradingController>()->actionBarClick(TZRealTradingController::BuyTag);
+    alert()->leftBtnClick();
+    settle();
+    EXPECT_EQ(router.calls, QStringList{"openStockCapital"});
+    EXPECT_EQ(stack().depth(), 1);
+}
+
+TEST_F(TradingPageTest, TheActionBarOpensTheFourScreens)
+{
+    TZRealTradingController *const page = open();
+    page->actionBarClick(10000);
+    ASSERT_NE(top<TZBuyAndSellController>(), nullptr);
+    EXPECT_TRUE(top<TZBuyAndSellController>()->isBuyType());
+    EXPECT_EQ(top<TZBuyAndSellController>()->stockText(), "");
+    stack().pop();
+    page->actionBarClick(10001);
+    EXPECT_NE(top<TZChooseSellStockController>(), nullptr);
+    stack().pop();
+    page->actionBarClick(10002);
+    EXPECT_NE(top<TZWithdrawalsController>(), nullptr);
+    stack().pop();
+    page->actionBarClick(10003);
+    EXPECT_NE(top<TZDealAndEntrustController>(), nullptr);
+}
+
+TEST_F(TradingPageTest, TheRightItemShowsTheWarningLinesAndTheRules)
+{
+    TZRealTradingController *const page = open();
+    page->rightItemClick();
+    http.answer(QStringLiteral("warnInfo"), succeeded(QVariantMap()));
+    EXPECT_EQ(alert(), nullptr);
+    page->rightItemClick();
+    http.answer(QStringLiteral("warnInfo"),
+                succeeded(QVariantMap{{"warnLine", 9000}, {"closeOutLine", "8000"}}));
+    ASSERT_NE(alert(), nullptr);
+    EXPECT_EQ(alert()->ensureText(), "亏损警告线 9,000.00元\n亏损平仓线 8,000.00元");
+    alert()->leftBtnClick();
+    EXPECT_EQ(router.calls, QStringList{"openWeb https://service.test/mobile/stock_buy_rules.html"});
+
+    settings.setValue(SettingsKeys::networkStatus, false);
+    const int sent = http.count();
+    page->rightItemClick();
+    EXPECT_EQ(http.count(), sent);
+    EXPECT_EQ(banners().constLast(), "网络异常");
+}
+
+TEST_F(TradingPageTest, ATappedHoldingOpensItsDetailFromWhichBothSidesAreTraded)
+{
+    TZRealTradingController *const page = push<TZRealTradingController>(router);
+    http.answer(QStringLiteral("zorvanePage"), tradingPage("1000", "1", {holding("600001", "750")}));
+    page->selectHolding(1);
+    EXPECT_EQ(stack().top(), page);
+    page->selectHolding(0);
+    auto *const detail = top<TZStockDetailController>();
+    ASSERT_NE(detail, nullptr);
+    EXPECT_EQ(detail->price(), "10.00");
+    EXPECT_EQ(http.pending("stockDetailPage").fields().value("stockCode"), "600001");
+    http.answer(
+        QStringLiteral("stockDetailPage"),
+        succeeded(QVariantMap{{"currentPrice", "10.20"}, {"change", "-0.10"}, {"changeRate", "-0.97"}}));
+    EXPECT_EQ(detail->price(), "10.20");
+    EXPECT_EQ(detail->change(), "-0.10  -0.97%");
+    EXPECT_EQ(detail->trend(), -1);
+
+    detail->sell();
+    EXPECT_EQ(top<TZBuyAndSellController>()->totalCount(), 1200);
+    stack().pop();
+    detail->buy();
+    EXPECT_EQ(top<TZBuyAndSellController>()->stockText(), "海天传媒(600001)");
+    EXPECT_EQ(top<TZBuyAndSellController>()->zorvanePageStocksModel().availableShares, "");
+}
+
+TEST_F(TradingFixture, HoldingsToSellAreReadOnLoadingAndEachTimeTheyAppear)
+{
+    settings.setValue(SettingsKeys::needTradePwd, false);
+    auto *const list = push<TZChooseSellStockController>();
+    EXPECT_EQ(list->title(), "选择卖出股票");
+    EXPECT_EQ(http.countOf("holding"), 2);
+    EXPECT_EQ(http.pending("holding").fields(), (QVariantMap{{"", ""}}));
+    http.answer(QStringLiteral("holding"), succeeded(QVariantList{holding("600001", "5"), 7, "x"}));
+    EXPECT_EQ(list->holdingMArray().size(), 3);
+    http.answer(QStringLiteral("holding"), succeeded(QVariantList{holding("600001", "5")}));
+    EXPECT_EQ(list->holdings()->count(), 1);
+    EXPECT_FALSE(list->noData());
+
+    list->selectHolding(0);
+    auto *const entry = top<TZBuyAndSellController>();
+    ASSERT_NE(entry, nullptr);
+    EXPECT_FALSE(entry->isBuyType());
+    entry->editPrice("9.99");
+    entry->editQuantity("1200");
+    entry->submit();
+    runLoop.advance(500ms);
+    const int reads = http.countOf("holding");
+    http.answer(QStringLiteral("entrust/createSell"), succeeded(QVariantMap{{"id", "3"}}));
+    EXPECT_EQ(http.countOf("holding"), reads + 1);
+    http.answer(QStringLiteral("holding"), succeeded(QVariantList()));
+    EXPECT_TRUE(list->noData());
+}
+
+class WithdrawalsTest : public TradingFixture {
+protected:
+    WithdrawalsTest()
+    {
+        screen = push<TZWithdrawalsController>();
+        list({entrust("11", "E11"), entrust("12", "E12", "2")});
+    }
+    void list(const QVariantList &entrusts)
+    {
+        http.answer(QStringLiteral("callBackPage"), succeeded(entrusts));
+    }
+    void cancel(int row)
+    {
+        screen->withdrawalsBtnDidClick(row);
+        runLoop.advance(500ms);
+    }
+    static inline const QString cancelPath = QStringLiteral("entrust/createCancel");
+    static inline const QString statusPath = QStringLiteral("entrust/queryWithDrawStatus");
+    TZWithdrawalsController *screen = nullptr;
+};
+
+TEST_F(WithdrawalsTest, TwoTapsSendOneCancellationOfTheLastTapped)
+{
+    EXPECT_EQ(screen->title(), "撤单");
+    EXPECT_EQ(screen->rows()->at(1).side, "卖出");
+    screen->withdrawalsBtnDidClick(0);
+    runLoop.advance(499ms);
+    screen->withdrawalsBtnDidClick(1);
+    screen->withdrawalsBtnDidClick(2);
+    runLoop.advance(10s);
+    EXPECT_EQ(http.countOf(cancelPath), 1);
+    EXPECT_EQ(http.pending(cancelPath).fields(), (QVariantMap{{"tradeEntrustNo", "E12"}}));
+}
+
+TEST_F(WithdrawalsTest, ACancellationIsAskedForUntilItIsConfirmed)
+{
+    cancel(0);
+    http.answer(cancelPath, succeeded());
+    EXPECT_TRUE(overlays.isWaiting());
+    for (int asked = 1; asked <= 1200; ++asked) {
+        ASSERT_EQ(http.countOf(statusPath), asked);
+        EXPECT_EQ(http.pending(statusPath).fields(), (QVariantMap{{"id", "11"}}));
+        http.answer(statusPath, succeeded(asked % 2 ? QVariant(false) : QVariant()));
+        runLoop.advance(3s);
+    }
+    EXPECT_TRUE(overlays.isWaiting());
+    http.answer(statusPath, succeeded(true));
+    list({});
+    EXPECT_FALSE(overlays.isWaiting());
+    EXPECT_TRUE(screen->noData());
+    const int asked = http.countOf(statusPath);
+    runLoop.advance(1min);
+    EXPECT_EQ(http.countOf(statusPath), asked);
+}
+
+TEST_F(WithdrawalsTest, ASecondCancellationIsWatchedInPlaceOfTheFirst)
+{
+    cancel(0);
+    http.answer(cancelPath, succeeded());
+    FakeTransport::Sent &ofTheFirst = http.pending(statusPath);
+    runLoop.advance(1s);
+    cancel(1);
+    http.answer(cancelPath, succeeded());
+    EXPECT_EQ(screen->orderId(), "12");
+    const int asked = http.countOf(statusPath);
+    http.answer(ofTheFirst, succeeded(true));
+    runLoop.advance(1500ms);
+    EXPECT_EQ(http.countOf(statusPath), asked + 1);
+    EXPECT_EQ(http.last().fields().value("id"), "12");
+}
+
+TEST_F(WithdrawalsTest, ARefusedCancellationIsNotWatched)
+{
+    cancel(0);
+    http.answer(cancelPath, refused("该委托已成交"));
+    EXPECT_EQ(banners(), QStringList{"该委托已成交"});
+    runLoop.advance(1min);
+    EXPECT_EQ(http.countOf(statusPath), 0);
+    EXPECT_FALSE(overlays.isWaiting());
+}
+
+TEST_F(WithdrawalsTest, AnEntrustWithoutIdentifierLeavesNoIndicatorBehind)
+{
+    screen->beginRefreshing();
+    list({entrust("", "E13")});
+    cancel(0);
+    http.answer(cancelPath, succeeded());
+    list({});
+    EXPECT_FALSE(overlays.isWaiting());
+    EXPECT_EQ(http.countOf(statusPath), 0);
+}
+
+TEST_F(WithdrawalsTest, LeavingEndsTheWatch)
+{
+    cancel(0);
+    http.answer(cancelPath, succeeded());
+    window.present(std::make_unique<KRBaseController>());
+    const int asked = http.countOf(statusPath);
+    runLoop.advance(1min);
+    EXPECT_EQ(http.countOf(statusPath), asked);
+    EXPECT_FALSE(overlays.isWaiting());
+}
+
+class TodayTest : public TradingFixture {
+protected:
+    TodayTest() { screen = push<TZDealAndEntrustController>(); }
+    QVariantList models(int count)
+    {
+        QVariantList all;
+        for (int i = 0; i < count; ++i)
+            all.append(entrust(QString::number(i), "E"));
+        return all;
+    }
+    static inline const QString entrustsPath = QStringLiteral("entrustsToday");
+    static inline const QString dealsPath = QStringLiteral("detailsToday");
+    TZDealAndEntrustController *screen = nullptr;
+};
+
+TEST_F(TodayTest, TheDealsAreReadOnTheFirstSwitchOnly)
+{
+    EXPECT_EQ(http.pending(entrustsPath).fields(), QVariantMap());
+    http.answer(entrustsPath, succeeded(models(2)));
+    EXPECT_EQ(screen->entrustArr().size(), 2);
+    EXPECT_EQ(http.countOf(dealsPath), 0);
+    screen->titleBtnClick(10001);
+    EXPECT_EQ(http.pending(dealsPath).fields(), (QVariantMap{{"page", "0"}}));
+    http.answer(dealsPath, succeeded(QVariantList()));
+    EXPECT_TRUE(screen->dealTableView()->noData());
+    EXPECT_FALSE(screen->entrustTableView()->noData());
+    screen->showPage(0);
+    screen->showPage(1);
+    EXPECT_EQ(http.countOf(dealsPath), 1);
+    EXPECT_EQ(http.countOf(entrustsPath), 1);
+}
+
+TEST_F(TodayTest, FurtherPagesAreAppendedAndARefreshBeginsAnew)
+{
+    TodayList *const list = screen->entrustTableView();
+    http.answer(entrustsPath, succeeded(models(20)));
+    list->beginLoadingMore();
+    EXPECT_EQ(screen->currentEntructPage(), 1);
+    EXPECT_EQ(http.pending(entrustsPath).fields(), (QVariantMap{{"page", "1"}}));
+    http.answer(entrustsPath, succeeded(models(3)));
+    EXPECT_EQ(screen->entrustArr().size(), 23);
+    EXPECT_FALSE(list->loadingMore());
+
+    list->beginLoadingMore();
+    http.fail(entrustsPath, HttpFailure::TimedOut);
+    list->beginLoadingMore();
+    EXPECT_EQ(http.pending(entrustsPath).fields(), (QVariantMap{{"page", "2"}}));
+    FakeTransport::Sent &stale = http.last();
+    list->beginRefreshing();
+    http.answer(entrustsPath, succeeded(models(1)));
+    http.answer(stale, succeeded(models(5)));
+    EXPECT_EQ(screen->entrustArr().size(), 1);
+    EXPECT_EQ(screen->currentEntructPage(), 0);
+}
+
+TEST_F(TodayTest, TheGuardEndsTheSpinnersOfBothLists)
+{
+    screen->showPage(1);
+    EXPECT_TRUE(screen->entrustTableView()->refreshing());
+    EXPECT_TRUE(screen->dealTableView()->refreshing());
+    runLoop.advance(15s);
+    EXPECT_FALSE(screen->entrustTableView()->refreshing());
+    EXPECT_FALSE(screen->dealTableView()->refreshing());
+}
+
+TEST_F(TodayTest, ATappedRowPresentsItsDetailWhichItsItemCloses)
+{
+    http.answer(entrustsPath, succeeded(models(1)));
+    screen->selectEntrust(1);
+    EXPECT_EQ(window.presented()->count(), 0);
+    screen->selectEntrust(0);
+    ASSERT_EQ(window.presented()->count(), 1);
+    auto *const detail = top<TZDealDetailController>();
+    EXPECT_EQ(detail->title(), "委托详情");
+    EXPECT_EQ(detail->rows()->at(0).value, "海天传媒");
+    detail->leftItemClick();
+    EXPECT_EQ(window.presented()->count(), 0);
+
+    screen->showPage(1);
+    http.answer(dealsPath, succeeded(models(1)));
+    screen->selectDeal(0);
+    EXPECT_EQ(top<TZDealDetailController>()->title(), "成交详情");
+}
+
+TEST_F(TodayTest, StatesHaveTheirColours)
+{
+    QVariantList all;
+    for (int status = 0; status < 11; ++status) {
+        QVariantMap each = entrust("1", "E");
+        each.insert("status", status);
+        all.append(each);
+    }
+    http.answer(entrustsPath, succeeded(all));
+    const auto *const rows = static_cast<RowListModel<TodayRow> *>(screen->entrustTableView()->rows());
+    QStringList seen;
+    for (const TodayRow &row : rows->rows())
+        seen.append(row.result + (row.dealt ? "!" : row.waiting ? "?" : ""));
+    EXPECT_EQ(seen, (QStringList{"委托中?", "委托中?", "委托中?", "撤单中", "撤单中", "已撤单", "已撤单",
+                                 "部分成交!", "已成交!", "废单", ""}));
+}
+
+TEST_F(TradingFixture, TheTitleDecidesWhichRowsAreShown)
+{
+    TZDetailsTodayModel deal;
+    deal.stockName = QStringLiteral("海天传媒");
+    deal.stockCode = QStringLiteral("600001");
+    deal.type = QStringLiteral("1");
+    deal.entrustPrice = QStringLiteral("10.00");
+    deal.businessPrice = QStringLiteral("9.99");
+    deal.businessShares = QStringLiteral("300");
+    deal.businessMoney = QStringLiteral("2997.00");
+    deal.updatedAt = QStringLiteral("not a stamp");
+    deal.exchangeType = QStringLiteral("上海");
+    TZEntrustsTodayModel entrusted;
+    entrusted.stockName = QStringLiteral("东方钢铁");
+    entrusted.type = QStringLiteral("2");
+    entrusted.status = QStringLiteral("7");
+    entrusted.entrustShares = QStringLiteral("500");
+    entrusted.createdAt = QString::number(QDateTime(QDate(2026, 11, 21), QTime(9, 5)).toMSecsSinceEpoch());
+
+    TZDealDetailController detail(QStringLiteral("成交详情"));
+    detail.setDetailsTodayModel(deal);
+    detail.setEntrustsTodayModel(entrusted);
+    EXPECT_EQ(linesOf(detail), (QStringList{"证券名称 海天传媒", "证券代码 600001", "委托类型 买入",
+                                            "委托价格 10.00", "成交价格 9.99", "成交数量 300",
+                                            "成交总额 2997.00", "成交时间 not a stamp", "市场类别 上海"}));
+    for (const QString title : {"委托详情", "别的"}) {
+        detail.setTitle(title);
+        EXPECT_EQ(linesOf(detail),
+                  (QStringList{"证券名称 东方钢铁", "证券代码 ", "委托类型 卖出", "委托价格 ", "委托数量 500",
+                               "委托时间 2026-11-21 09:05", "当前状态 部分成交"}));
+        EXPECT_TRUE(detail.rows()->at(2).isSell);
+    }
+}
+
+TEST_F(TradingFixture, EveryTypeButOneIsASale)
+{
+    for (const QString type : {"2", "", "buy", "0", "-1", "一"}) {
+        TZDetailsTodayModel deal;
+        deal.type = type;
+        TZDealDetailController detail(TZDealDetailController::dealTitle);
+        detail.setDetailsTodayModel(deal);
+        EXPECT_EQ(detail.rows()->at(2).value, "卖出") << qPrintable(type);
+    }
+}
