@@ -12,7 +12,7 @@ Window {
     height: 844
     minimumWidth: 360
     minimumHeight: 480
-    visible: true
+    visible: main.window.visible
     color: Theme.menuBackground
     title: "Zorvane"
 

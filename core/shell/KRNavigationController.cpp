@@ -121,6 +121,8 @@ void KRNavigationController::tellScreens()
             next->viewDidAppear();
     }
     telling = false;
+    if (hostWindow)
+        hostWindow->updateVisibility();
 }
 
 void KRNavigationController::dismiss()

@@ -43,6 +43,8 @@ public:
     void attach(KRWindow *window);
     void setVisible(bool visible);
     bool isVisible() const { return visible; }
+    /// Whether a move is being told; what covers the stack meanwhile waits for its end.
+    bool isTelling() const { return telling; }
     /// Takes this stack off the window when it is presented on it.
     void dismiss();
 

@@ -77,7 +77,8 @@ public:
     /// Takes the focus from the field being edited and closes the keyboard.
     void endEditing() { Q_EMIT editingEnded(); }
 
-    /// Brings to light what is in front now. Called by the side menu when its content changes.
+    /// Brings to light what is in front now. Called by the side menu when its content changes and by a stack when it has
+    /// told its screens of a move.
     void updateVisibility();
 
 Q_SIGNALS:

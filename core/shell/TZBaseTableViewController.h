@@ -22,6 +22,7 @@ public:
     Q_INVOKABLE void beginLoadingMore();
 
     void viewDidLoad() override;
+    void viewWillDisappear() override;
     void viewDidDisappear() override;
     ~TZBaseTableViewController() override;
 
@@ -33,7 +34,6 @@ Q_SIGNALS:
 protected:
     virtual void refreshData() {}
     virtual void loadMoreData() {}
-    void viewWillDisappear() override;
     /// Ends both spinners.
     void endRefreshing();
     /// Ends what is still running then, so that a lost answer never leaves a spinner on.

@@ -1,0 +1,332 @@
+#include "core/shell/KRDialog.h"
+#include "core/shell/KRNavigationController.h"
+#include "core/shell/KRSideMenu.h"
+#include "core/shell/KRWindow.h"
+#include "core/util/Service.h"
+#include "tests/shell/RecordingScreen.h"
+#include "tests/support/TestPlatform.h"
+
+#include <QPointer>
+
+namespace {
+class EmptyDialog : public KRDialog {
+public:
+    QString view() const override { return QStringLiteral("EmptyDialog"); }
+    void cancel() override { removeFromWindow(); }
+};
+} // namespace
+
+/// A window whose frame holds a stack with the root "home".
+class NavigationTest : public PlatformTest {
+protected:
+    NavigationTest()
+    {
+        window.setRoot(std::make_unique<KRSideMenu>(stackOf("home"), screen("menu")));
+        log.clear();
+    }
+
+    std::unique_ptr<RecordingScreen> screen(const char *name)
+    {
+        return std::make_unique<RecordingScreen>(QString::fromUtf8(name), log);
+    }
+
+    std::unique_ptr<KRNavigationController> stackOf(const char *root)
+    {
+        return std::make_unique<KRNavigationController>(screen(root));
+    }
+
+    RecordingScreen *push(const char *name, KRNavigationController *stack = nullptr)
+    {
+        auto pushed = screen(name);
+        RecordingScreen *const added = pushed.get();
+        (stack ? stack : content())->push(std::move(pushed));
+        return added;
+    }
+
+    KRNavigationController *content() const { return window.sideMenu()->content(); }
+
+    /// What was told since the last call, one line each.
+    std::string told()
+    {
+        settle();
+        return std::exchange(log, {}).join(u'\n').toStdString();
+    }
+
+    QStringList log;
+    KRWindow window;
+};
+
+TEST_F(NavigationTest, TheFrameLoadsItsMenuAndItsContentAndShowsTheContent)
+{
+    KRWindow fresh;
+    fresh.setRoot(std::make_unique<KRSideMenu>(stackOf("first"), screen("panel")));
+    EXPECT_EQ(told(), "panel load\nfirst load\nfirst willAppear\nfirst didAppear");
+}
+
+TEST_F(NavigationTest, AScreenKnowsItsWindowWhenItIsLoaded)
+{
+    auto root = screen("account");
+    RecordingScreen *const account = root.get();
+    KRWindow *known = nullptr;
+    account->on(QStringLiteral("load"), [&] { known = account->window(); });
+    window.sideMenu()->setContent(std::make_unique<KRNavigationController>(std::move(root)));
+    EXPECT_EQ(known, &window);
+}
+
+TEST_F(NavigationTest, PushAndPopTellBothScreensInTurn)
+{
+    push("detail");
+    EXPECT_EQ(told(), "detail load\nhome willDisappear\ndetail willAppear\nhome didDisappear\ndetail didAppear");
+    content()->pop();
+    EXPECT_EQ(told(), "detail willDisappear\nhome willAppear\ndetail didDisappear\nhome didAppear\ndetail gone");
+    content()->pop();
+    EXPECT_EQ(told(), "") << "the root stays";
+}
+
+TEST_F(NavigationTest, PoppingOverSeveralTellsNothingToThoseBetween)
+{
+    push("a");
+    push("b");
+    push("c");
+    told();
+    content()->popToRoot();
+    EXPECT_EQ(told(), "c willDisappear\nhome willAppear\nc didDisappear\nhome didAppear\nc gone\nb gone\na gone");
+    content()->popToRoot();
+    EXPECT_EQ(told(), "");
+}
+
+TEST_F(NavigationTest, PoppingToAScreenOfAnotherStackDoesNothing)
+{
+    push("a");
+    RecordingScreen stranger(QStringLiteral("stranger"), log);
+    told();
+    content()->popTo(&stranger);
+    EXPECT_EQ(content()->depth(), 2);
+    EXPECT_EQ(told(), "");
+}
+
+TEST_F(NavigationTest, APoppedScreenLivesUntilItsViewIsGone)
+{
+    content()->setProperty("animated", true);
+    const QPointer<KRBaseController> detail = push("detail");
+    told();
+    content()->pop();
+    EXPECT_EQ(content()->depth(), 1);
+    EXPECT_EQ(content()->rowCount(), 2) << "its row is drawn leaving";
+    EXPECT_EQ(told(), "detail willDisappear\nhome willAppear\ndetail didDisappear\nhome didAppear");
+    ASSERT_TRUE(detail);
+
+    detail->backButtonClicked();
+    content()->transitionFinished(detail);
+    EXPECT_EQ(told(), "detail gone") << "a second tap on the leaving bar pops nothing else";
+    EXPECT_EQ(content()->rowCount(), 1);
+}
+
+TEST_F(NavigationTest, ASecondTapOnALeavingBackButtonDoesNotPopTheScreenBelow)
+{
+    content()->setProperty("animated", true);
+    push("list");
+    RecordingScreen *const detail = push("detail");
+    detail->backButtonClicked();
+    detail->backButtonClicked();
+    detail->leftItemClick();
+    EXPECT_EQ(content()->depth(), 2);
+}
+
+TEST_F(NavigationTest, WhatIsPushedWhileAnotherIsLeavingStandsOverIt)
+{
+    content()->setProperty("animated", true);
+    RecordingScreen *const left = push("left");
+    content()->pop();
+    RecordingScreen *const right = push("right");
+    EXPECT_EQ(content()->top(), right);
+    EXPECT_EQ(content()->rowCount(), 3);
+    content()->transitionFinished(left);
+    content()->transitionFinished(right);
+    EXPECT_EQ(content()->rowCount(), 2) << "a transition that ended without a pop removes nothing";
+}
+
+TEST_F(NavigationTest, LeavingScreensOfAStackThatIsCoveredGoAtOnce)
+{
+    content()->setProperty("animated", true);
+    push("detail");
+    content()->pop();
+    told();
+    KRNavigationController *const modal = window.present(screen("modal"));
+    EXPECT_EQ(content()->rowCount(), 1);
+
+    push("below");
+    content()->pop();
+    EXPECT_EQ(content()->rowCount(), 1) << "nobody sees it leave";
+    told();
+    window.dismiss(modal);
+    EXPECT_EQ(told(), "modal willDisappear\nmodal didDisappear\nhome willAppear\nhome didAppear\nmodal gone");
+}
+
+TEST_F(NavigationTest, PresentingCoversAndDismissingUncovers)
+{
+    KRNavigationController *const modal = window.present(screen("modal"));
+    EXPECT_EQ(told(), "modal load\nhome willDisappear\nhome didDisappear\nmodal willAppear\nmodal didAppear");
+    modal->dismiss();
+    modal->dismiss();
+    EXPECT_EQ(told(), "modal willDisappear\nmodal didDisappear\nhome willAppear\nhome didAppear\nmodal gone");
+    content()->dismiss();
+    EXPECT_EQ(told(), "") << "content is not presented";
+}
+
+TEST_F(NavigationTest, WhatHappensUnderASignInAppearsOnceWhenItIsGone)
+{
+    KRNavigationController *const signIn = window.present(screen("entry"));
+    push("code", signIn);
+    told();
+
+    push("trading");
+    EXPECT_EQ(told(), "trading load");
+    window.dismiss(signIn);
+    EXPECT_EQ(told(), "code willDisappear\ncode didDisappear\ntrading willAppear\ntrading didAppear\nentry gone\ncode gone");
+}
+
+TEST_F(NavigationTest, ContentChangedUnderASignInAppearsOnceWhenItIsGone)
+{
+    KRNavigationController *const signIn = window.present(screen("entry"));
+    told();
+    window.sideMenu()->setContent(stackOf("account"));
+    EXPECT_EQ(told(), "account load\nhome gone");
+    window.dismiss(signIn);
+    EXPECT_EQ(told(), "entry willDisappear\nentry didDisappear\naccount willAppear\naccount didAppear\nentry gone");
+}
+
+TEST_F(NavigationTest, DismissingFromBelowLeavesWhatIsOnTop)
+{
+    KRNavigationController *const lower = window.present(screen("lower"));
+    KRNavigationController *const upper = window.present(screen("upper"));
+    told();
+    window.dismiss(lower);
+    EXPECT_EQ(told(), "lower gone");
+    EXPECT_EQ(window.topStack(), upper);
+    window.dismiss(upper);
+    EXPECT_EQ(told(), "upper willDisappear\nupper didDisappear\nhome willAppear\nhome didAppear\nupper gone");
+}
+
+TEST_F(NavigationTest, PresentingWhileAnotherIsBeingDismissedShowsOnlyTheNewOne)
+{
+    auto first = screen("first");
+    first->on(QStringLiteral("willDisappear"), [this] { window.present(screen("second")); });
+    KRNavigationController *const stack = window.present(std::move(first));
+    told();
+    window.dismiss(stack);
+    EXPECT_EQ(told(),
+              "first willDisappear\nsecond load\nfirst didDisappear\nsecond willAppear\nsecond didAppear\nfirst gone");
+    EXPECT_EQ(window.presented()->count(), 1);
+}
+
+TEST_F(NavigationTest, AScreenThatLeavesWhileItAppearsIsToldToTheEnd)
+{
+    auto fleeting = screen("fleeting");
+    fleeting->on(QStringLiteral("willAppear"), [this] { content()->pop(); });
+    content()->push(std::move(fleeting));
+    EXPECT_EQ(told(), "fleeting load\nhome willDisappear\nfleeting willAppear\nhome didDisappear\nfleeting didAppear\n"
+                      "fleeting willDisappear\nhome willAppear\nfleeting didDisappear\nhome didAppear\nfleeting gone");
+}
+
+TEST_F(NavigationTest, AScreenMayAskForASignInWhileItAppears)
+{
+    auto guarded = screen("guarded");
+    guarded->on(QStringLiteral("didAppear"), [this] { window.present(screen("entry")); });
+    content()->push(std::move(guarded));
+    EXPECT_EQ(told(), "guarded load\nhome willDisappear\nguarded willAppear\nhome didDisappear\nguarded didAppear\n"
+                      "entry load\nguarded willDisappear\nguarded didDisappear\nentry willAppear\nentry didAppear");
+}
+
+TEST_F(NavigationTest, AContentThatPresentsWhileItLoadsIsCoveredByIt)
+{
+    auto commissions = screen("commissions");
+    commissions->on(QStringLiteral("load"), [this] { window.present(screen("rules")); });
+    window.sideMenu()->setContent(std::make_unique<KRNavigationController>(std::move(commissions)));
+    EXPECT_EQ(told(), "commissions load\nrules load\nhome willDisappear\nhome didDisappear\nrules willAppear\n"
+                      "rules didAppear\nhome gone");
+}
+
+TEST_F(NavigationTest, ANewRootTakesEverythingOfTheOldOneAway)
+{
+    push("more");
+    window.present(screen("modal"));
+    told();
+    window.setRoot(std::make_unique<KRSideMenu>(stackOf("home2"), screen("menu2")));
+    EXPECT_EQ(told(), "menu2 load\nhome2 load\nmodal willDisappear\nmodal didDisappear\nhome2 willAppear\n"
+                      "home2 didAppear\nmodal gone\nhome gone\nmore gone\nmenu gone");
+    EXPECT_EQ(window.presented()->count(), 0);
+}
+
+TEST_F(NavigationTest, TheGuideAppearsIsCoveredAndGoes)
+{
+    KRWindow fresh;
+    fresh.setRoot(screen("guide"));
+    EXPECT_EQ(told(), "guide load\nguide willAppear\nguide didAppear");
+    KRNavigationController *const pushed = fresh.present(screen("message"));
+    EXPECT_EQ(told(), "message load\nguide willDisappear\nguide didDisappear\nmessage willAppear\nmessage didAppear");
+    fresh.dismiss(pushed);
+    told();
+    fresh.setRoot(std::make_unique<KRSideMenu>(stackOf("first"), screen("panel")));
+    EXPECT_EQ(told(), "panel load\nfirst load\nguide willDisappear\nguide didDisappear\nfirst willAppear\n"
+                      "first didAppear\nguide gone");
+}
+
+TEST_F(NavigationTest, ADialogStaysWhileThingsChangeBelowItAndCoversNobody)
+{
+    auto shown = std::make_unique<EmptyDialog>();
+    const QPointer<KRDialog> dialog = shown.get();
+    window.show(std::move(shown));
+    EXPECT_EQ(told(), "") << "a dialog is no screen";
+    KRNavigationController *const modal = window.present(screen("modal"));
+    window.dismiss(modal);
+    push("detail");
+    content()->popToRoot();
+    ASSERT_TRUE(dialog);
+    EXPECT_EQ(window.dialogs()->count(), 1);
+    dialog->cancel();
+    EXPECT_EQ(window.dialogs()->count(), 0);
+    settle();
+    EXPECT_FALSE(dialog);
+}
+
+TEST_F(NavigationTest, OpeningTheMenuEndsEditingAndLeavesTheContentOnScreen)
+{
+    int ended = 0;
+    QObject::connect(&window, &KRWindow::editingEnded, [&ended] { ++ended; });
+    window.sideMenu()->presentLeftMenu();
+    window.sideMenu()->presentLeftMenu();
+    EXPECT_TRUE(window.sideMenu()->isOpen());
+    EXPECT_EQ(ended, 1);
+    window.sideMenu()->hideMenu();
+    EXPECT_FALSE(window.sideMenu()->isOpen());
+    EXPECT_EQ(told(), "");
+}
+
+TEST_F(NavigationTest, DraggingAListEndsEditing)
+{
+    int ended = 0;
+    QObject::connect(&window, &KRWindow::editingEnded, [&ended] { ++ended; });
+    push("list")->scrollViewWillBeginDragging();
+    EXPECT_EQ(ended, 1);
+}
+
+TEST_F(NavigationTest, LeavingAScreenTakesItsBannersAndTheIndicatorAway)
+{
+    push("detail");
+    kits.calls.clear();
+    Service::showErrorWithMsg(QStringLiteral("余额不足"));
+    Service::showWaitingProgressView();
+    content()->pop();
+    EXPECT_EQ(banners(), QStringList());
+    EXPECT_FALSE(overlays.isWaiting());
+    EXPECT_EQ(kits.calls, (QStringList{QStringLiteral("endLogPageView PageOne"), QStringLiteral("beginLogPageView PageOne")}));
+}
+
+TEST_F(NavigationTest, ASwipeBackIsAllowedUntilAScreenForbidsIt)
+{
+    RecordingScreen *const detail = push("detail");
+    EXPECT_TRUE(detail->isNeedGesture());
+    detail->setIsNeedGesture(false);
+    EXPECT_FALSE(detail->isNeedGesture());
+}

@@ -1,0 +1,224 @@
+#include "core/shell/KRNavigationController.h"
+#include "core/shell/KRWindow.h"
+#include "core/shell/MVNoNetView.h"
+#include "core/shell/TZBaseTableViewController.h"
+#include "core/shell/TZInfoAlertView.h"
+#include "core/util/Service.h"
+#include "tests/support/TestPlatform.h"
+
+#include <QPointer>
+
+using namespace std::chrono_literals;
+
+class OverlayTest : public PlatformTest {
+protected:
+    /// The banners as "text" or, once they fade, "(text)".
+    QString shown()
+    {
+        QStringList texts;
+        for (const MVNoticeView &banner : overlays.banners()->rows())
+            texts << (banner.fading ? QStringLiteral("(%1)") : QStringLiteral("%1")).arg(banner.content);
+        return texts.join(u' ');
+    }
+
+    const QString first = QStringLiteral("一");
+    const QString second = QStringLiteral("二");
+};
+
+TEST_F(OverlayTest, AnErrorIsShownAtOnceFadesAfterTwoSecondsAndIsGoneHalfASecondLater)
+{
+    Service::showErrorWithMsg(first);
+    EXPECT_EQ(shown(), first);
+    EXPECT_FALSE(overlays.banners()->at(0).success);
+    runLoop.advance(1999ms);
+    EXPECT_EQ(shown(), first);
+    runLoop.advance(1ms);
+    EXPECT_EQ(shown(), QStringLiteral("(一)"));
+    runLoop.advance(499ms);
+    EXPECT_EQ(shown(), QStringLiteral("(一)"));
+    runLoop.advance(1ms);
+    EXPECT_EQ(shown(), QString());
+    EXPECT_EQ(runLoop.activeTimers(), 0);
+}
+
+TEST_F(OverlayTest, ASuccessIsShownHalfASecondLaterAndLastsAsLong)
+{
+    Service::showSuccessWithMsg(first);
+    runLoop.advance(499ms);
+    EXPECT_EQ(shown(), QString());
+    runLoop.advance(1ms);
+    EXPECT_EQ(shown(), first);
+    EXPECT_TRUE(overlays.banners()->at(0).success);
+    runLoop.advance(2s);
+    EXPECT_EQ(shown(), QStringLiteral("(一)"));
+    runLoop.advance(500ms);
+    EXPECT_EQ(shown(), QString());
+}
+
+TEST_F(OverlayTest, ANewErrorReplacesTheOldOneAndHasItsFullTime)
+{
+    Service::showErrorWithMsg(first);
+    runLoop.advance(1900ms);
+    Service::showErrorWithMsg(second);
+    EXPECT_EQ(shown(), second);
+    runLoop.advance(1999ms);
+    EXPECT_EQ(shown(), second);
+}
+
+TEST_F(OverlayTest, SeveralPendingSuccessesEachComeAndGoAtTheirTime)
+{
+    Service::showSuccessWithMsg(first);
+    runLoop.advance(200ms);
+    Service::showSuccessWithMsg(second);
+    runLoop.advance(300ms);
+    EXPECT_EQ(shown(), first);
+    runLoop.advance(200ms);
+    EXPECT_EQ(shown(), QStringLiteral("一 二"));
+    runLoop.advance(1800ms);
+    EXPECT_EQ(shown(), QStringLiteral("(一) 二"));
+    runLoop.advance(500ms);
+    EXPECT_EQ(shown(), QStringLiteral("(二)"));
+    runLoop.advance(200ms);
+    EXPECT_EQ(shown(), QString());
+}
+
+TEST_F(OverlayTest, HidingTakesWhatIsShownAndLeavesWhatIsPending)
+{
+    Service::showSuccessWithMsg(second);
+    overlays.showBanner(BannerKind::Error, first);
+    Service::hideAlertView();
+    EXPECT_EQ(shown(), QString());
+    runLoop.advance(500ms);
+    EXPECT_EQ(shown(), second);
+}
+
+TEST_F(OverlayTest, OneBannerLeavingDoesNotRedrawTheOther)
+{
+    Service::showSuccessWithMsg(first);
+    runLoop.advance(100ms);
+    Service::showSuccessWithMsg(second);
+    int resets = 0;
+    QObject::connect(overlays.banners(), &QAbstractItemModel::modelReset, [&resets] { ++resets; });
+    runLoop.advance(2950ms);
+    EXPECT_EQ(shown(), QStringLiteral("(二)"));
+    EXPECT_EQ(resets, 0);
+}
+
+TEST_F(OverlayTest, ThereIsOneWaitingIndicatorHoweverOftenItIsAskedFor)
+{
+    int changes = 0;
+    QObject::connect(&overlays, &OverlayHost::waitingChanged, [&changes] { ++changes; });
+    Service::hideWaitingProgressView();
+    EXPECT_EQ(changes, 0) << "nothing to hide";
+    Service::showWaitingProgressView();
+    Service::showWaitingProgressView();
+    EXPECT_EQ(overlays.waitingStatus(), QStringLiteral("加载中..."));
+    Service::hideWaitingProgressView();
+    EXPECT_FALSE(overlays.isWaiting());
+}
+
+TEST_F(OverlayTest, AnAlertsButtonRunsItsActionOnceAfterTheAlertIsGone)
+{
+    KRWindow window;
+    QObject owner;
+    int rights = 0;
+    int standing = -1;
+    auto alert = std::make_unique<TZInfoAlertView>(
+        TZInfoAlertViewModel{QStringLiteral("提示"), QStringLiteral("确定？"), QStringLiteral("取消"), QStringLiteral("确定")},
+        OwnedAction(), OwnedAction{&owner, [&] {
+                                       ++rights;
+                                       standing = window.dialogs()->count();
+                                   }});
+    TZInfoAlertView *const shownAlert = alert.get();
+    window.show(std::move(alert));
+    shownAlert->rightBtnClick();
+    shownAlert->rightBtnClick();
+    shownAlert->leftBtnClick();
+    EXPECT_EQ(rights, 1);
+    EXPECT_EQ(standing, 0);
+}
+
+TEST_F(OverlayTest, AnAlertWhoseScreenIsGoneDoesNothingButClose)
+{
+    KRWindow window;
+    auto owner = std::make_unique<QObject>();
+    int calls = 0;
+    auto alert = std::make_unique<TZInfoAlertView>(TZInfoAlertViewModel{}, OwnedAction(),
+                                                   OwnedAction{owner.get(), [&calls] { ++calls; }});
+    TZInfoAlertView *const shownAlert = alert.get();
+    window.show(std::move(alert));
+    owner.reset();
+    shownAlert->rightBtnClick();
+    EXPECT_EQ(calls, 0);
+    EXPECT_EQ(window.dialogs()->count(), 0);
+}
+
+namespace {
+class Reloading : public QObject, public MVNoNetViewDelegate {
+public:
+    void reloadData() override { ++reloads; }
+    int reloads = 0;
+};
+
+class ListScreen : public TZBaseTableViewController {
+public:
+    void refreshData() override
+    {
+        ++refreshes;
+        endRefreshingAfter(15s);
+    }
+    void loadMoreData() override { ++loads; }
+    using TZBaseTableViewController::endRefreshing;
+    int refreshes = 0;
+    int loads = 0;
+};
+} // namespace
+
+TEST_F(OverlayTest, TheReloadButtonCallsOnlyADelegateThatCanReload)
+{
+    Reloading fitting;
+    MVNoNetView(fitting).clickReloadBtn();
+    EXPECT_EQ(fitting.reloads, 1);
+    QObject unfitting;
+    MVNoNetView(unfitting).clickReloadBtn();
+}
+
+TEST_F(OverlayTest, ARefreshWithoutAnAnswerEndsAfterFifteenSeconds)
+{
+    ListScreen list;
+    list.beginRefreshing();
+    list.beginRefreshing();
+    list.beginLoadingMore();
+    EXPECT_EQ(list.refreshes, 1);
+    EXPECT_EQ(list.loads, 0) << "not while refreshing";
+    runLoop.advance(14999ms);
+    EXPECT_TRUE(list.refreshing());
+    runLoop.advance(1ms);
+    EXPECT_FALSE(list.refreshing());
+    list.beginRefreshing();
+    list.endRefreshing();
+    EXPECT_EQ(runLoop.activeTimers(), 0) << "an answer ends the guard too";
+    list.beginLoadingMore();
+    EXPECT_EQ(list.loads, 1);
+}
+
+TEST_F(OverlayTest, AListScreenHidesTheIndicatorWhenItHasDisappearedAndWhenItIsDestroyed)
+{
+    KRWindow window;
+    auto root = std::make_unique<ListScreen>();
+    ListScreen *const list = root.get();
+    int ended = 0;
+    QObject::connect(&window, &KRWindow::editingEnded, [&ended] { ++ended; });
+    KRNavigationController *const stack = window.present(std::move(root));
+    Service::showErrorWithMsg(first);
+    list->viewWillDisappear();
+    EXPECT_EQ(ended, 1);
+    EXPECT_EQ(shown(), QString());
+    Service::showWaitingProgressView();
+    list->viewDidDisappear();
+    EXPECT_FALSE(overlays.isWaiting());
+    stack->dismiss();
+    Service::showWaitingProgressView();
+    settle();
+    EXPECT_FALSE(overlays.isWaiting());
+}

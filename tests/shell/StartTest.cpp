@@ -1,0 +1,275 @@
+#include "core/session/NotificationNames.h"
+#include "core/session/SettingsKeys.h"
+#include "core/shell/AppDelegate.h"
+#include "core/shell/KRWindow.h"
+#include "core/util/Service.h"
+#include "tests/support/RecordingRouter.h"
+#include "tests/support/TestPlatform.h"
+
+namespace {
+QVariantMap message(const QVariant &pageId, const QVariant &data)
+{
+    return {{QStringLiteral("pageId"), pageId}, {QStringLiteral("data"), data}};
+}
+
+const QVariantMap fields{{QStringLiteral("id"), QStringLiteral("7")}, {QStringLiteral("title"), QStringLiteral("通知")}};
+} // namespace
+
+/// The whole start-up as one list of calls: the kits', the router's, the settings' and the network's.
+class StartTest : public PlatformTest {
+protected:
+    StartTest()
+    {
+        application.version = QStringLiteral("100");
+        settings.values.insert(SettingsKeys::bundleVersion, QStringLiteral("100"));
+        QObject::connect(&window, &KRWindow::visibleChanged, [this] { kits.calls << QStringLiteral("window visible"); });
+        QObject::connect(&window, &KRWindow::rootChanged, [this] { kits.calls << QStringLiteral("guide"); });
+        QObject::connect(&notifications, &NotificationCenter::posted, [this](const QString &name) {
+            kits.calls << QStringLiteral("post ") + name;
+            needTradePwdAtPost = settings.values.contains(SettingsKeys::needTradePwd);
+        });
+    }
+
+    void start(const QVariantMap &options = {}) { shell.didFinishLaunchingWithOptions(options); }
+
+    QString calls()
+    {
+        QStringList lines = std::exchange(kits.calls, {});
+        for (QString &line : lines)
+            line = line.trimmed();
+        return lines.join(u'\n');
+    }
+
+    KRWindow window;
+    RecordingRouter router;
+    bool needTradePwdAtPost = false;
+    AppDelegate shell{window, router, [this] { kits.calls << QStringLiteral("stock table refresh"); }};
+};
+
+TEST_F(StartTest, StartUpFollowsItsOrder)
+{
+    signIn();
+    start();
+    EXPECT_EQ(calls().toStdString(), "window visible\n"
+                                     "startKit\n"
+                                     "startKit\n"
+                                     "startAnalytics  1\n"
+                                     "checkUpdate\n"
+                                     "hideTargetsNotInstalled\n"
+                                     "registerTarget WeChat\n"
+                                     "registerTarget QQ\n"
+                                     "registerTarget Weibo\n"
+                                     "stock table refresh\n"
+                                     "startPush\n"
+                                     "registerForTypes 7\n"
+                                     "setLogEnabled 1\n"
+                                     "setAlias t0ken api_token");
+    EXPECT_EQ(router.calls, QStringList{QStringLiteral("setupSideMenuController")});
+    EXPECT_EQ(settings.values.value(SettingsKeys::needTradePwd), true);
+    EXPECT_EQ(settings.values.value(SettingsKeys::networkStatus), true);
+    EXPECT_GT(settings.flushes, 0);
+    EXPECT_TRUE(shell.isReachable);
+}
+
+TEST_F(StartTest, TheTwoPushActionsAreOfferedFromSystemEightOn)
+{
+    application.system = 8.0;
+    start();
+    ASSERT_EQ(kits.categories.size(), 1);
+    const PushCategory &category = kits.categories.first();
+    EXPECT_EQ(category.identifier, QStringLiteral("category1"));
+    ASSERT_EQ(category.actions.size(), 2);
+    const PushAction &accept = category.actions.at(0);
+    const PushAction &reject = category.actions.at(1);
+    EXPECT_EQ(accept.identifier + u' ' + accept.title, QStringLiteral("action1_identifier Accept"));
+    EXPECT_TRUE(accept.opensClient);
+    EXPECT_EQ(reject.identifier + u' ' + reject.title, QStringLiteral("action2_identifier Reject"));
+    EXPECT_TRUE(!reject.opensClient && reject.needsUnlock && reject.destructive);
+
+    application.system = 7.1;
+    start();
+    EXPECT_TRUE(kits.categories.isEmpty());
+    EXPECT_EQ(kits.calls.filter(QStringLiteral("registerForTypes 7")).size(), 2);
+}
+
+TEST_F(StartTest, TheGuideIsShownOncePerBuildVersion)
+{
+    settings.values.remove(SettingsKeys::bundleVersion);
+    start();
+    auto *const guide = qobject_cast<TZGuideController *>(window.root());
+    ASSERT_TRUE(guide);
+    EXPECT_TRUE(router.calls.isEmpty());
+    EXPECT_EQ(settings.values.value(SettingsKeys::bundleVersion), QStringLiteral("100"));
+
+    guide->removeGuideView();
+    guide->removeGuideView();
+    EXPECT_EQ(router.calls, QStringList{QStringLiteral("setupSideMenuController")}) << "a second tap does nothing";
+
+    Service::logout();
+    KRWindow next;
+    AppDelegate again(next, router, [] {});
+    again.didFinishLaunchingWithOptions({});
+    EXPECT_EQ(next.root(), nullptr) << "signing out does not bring the guide back";
+
+    application.version = QStringLiteral("101");
+    KRWindow updated;
+    AppDelegate afterUpdate(updated, router, [] {});
+    afterUpdate.didFinishLaunchingWithOptions({});
+    EXPECT_TRUE(qobject_cast<TZGuideController *>(updated.root()));
+}
+
+TEST_F(StartTest, TheGuidePagesEndAtTheFirstAndTheLast)
+{
+    TZGuideController guide(shell);
+    EXPECT_EQ(guide.pages().join(u' '), QStringLiteral("guide1 guide2 guide3 guide4"));
+    guide.toBeforePage();
+    EXPECT_EQ(guide.page(), 0);
+    for (int tap = 0; tap < 5; ++tap)
+        guide.toNextPage();
+    EXPECT_EQ(guide.page(), 3);
+    EXPECT_TRUE(guide.isLastPage());
+    guide.toBeforePage();
+    EXPECT_EQ(guide.page(), 2);
+
+    guide.setProperty("screenHeight", 480);
+    EXPECT_EQ(guide.pages().join(u' '), QStringLiteral("guide1_4 guide2_4 guide3_4 guide4_4"));
+    guide.setProperty("screenHeight", 568);
+    EXPECT_EQ(guide.pages().first(), QStringLiteral("guide1"));
+}
+
+TEST_F(StartTest, WithoutANetworkItSaysSoAsksForNoStocksAndGoesOn)
+{
+    reachability.status = NetworkStatus::NotReachable;
+    start();
+    EXPECT_EQ(banners(), QStringList{QStringLiteral("网络异常")});
+    EXPECT_FALSE(kits.calls.contains(QStringLiteral("stock table refresh")));
+    EXPECT_EQ(settings.values.value(SettingsKeys::networkStatus), false);
+    EXPECT_EQ(router.calls, QStringList{QStringLiteral("setupSideMenuController")});
+    EXPECT_FALSE(shell.isReachable);
+}
+
+TEST_F(StartTest, EachChangeOfTheNetworkIsKept)
+{
+    start();
+    struct Case {
+        NetworkStatus status;
+        bool reachable;
+    };
+    for (const Case &change : {Case{NetworkStatus::NotReachable, false}, Case{NetworkStatus::ReachableViaWWAN, true},
+                               Case{NetworkStatus::NotReachable, false}, Case{NetworkStatus::ReachableViaWiFi, true}}) {
+        overlays.hideBanners();
+        reachability.change(change.status);
+        EXPECT_EQ(settings.values.value(SettingsKeys::networkStatus), change.reachable);
+        EXPECT_EQ(shell.isReachable, change.reachable);
+        EXPECT_EQ(banners().size(), change.reachable ? 0 : 1);
+    }
+    EXPECT_EQ(kits.calls.filter(QStringLiteral("post kNetworkReachabilityChangedNotification")).size(), 4);
+}
+
+TEST_F(StartTest, AChangeOfTheNetworkAfterTheShellIsGoneTouchesNothing)
+{
+    {
+        AppDelegate passing(window, router, [] {});
+        passing.didFinishLaunchingWithOptions({});
+    }
+    reachability.change(NetworkStatus::NotReachable);
+    kits.push(message(2, fields));
+    EXPECT_EQ(banners(), QStringList());
+    EXPECT_FALSE(router.calls.contains(QStringLiteral("presentMessageDetail")));
+}
+
+TEST_F(StartTest, TheAliasFollowsTheStoredUser)
+{
+    struct Case {
+        QVariant user;
+        QStringList aliases;
+    };
+    const QString token = QStringLiteral("api_token");
+    const Case cases[] = {
+        {QVariant(), {}},
+        {QVariantMap{{token, QStringLiteral("abc")}}, {QStringLiteral("setAlias abc api_token")}},
+        {QVariantMap{{token, QString()}}, {QStringLiteral("setAlias off_line api_token")}},
+        {QVariantMap{{QStringLiteral("cell"), QStringLiteral("13800138000")}}, {QStringLiteral("setAlias off_line api_token")}},
+    };
+    for (const Case &stored : cases) {
+        settings.values.remove(SettingsKeys::user);
+        if (stored.user.isValid())
+            settings.values.insert(SettingsKeys::user, stored.user);
+        kits.calls.clear();
+        AppDelegate fresh(window, router, [] {});
+        fresh.didFinishLaunchingWithOptions({});
+        EXPECT_EQ(kits.calls.filter(QStringLiteral("setAlias")), stored.aliases);
+    }
+}
+
+TEST_F(StartTest, TheMessageThatStartedTheClientIsPostedAndOpensNothing)
+{
+    settings.values.remove(SettingsKeys::needTradePwd);
+    start({{AppDelegate::remoteNotificationKey, message(2, fields)}});
+    EXPECT_TRUE(kits.calls.contains(QStringLiteral("post remote_msg")));
+    EXPECT_FALSE(needTradePwdAtPost) << "posted before the flag is set";
+    EXPECT_FALSE(router.calls.contains(QStringLiteral("presentMessageDetail")));
+
+    kits.push(message(2, fields));
+    EXPECT_TRUE(router.calls.contains(QStringLiteral("presentMessageDetail"))) << "later ones do";
+}
+
+TEST_F(StartTest, AMessageOpensWhatItsPageNames)
+{
+    start();
+    const QString text = QStringLiteral(R"({"id":"7","title":"通知"})");
+    struct Case {
+        QVariant pageId;
+        QVariant data;
+        QString opened;
+    };
+    const QString none;
+    const QString msg = QStringLiteral("presentMessageDetail");
+    const QString stock = QStringLiteral("presentOrderDetail");
+    const Case cases[] = {
+        {2, fields, msg},
+        {2, text, msg},
+        {2.0, fields, msg},
+        {QStringLiteral("2"), fields, msg},
+        {3, fields, stock},
+        {3, text, stock},
+        {1, fields, none},
+        {0, fields, none},
+        {4, fields, none},
+        {QVariant(), fields, none},
+        {QVariantList{2}, fields, none},
+        {2, QVariant(), none},
+        {2, QVariant::fromValue(nullptr), none},
+        {2, QVariantList{fields}, none},
+        {2, 12, none},
+        {2, QStringLiteral("{\"id\":"), none},
+        {3, QStringLiteral("[1]"), none},
+        {3, QString(), none},
+    };
+    for (const Case &push : cases) {
+        router.calls.clear();
+        router.pushed.clear();
+        kits.push(message(push.pageId, push.data));
+        const QString described = push.pageId.toString() + u' ' + push.data.toString();
+        EXPECT_EQ(router.calls.join(u' '), push.opened) << described.toStdString();
+        EXPECT_EQ(router.pushed, push.opened.isEmpty() ? QVariantMap() : fields) << described.toStdString();
+    }
+    kits.push({});
+}
+
+TEST_F(StartTest, ThePushServiceHearsOfAMessageBeforeAnyoneElse)
+{
+    start();
+    kits.calls.clear();
+    kits.push(message(3, fields));
+    EXPECT_EQ(kits.calls, (QStringList{QStringLiteral("didReceiveRemoteNotification"), QStringLiteral("post remote_stock")}));
+}
+
+TEST_F(StartTest, TokensAndUrlsAreHandedToTheirKits)
+{
+    shell.didRegisterForRemoteNotificationsWithDeviceToken("d3vice");
+    EXPECT_FALSE(shell.openURL(QStringLiteral("wx://back")));
+    EXPECT_FALSE(shell.handleOpenURL(QStringLiteral("qq://back")));
+    EXPECT_EQ(kits.calls, (QStringList{QStringLiteral("registerDeviceToken d3vice"), QStringLiteral("handleOpenUrl wx://back"),
+                                       QStringLiteral("handleOpenUrl qq://back")}));
+}
