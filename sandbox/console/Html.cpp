@@ -142,7 +142,8 @@ http::Answer page(const http::Call &call, const std::string &title, const std::s
                   head +
                   "</head><body><a class=\"skip\" href=\"#main\">Skip to content</a><header><b>Zorvane "
                   "sandbox</b><nav>" +
-                  links(call.path) + "</nav></header><main id=\"main\">" +
+                  links(call.path == "sandbox/user" ? "sandbox/users" : call.path) +
+                  "</nav></header><main id=\"main\">" +
                   (note.empty() ? ""
                                 : "<p role=\"status\" class=\"note" + std::string(bad ? " bad" : "") + "\">" +
                                       escape(note) + "</p>") +
