@@ -5,6 +5,11 @@
 #include "core/util/Text.h"
 
 namespace {
+int trendOf(double figure)
+{
+    return figure > 0 ? 1 : figure < 0 ? -1 : 0;
+}
+
 QString filled(const QString &format, const QString &value)
 {
     return format.arg(Service::whetherAnEmptyString(value) ? QString() : value);
@@ -14,7 +19,8 @@ QString filled(const QString &format, const QString &value)
 void TZHomeHeaderView::setModels(const TZUserIndexModel &index, const TZUserIndexAssetModel &asset)
 {
     totalAsset = labelAmount(asset.totalAsset);
-    profit = (doubleValue(asset.profitMoney) > 0 ? QStringLiteral("+") : QString()) + asset.profitMoney;
+    profitTrend = trendOf(doubleValue(asset.profitMoney));
+    profit = (profitTrend > 0 ? QStringLiteral("+") : QString()) + asset.profitMoney;
     midProfit = filled(QStringLiteral("%1元"), asset.profitMoney);
     midRate = filled(QStringLiteral("%1%"), asset.profitRate);
     setRate(asset.profitRate);
@@ -25,8 +31,7 @@ void TZHomeHeaderView::setRate(const QString &profitRate)
 {
     const QString text = QString::number(doubleValue(profitRate), 'f', 2);
     // The sign is that of the figure shown: what rounds to zero is neither gain nor loss.
-    const double shown = text.toDouble();
-    rateTrend = shown > 0 ? 1 : shown < 0 ? -1 : 0;
+    rateTrend = trendOf(text.toDouble());
     rate = rateTrend > 0   ? QStringLiteral("+%1%").arg(text)
            : rateTrend < 0 ? QStringLiteral("%1%").arg(text)
                            : QStringLiteral(" 0.00%");

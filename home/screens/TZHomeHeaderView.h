@@ -11,6 +11,7 @@ class TZHomeHeaderView {
     Q_PROPERTY(QString profit MEMBER profit)
     Q_PROPERTY(QString rate MEMBER rate)
     /// 1 a gain, -1 a loss, 0 neither.
+    Q_PROPERTY(int profitTrend MEMBER profitTrend)
     Q_PROPERTY(int rateTrend MEMBER rateTrend)
     /// The badge of an account in danger; no title, no badge.
     Q_PROPERTY(QString statusTitle MEMBER statusTitle)
@@ -26,6 +27,7 @@ public:
     QString profitPrefix = QStringLiteral("浮盈  ");
     QString profit;
     QString rate;
+    int profitTrend = 0;
     int rateTrend = 0;
     QString statusTitle;
     QString statusImage;

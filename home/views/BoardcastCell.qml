@@ -10,6 +10,15 @@ Item {
     Accessible.role: Accessible.ListItem
     Accessible.name: text
 
+    Rectangle {
+        anchors.fill: parent
+        radius: Theme.radius
+        color: Theme.deep.surfacePressed
+        opacity: cell.ListView.isCurrentItem ? 1 : 0
+        Behavior on opacity {
+            NumberAnimation { duration: Theme.motion }
+        }
+    }
     Icon {
         id: avatar
         anchors { left: parent.left; leftMargin: Theme.spacingSmall; verticalCenter: parent.verticalCenter }

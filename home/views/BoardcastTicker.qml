@@ -26,10 +26,6 @@ Rectangle {
         preferredHighlightEnd: (height + ticker.rowHeight) / 2
         highlightRangeMode: ListView.ApplyRange
         highlightMoveDuration: Theme.motion
-        highlight: Rectangle {
-            radius: Theme.radius
-            color: Theme.deep.surfacePressed
-        }
         Accessible.role: Accessible.List
         delegate: BoardcastCell {
             width: ListView.view.width

@@ -9,112 +9,102 @@ Item {
     required property TZHomeViewController home
     readonly property homeHeader header: home.header
 
-    implicitHeight: summary.height + custody.height + 2 * Theme.spacingHuge + Theme.spacing
+    implicitHeight: hero.implicitHeight + mid.height + custody.height + 2 * Theme.spacing
 
-    Rectangle {
-        id: summary
-        anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.margin }
-        height: column.height + 2 * Theme.spacingHuge
-        radius: Theme.radiusLarge
-        color: Theme.deep.surface
+    HomeHero {
+        id: hero
+        anchors { left: parent.left; right: parent.right; top: parent.top; bottom: mid.top }
+        picture: "home_glow"
+        title: "总资产（元）"
+        amount: cell.header.totalAsset
 
-        Column {
-            id: column
-            anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.spacingHuge }
+        Row {
+            anchors.horizontalCenter: parent.horizontalCenter
+            height: Theme.touchTarget
             spacing: Theme.spacing
 
-            Item {
-                width: parent.width
-                height: Theme.touchTarget
-
-                Text {
-                    anchors { left: parent.left; verticalCenter: parent.verticalCenter }
-                    text: "总资产（元）"
-                    font: Theme.body
-                    color: Theme.deep.textSecondary
-                }
-                StatusBadge {
-                    anchors { right: parent.right; verticalCenter: parent.verticalCenter }
-                    visible: text !== ""
-                    text: cell.header.statusTitle
-                    image: cell.header.statusImage
-                    atRisk: cell.header.atRisk
-                    onClicked: cell.home.seeDetailStatus(text)
-                }
-            }
-            AmountText {
-                width: parent.width
-                deep: true
-                text: cell.header.totalAsset
-                font: Theme.display
-            }
-            Item {
-                width: parent.width
-                height: rate.height
+            Row {
+                anchors.verticalCenter: parent.verticalCenter
+                Accessible.role: Accessible.StaticText
+                Accessible.name: prefix.text + profit.text
 
                 Text {
                     id: prefix
-                    anchors { left: parent.left; verticalCenter: parent.verticalCenter }
                     text: cell.header.profitPrefix
                     font: Theme.body
                     color: Theme.profitLabel
+                    Accessible.ignored: true
                 }
                 AmountText {
-                    anchors { left: prefix.right; right: rate.left; rightMargin: Theme.spacing }
-                    anchors.verticalCenter: parent.verticalCenter
+                    id: profit
+                    width: Math.min(implicitWidth, cell.width / 2)
                     deep: true
-                    trend: cell.header.rateTrend
+                    trend: cell.header.profitTrend
                     text: cell.header.profit
                     font: Theme.bodyBold
+                    Accessible.ignored: true
                 }
-                Rectangle {
+            }
+            Rectangle {
+                anchors.verticalCenter: parent.verticalCenter
+                width: rate.implicitWidth + 2 * Theme.spacing
+                height: rate.implicitHeight + Theme.spacingSmall
+                visible: rate.text !== ""
+                radius: height / 2
+                color: Theme.deep.surface
+
+                Text {
                     id: rate
-                    anchors { right: parent.right; verticalCenter: parent.verticalCenter }
-                    width: rateText.implicitWidth + 2 * Theme.spacing
-                    height: rateText.implicitHeight + Theme.spacingSmall
-                    visible: rateText.text !== ""
-                    radius: height / 2
-                    color: Theme.deep.page
-
-                    Text {
-                        id: rateText
-                        anchors.centerIn: parent
-                        text: cell.header.rate
-                        font: Theme.bodyBold
-                        color: Theme.trend(cell.header.rateTrend, true)
-                        Accessible.role: Accessible.StaticText
-                        Accessible.name: text
-                    }
+                    anchors.centerIn: parent
+                    text: cell.header.rate
+                    font: Theme.bodyBold
+                    color: Theme.trend(cell.header.rateTrend, true)
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
                 }
             }
-            Hairline {
-                width: parent.width
+        }
+        StatusBadge {
+            anchors.horizontalCenter: parent.horizontalCenter
+            visible: text !== ""
+            text: cell.header.statusTitle
+            image: cell.header.statusImage
+            atRisk: cell.header.atRisk
+            onClicked: cell.home.seeDetailStatus(text)
+        }
+    }
+    Rectangle {
+        id: mid
+        anchors { left: parent.left; right: parent.right; bottom: custody.top }
+        anchors { leftMargin: Theme.margin; rightMargin: Theme.margin; bottomMargin: Theme.spacing }
+        height: tiles.height + 2 * Theme.spacingLarge
+        radius: Theme.radiusLarge
+        color: Theme.deep.surface
+
+        Row {
+            id: tiles
+            anchors { left: parent.left; right: parent.right; margins: Theme.spacingLarge }
+            anchors.verticalCenter: parent.verticalCenter
+
+            StatTile {
+                width: parent.width * 0.6
                 deep: true
+                trend: cell.header.profitTrend
+                label: "浮动盈亏"
+                value: cell.header.midProfit
             }
-            Row {
-                width: parent.width
-
-                StatTile {
-                    width: parent.width / 2
-                    deep: true
-                    trend: cell.header.rateTrend
-                    label: "浮动盈亏"
-                    value: cell.header.midProfit
-                }
-                StatTile {
-                    width: parent.width / 2
-                    deep: true
-                    trend: cell.header.rateTrend
-                    label: "收益率"
-                    value: cell.header.midRate
-                    alignment: Text.AlignRight
-                }
+            StatTile {
+                width: parent.width * 0.4
+                deep: true
+                trend: cell.header.rateTrend
+                label: "收益率"
+                value: cell.header.midRate
             }
         }
     }
     Row {
         id: custody
-        anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom; bottomMargin: Theme.spacing }
+        anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom }
         spacing: Theme.spacingTiny
 
         Icon {

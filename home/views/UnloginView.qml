@@ -1,5 +1,3 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import Zorvane.Ui
 import Zorvane.Home
@@ -10,36 +8,11 @@ Item {
 
     required property TZHomeViewController home
 
-    Image {
-        anchors { left: parent.left; right: parent.right; bottom: ticker.top; bottomMargin: Theme.spacingLarge }
-        height: Math.min(width * 0.56, ticker.y - Theme.spacingLarge)
-        sourceSize.width: width
-        fillMode: Image.PreserveAspectCrop
-        source: Theme.image("home_hero")
-        Accessible.ignored: true
-    }
-    Column {
-        anchors { left: parent.left; right: parent.right; margins: Theme.spacingHuge }
-        y: Math.max(Theme.spacingHuge, Math.round((ticker.y - height) * 0.38))
-        spacing: Theme.spacingSmall
-
-        Text {
-            width: parent.width
-            text: face.home.overviewTitle
-            font: Theme.body
-            color: Theme.deep.textSecondary
-            horizontalAlignment: Text.AlignHCenter
-            elide: Text.ElideRight
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
-        }
-        AmountText {
-            width: parent.width
-            deep: true
-            text: face.home.overviewAmount
-            font: Theme.display
-            horizontalAlignment: Text.AlignHCenter
-        }
+    HomeHero {
+        anchors { left: parent.left; right: parent.right; top: parent.top; bottom: ticker.top }
+        picture: "home_hero"
+        title: face.home.overviewTitle
+        amount: face.home.overviewAmount
     }
     BoardcastTicker {
         id: ticker

@@ -1,0 +1,47 @@
+import QtQuick
+import Zorvane.Ui
+
+/// The large figure of the home page over a picture; children are laid under the figure.
+Item {
+    id: hero
+
+    required property string picture
+    property string title
+    property string amount
+    default property alias details: column.data
+
+    implicitHeight: column.height + 2 * Theme.spacingHuge
+
+    Image {
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+        height: Math.min(width * 0.56, parent.height - Theme.spacingLarge)
+        sourceSize.width: width
+        fillMode: Image.PreserveAspectCrop
+        source: Theme.image(hero.picture)
+        Accessible.ignored: true
+    }
+    Column {
+        id: column
+        anchors { left: parent.left; right: parent.right; margins: Theme.spacingHuge }
+        y: Math.max(Theme.spacingHuge, Math.round((parent.height - height) * 0.38))
+        spacing: Theme.spacingSmall
+
+        Text {
+            width: parent.width
+            text: hero.title
+            font: Theme.body
+            color: Theme.deep.textSecondary
+            horizontalAlignment: Text.AlignHCenter
+            elide: Text.ElideRight
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
+        AmountText {
+            width: parent.width
+            deep: true
+            text: hero.amount
+            font: Theme.display
+            horizontalAlignment: Text.AlignHCenter
+        }
+    }
+}
