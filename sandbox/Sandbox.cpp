@@ -86,9 +86,6 @@ private:
     void beat()
     {
         m_service.brokerage.tick();
-        m_service.orderWatch.look(m_service.push.listeners(), [this](const Order &order) {
-            http::push(m_service, order.user, 3, http::entrustJson(order, m_service.brokerage.stocks()));
-        });
     }
 
     http::Service &m_service;
@@ -129,8 +126,8 @@ struct Sandbox::Parts {
           sms(directory.database(), realNow,
               [print](const identity::Sms &sent) { print("SMS " + sent.cell + ": " + sent.code); }),
           messages(directory.database(), realNow),
-          orderWatch(brokerage), service{clock,    brokerage, users,      sms,    sessions,
-                                         messages, push,      orderWatch, faults, options.dataDir / "images"},
+          service{clock,    brokerage, users,      sms,    sessions,
+                                         messages, push,      faults, options.dataDir / "images"},
           server(certificate, router, faults, options.quiet ? http::Server::Log{} : http::Server::Log{print})
     {
         const auto demo = users.byCell(demoCell);
@@ -168,7 +165,6 @@ struct Sandbox::Parts {
     identity::Sessions sessions;
     messages::Messages messages;
     messages::PushHub push;
-    http::OrderWatch orderWatch;
     http::Faults faults;
     http::Service service;
     http::Router router;

@@ -55,7 +55,6 @@ Answer pushStream(Service &service, const Call &call)
     const auto stream = service.push.open(user->id);
     if (!stream)
         throw BadRequest(503, "推送连接过多，请稍后再试");
-    service.orderWatch.begin(user->id);
     Answer answer;
     answer.contentType = "application/x-ndjson";
     answer.stream = [stream] { return stream->next(std::chrono::seconds(1)); };

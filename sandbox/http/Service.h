@@ -2,7 +2,6 @@
 
 #include "exchange/Brokerage.h"
 #include "http/Faults.h"
-#include "http/OrderWatch.h"
 #include "http/Router.h"
 #include "identity/Sessions.h"
 #include "identity/SmsCodes.h"
@@ -23,7 +22,6 @@ struct Service {
     identity::Sessions &sessions;
     messages::Messages &messages;
     messages::PushHub &push;
-    OrderWatch &orderWatch;
     Faults &faults;
     std::filesystem::path imageFolder;
 };
