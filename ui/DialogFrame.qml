@@ -14,6 +14,7 @@ FocusTrap {
     property int fadeDuration: Theme.motion
     default property alias content: column.data
 
+    focus: true
     opacity: 0
     onShownChanged: opacity = shown ? 1 : 0
     Component.onCompleted: opacity = shown ? 1 : 0

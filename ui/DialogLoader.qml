@@ -2,11 +2,10 @@ import QtQuick
 import Zorvane.Ui
 
 /// Shows the view that a dialog names.
-Loader {
-    id: loader
+ViewHost {
+    id: host
 
     required property KRDialog dialog
 
-    focus: true
-    Component.onCompleted: setSource(ViewFinder.view(dialog.view), { dialog: dialog })
+    Component.onCompleted: host.show(ViewFinder.view(dialog.view), { dialog: dialog })
 }

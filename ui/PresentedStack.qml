@@ -9,6 +9,7 @@ NavigationStack {
     signal settled
     signal gone
 
+    ready: inPlace
     Component.onCompleted: slide.start()
     Component.onDestruction: if (inPlace) gone()
 

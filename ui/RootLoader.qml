@@ -2,19 +2,26 @@ import QtQuick
 import Zorvane.Ui
 
 /// Shows the root of the window: the guide, or the side menu.
-Loader {
-    id: loader
+ViewHost {
+    id: host
 
     required property QtObject root
+    property bool complete: false
 
-    function show() {
-        const guide = root as KRBaseController
+    function showRoot() {
+        const old = host.view as SideMenuFrame
+        if (old)
+            old.close()
+        const guide = host.root as KRBaseController
         if (guide)
-            setSource(ViewFinder.screen(guide), { controller: guide })
-        else
-            setSource("SideMenuFrame.qml", { sideMenu: root })
+            host.show(ViewFinder.screen(guide), { controller: guide })
+        else if (host.root)
+            host.show(Qt.resolvedUrl("SideMenuFrame.qml"), { sideMenu: host.root })
     }
 
-    onRootChanged: show()
-    Component.onCompleted: show()
+    onRootChanged: if (complete) showRoot()
+    Component.onCompleted: {
+        complete = true
+        showRoot()
+    }
 }

@@ -5,7 +5,7 @@ BorderImage {
     anchors.fill: parent
     anchors.margins: -12
     z: -1
-    border { left: 24; right: 24; top: 24; bottom: 24 }
+    border { left: 16; right: 16; top: 16; bottom: 16 }
     source: Theme.image("shadow")
     Accessible.ignored: true
 }

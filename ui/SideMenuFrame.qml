@@ -11,6 +11,13 @@ FocusScope {
     /// 0 closed, 1 open.
     property real progress: sideMenu.open ? 1 : 0
 
+    /// Lets go of the screens' views before the frame itself goes.
+    function close() {
+        content.close()
+    }
+
+    focus: true
+
     Behavior on progress {
         enabled: !drag.active
         NumberAnimation { duration: Theme.motion; easing.type: Easing.OutCubic }
@@ -43,6 +50,7 @@ FocusScope {
             visible: frame.progress > 0
         }
         NavigationStack {
+            id: content
             anchors.fill: parent
             focus: !frame.sideMenu.open
             navigation: frame.sideMenu.content

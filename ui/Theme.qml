@@ -104,16 +104,17 @@ QtObject {
 
     // The type scale. Digits have equal widths in the client's typeface.
     readonly property real textScale: 1
-    readonly property font caption: Qt.font({ pixelSize: 12 * textScale })
-    readonly property font label: Qt.font({ pixelSize: 13 * textScale })
-    readonly property font body: Qt.font({ pixelSize: 15 * textScale })
-    readonly property font bodyBold: Qt.font({ pixelSize: 15 * textScale, weight: Font.Bold })
-    readonly property font title: Qt.font({ pixelSize: 17 * textScale, weight: Font.Bold })
-    readonly property font heading: Qt.font({ pixelSize: 20 * textScale, weight: Font.Bold })
-    readonly property font headline: Qt.font({ pixelSize: 26 * textScale, weight: Font.Bold })
-    readonly property font amount: Qt.font({ pixelSize: 22 * textScale, weight: Font.Bold })
-    readonly property font display: Qt.font({ pixelSize: 36 * textScale, weight: Font.Bold })
-    readonly property font unit: Qt.font({ pixelSize: 11 * textScale })
+    readonly property string family: Qt.font({ pixelSize: 15 }).family
+    readonly property font caption: Qt.font({ family: family, pixelSize: 12 * textScale })
+    readonly property font label: Qt.font({ family: family, pixelSize: 13 * textScale })
+    readonly property font body: Qt.font({ family: family, pixelSize: 15 * textScale })
+    readonly property font bodyBold: Qt.font({ family: family, pixelSize: 15 * textScale, weight: Font.Bold })
+    readonly property font title: Qt.font({ family: family, pixelSize: 17 * textScale, weight: Font.Bold })
+    readonly property font heading: Qt.font({ family: family, pixelSize: 20 * textScale, weight: Font.Bold })
+    readonly property font headline: Qt.font({ family: family, pixelSize: 26 * textScale, weight: Font.Bold })
+    readonly property font amount: Qt.font({ family: family, pixelSize: 22 * textScale, weight: Font.Bold })
+    readonly property font display: Qt.font({ family: family, pixelSize: 36 * textScale, weight: Font.Bold })
+    readonly property font unit: Qt.font({ family: family, pixelSize: 11 * textScale })
 
     // Milliseconds.
     readonly property int motionFast: 120

@@ -1,9 +1,11 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Zorvane.Ui
 
 /// What fills the window, from the back to the front: its root, what is presented over it, the dialogs, the waiting
-/// indicator, the banners.
-Item {
+/// indicator, the banners. The keyboard belongs to the frontmost.
+FocusScope {
     id: main
 
     required property KRWindow window
@@ -16,59 +18,71 @@ Item {
             field.focus = false
     }
 
+    function focusTop() {
+        if (indicator.visible)
+            indicator.focus = true
+        else if (dialogs.count > 0)
+            dialogs.itemAt(dialogs.count - 1).focus = true
+        else if (presented.count > 0)
+            presented.itemAt(presented.count - 1).focus = true
+        else
+            rootView.focus = true
+    }
+
+    focus: true
+    Component.onCompleted: focusTop()
+
     Connections {
         target: main.window
         function onEditingEnded() {
             main.endEditing(main.Window.activeFocusItem as TextInput)
         }
     }
-    FocusScope {
+    RootLoader {
+        id: rootView
         anchors.fill: parent
-        focus: !main.overlays.waiting
+        visible: main.settled === 0
+        root: main.window.root
+    }
+    Repeater {
+        id: presented
+        model: main.window.presented
+        onItemAdded: main.focusTop()
+        onItemRemoved: (index, item) => (item as PresentedStack).close()
+        onCountChanged: main.focusTop()
 
-        RootLoader {
-            anchors.fill: parent
-            visible: main.settled === 0
-            focus: presented.count === 0 && dialogs.count === 0
-            root: main.window.root
+        PresentedStack {
+            required property int index
+            required property KRNavigationController item
+
+            width: main.width
+            height: main.height
+            navigation: item
+            visible: index >= main.settled - 1
+            onSettled: main.settled += 1
+            onGone: main.settled -= 1
         }
-        Repeater {
-            id: presented
-            model: main.window.presented
+    }
+    Repeater {
+        id: dialogs
+        model: main.window.dialogs
+        onItemAdded: main.focusTop()
+        onCountChanged: main.focusTop()
 
-            PresentedStack {
-                required property int index
-                required property KRNavigationController item
+        DialogLoader {
+            required property KRDialog item
 
-                width: main.width
-                height: main.height
-                focus: index === presented.count - 1 && dialogs.count === 0
-                navigation: item
-                visible: index >= main.settled - 1
-                onSettled: main.settled += 1
-                onGone: main.settled -= 1
-            }
-        }
-        Repeater {
-            id: dialogs
-            model: main.window.dialogs
-
-            DialogLoader {
-                required property int index
-                required property KRDialog item
-
-                width: main.width
-                height: main.height
-                focus: index === dialogs.count - 1
-                dialog: item
-            }
+            width: main.width
+            height: main.height
+            dialog: item
         }
     }
     WaitingIndicator {
+        id: indicator
         anchors.fill: parent
         visible: main.overlays.waiting
-        focus: main.overlays.waiting
         status: main.overlays.waitingStatus
+        onVisibleChanged: main.focusTop()
     }
     Repeater {
         model: main.overlays.banners
