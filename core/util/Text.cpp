@@ -77,6 +77,16 @@ QStringView leadingNumber(const QString &text)
     return QStringView(text).sliced(start, end - start);
 }
 
+/// The locale reads what is beyond all numbers too, but the detour costs more than the reading.
+double asciiNumber(QStringView number)
+{
+    QVarLengthArray<char, 64> ascii(number.size());
+    std::transform(number.begin(), number.end(), ascii.begin(), [](QChar c) { return c.toLatin1(); });
+    bool fits = false;
+    const double value = QByteArray::fromRawData(ascii.data(), ascii.size()).toDouble(&fits);
+    return fits ? value : QLocale::c().toDouble(number);
+}
+
 double finiteNumber(double number)
 {
     constexpr double largest = std::numeric_limits<double>::max();
@@ -125,7 +135,7 @@ double doubleValue(const QVariant &value)
     if (isNumber(value))
         return finiteNumber(value.toDouble());
     const QString text = textForm(value);
-    return finiteNumber(QLocale::c().toDouble(leadingNumber(text)));
+    return finiteNumber(asciiNumber(leadingNumber(text)));
 }
 
 qint64 integerValue(const QVariant &value)

@@ -1,5 +1,6 @@
 #include "trading/api/Sqlite.h"
 
+#include <QStringEncoder>
 #include <sqlite3.h>
 
 namespace {
@@ -23,7 +24,9 @@ SqlResult resultOf(int code)
 Database::Database(const QString &file, int lockWaitMilliseconds)
 {
     sqlite3 *opened = nullptr;
-    const int code = sqlite3_open(file.toUtf8().constData(), &opened);
+    // No locks inside the connection: it has one user at a time.
+    const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX;
+    const int code = sqlite3_open_v2(file.toUtf8().constData(), &opened, flags, nullptr);
     handle.reset(opened);
     if (code != SQLITE_OK) {
         handle.reset();
@@ -66,11 +69,19 @@ Statement::Statement(Database &database, const QByteArray &sql)
 
 void Statement::bind(int parameter, const QString &text)
 {
-    if (text.isNull())
+    if (text.isNull()) {
         sqlite3_bind_null(handle.get(), parameter);
-    else
-        sqlite3_bind_text16(handle.get(), parameter, text.constData(),
-                            static_cast<int>(text.size() * qsizetype(sizeof(QChar))), SQLITE_STATIC);
+        return;
+    }
+    const auto index = static_cast<size_t>(parameter - 1);
+    if (bound.size() <= index)
+        bound.resize(index + 1);
+    QByteArray &bytes = bound[index];
+    QStringEncoder encoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
+    bytes.resize(encoder.requiredSpace(text.size()));
+    const char *const end = encoder.appendToBuffer(bytes.data(), text);
+    sqlite3_bind_text(handle.get(), parameter, bytes.constData(), static_cast<int>(end - bytes.constData()),
+                      SQLITE_STATIC);
 }
 
 SqlResult Statement::step()

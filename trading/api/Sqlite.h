@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QString>
 #include <memory>
+#include <vector>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -32,7 +33,7 @@ private:
     std::unique_ptr<sqlite3, Close> handle;
 };
 
-/// One prepared statement of a database that outlives it. Texts bound to it must live until it has been run.
+/// One prepared statement of a database that outlives it.
 class Statement {
 public:
     /// Takes exactly one statement: where another one, or anything else, follows, `isValid` is false.
@@ -55,6 +56,8 @@ private:
         void operator()(sqlite3_stmt *statement) const;
     };
     std::unique_ptr<sqlite3_stmt, Finalize> handle;
+    /// The bytes of the bound texts, one buffer a parameter, used again for each row.
+    std::vector<QByteArray> bound;
 };
 
 /// Everything since its construction is undone unless `commit` succeeded.
