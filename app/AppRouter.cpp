@@ -14,8 +14,6 @@
 #include "trading/api/TZTradeTool.h"
 #include "trading/screens/TZDealDetailController.h"
 #include "trading/screens/TZRealTradingController.h"
-#include "trading/screens/TZDealDetailController.h"
-#include "trading/screens/TZRealTradingController.h"
 
 namespace {
 std::unique_ptr<TZPlainPageController> plainPage(const QString &title, const QString &text)
@@ -23,8 +21,8 @@ std::unique_ptr<TZPlainPageController> plainPage(const QString &title, const QSt
     return std::make_unique<TZPlainPageController>(title, text);
 }
 
-/// The first step that the account still lacks, by the "next_step" of the recharge information; with none lacking, the
-/// recharge itself.
+/// The first step that the account still lacks, by the "next_step" of the recharge information; with none
+/// lacking, the recharge itself.
 std::unique_ptr<TZPlainPageController> rechargeStep(qint64 nextStep)
 {
     switch (nextStep) {
@@ -78,7 +76,8 @@ void AppRouter::showContent(std::unique_ptr<KRBaseController> root)
 void AppRouter::setupSideMenuController()
 {
     auto home = std::make_unique<KRNavigationController>(std::make_unique<TZHomeViewController>(*this));
-    window.setRoot(std::make_unique<KRSideMenu>(std::move(home), std::make_unique<TZLeftMenuController>(*this)));
+    window.setRoot(
+        std::make_unique<KRSideMenu>(std::move(home), std::make_unique<TZLeftMenuController>(*this)));
 }
 
 void AppRouter::openRealTrading(KRBaseController &from)
@@ -143,8 +142,8 @@ void AppRouter::openMarginTopUp(KRBaseController &from)
 
 void AppRouter::presentMessageDetail(const QVariantMap &information)
 {
-    window.present(std::make_unique<TZMessageDetailController>(*this, fromDictionary<TZMessageModel>(information),
-                                                               QStringLiteral("remote")));
+    window.present(std::make_unique<TZMessageDetailController>(
+        *this, fromDictionary<TZMessageModel>(information), QStringLiteral("remote")));
 }
 
 void AppRouter::presentOrderDetail(const QVariantMap &information)

@@ -13,8 +13,8 @@ QString settingsPath(const Options &options)
 } // namespace
 
 Client::Client(const Options &options)
-    : settings(settingsPath(options)), application(options.apiBaseUrl, options.dataDirectory), http(options.trust),
-      reachability(QUrl(options.apiBaseUrl)), share(pasteboard, urlOpener),
+    : settings(settingsPath(options)), application(options.apiBaseUrl, options.dataDirectory),
+      http(options.trust), reachability(QUrl(options.apiBaseUrl)), share(pasteboard, urlOpener),
       feedback(urlOpener, Configuration::serviceMail, QStringLiteral("用户反馈")),
 #ifdef ZORVANE_DEVELOPER_OPTIONS
       push(options.apiBaseUrl, options.trust),
@@ -34,12 +34,14 @@ QString Client::problem() const
     case SettingsProblem::None:
         return {};
     case SettingsProblem::Garbled:
-        return QStringLiteral("zorvane: '%1' is not a settings file; move it away and start again\n").arg(path);
+        return QStringLiteral("zorvane: '%1' is not a settings file; move it away and start again\n")
+            .arg(path);
     case SettingsProblem::Unreadable:
     case SettingsProblem::Unwritable:
         break;
     }
-    return QStringLiteral("zorvane: '%1' cannot be read and written; make it yours and start again\n").arg(path);
+    return QStringLiteral("zorvane: '%1' cannot be read and written; make it yours and start again\n")
+        .arg(path);
 }
 
 QQuickWindow *Client::show()
@@ -49,5 +51,6 @@ QQuickWindow *Client::show()
     engine.setInitialProperties({{QStringLiteral("window"), QVariant::fromValue(&window)},
                                  {QStringLiteral("overlays"), QVariant::fromValue(&overlays)}});
     engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Zorvane/Ui/Main.qml")));
-    return engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow *>(engine.rootObjects().first());
+    return engine.rootObjects().isEmpty() ? nullptr
+                                          : qobject_cast<QQuickWindow *>(engine.rootObjects().first());
 }

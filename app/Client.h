@@ -23,8 +23,8 @@
 
 class QQuickWindow;
 
-/// The client put together: the Qt platform, the shell, the window; torn down in the opposite order. One at a time, with a
-/// QGuiApplication around it.
+/// The client put together: the Qt platform, the shell, the window; torn down in the opposite order. One at a
+/// time, with a QGuiApplication around it.
 class Client {
 public:
     explicit Client(const Options &options);

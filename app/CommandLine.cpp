@@ -63,7 +63,8 @@ std::variant<Options, Answered> readCommandLine(const QStringList &arguments)
     const QCommandLineOption showHelp(QStringLiteral("help"));
     parser.addOptions({version, showHelp});
     Options options{QStringLiteral(ZORVANE_API_BASE_URL),
-                    QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/zorvane"),
+                    QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                        QStringLiteral("/zorvane"),
                     {}};
     QString directoryAdvice = QStringLiteral("make '%1' writable for you").arg(options.dataDirectory);
 #ifdef ZORVANE_DEVELOPER_OPTIONS
@@ -82,17 +83,17 @@ std::variant<Options, Answered> readCommandLine(const QStringList &arguments)
     if (parser.isSet(version))
         return Answered{0, QStringLiteral("zorvane " ZORVANE_VERSION "\n")};
 #ifdef ZORVANE_DEVELOPER_OPTIONS
+    for (const QCommandLineOption &option : {apiBaseUrl, trustCa, dataDir}) {
+        if (parser.isSet(option) && parser.value(option).isEmpty())
+            return refused(QStringLiteral("--%1 needs a value; 'zorvane --help' lists the options")
+                               .arg(option.names().constFirst()));
+    }
     if (parser.isSet(apiBaseUrl)) {
         options.apiBaseUrl = parser.value(apiBaseUrl);
         if (const QString problem = baseUrlProblem(options.apiBaseUrl); !problem.isEmpty())
             return refused(problem);
     }
-    if (parser.isSet(trustCa)) {
-        options.trust.authorities = QSslCertificate::fromPath(parser.value(trustCa));
-        if (options.trust.authorities.isEmpty())
-            return refused(QStringLiteral("--trust-ca '%1' holds no certificate; give a readable PEM file")
-                               .arg(parser.value(trustCa)));
-    }
+    options.trustFile = parser.value(trustCa);
     options.trust.loopbackHttp = true;
     if (parser.isSet(dataDir)) {
         options.dataDirectory = parser.value(dataDir);
@@ -104,4 +105,15 @@ std::variant<Options, Answered> readCommandLine(const QStringList &arguments)
     if (const QString problem = directoryProblem(options.dataDirectory); !problem.isEmpty())
         return refused(problem + directoryAdvice);
     return options;
+}
+
+std::optional<Answered> readTrust(Options &options)
+{
+    if (options.trustFile.isEmpty())
+        return {};
+    options.trust.authorities = QSslCertificate::fromPath(options.trustFile);
+    if (options.trust.authorities.isEmpty())
+        return refused(
+            QStringLiteral("'%1' holds no certificate; give a readable PEM file").arg(options.trustFile));
+    return {};
 }

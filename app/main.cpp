@@ -3,7 +3,6 @@
 #include "ui/Look.h"
 
 #include <QGuiApplication>
-
 #include <cstdio>
 
 namespace {
@@ -21,7 +20,7 @@ int main(int argc, char *argv[])
     QStringList arguments;
     for (int index = 1; index < argc; ++index)
         arguments << QString::fromLocal8Bit(argv[index]);
-    const auto line = readCommandLine(arguments);
+    auto line = readCommandLine(arguments);
     if (const auto *const answered = std::get_if<Answered>(&line))
         return answer(*answered);
 
@@ -30,7 +29,10 @@ int main(int argc, char *argv[])
     QGuiApplication::setApplicationVersion(QStringLiteral(ZORVANE_VERSION));
     const QGuiApplication qt(argc, argv);
     installLook();
-    Client client(std::get<Options>(line));
+    Options &options = std::get<Options>(line);
+    if (const auto answered = readTrust(options))
+        return answer(*answered);
+    Client client(options);
     if (const QString problem = client.problem(); !problem.isEmpty())
         return answer({cannotStart, problem});
     return client.show() ? QGuiApplication::exec() : cannotStart;

@@ -3,7 +3,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QNetworkRequest>
-
 #include <algorithm>
 #include <utility>
 
@@ -18,17 +17,14 @@ constexpr qint64 longestLine = 1 << 20;
 constexpr int ok = 200;
 } // namespace
 
-void QtPushService::Later::operator()(QNetworkReply *reply) const
-{
-    // First deaf, then aborted: aborting reports at once, and a reply is not deleted from within its own report.
-    reply->disconnect();
-    reply->abort();
-    reply->deleteLater();
-}
-
 QtPushService::QtPushService(const QString &apiBaseUrl, DeveloperTrust developerTrust)
     : url(apiBaseUrl + QStringLiteral("sandbox/push")), trust(std::move(developerTrust)), delay(firstDelay)
 {
+}
+
+QtPushService::~QtPushService()
+{
+    close();
 }
 
 void QtPushService::onRemoteNotification(std::function<void(const QVariantMap &)> receive)
@@ -53,15 +49,20 @@ void QtPushService::open()
     request.setRawHeader("alias", alias);
     request.setTransferTimeout(static_cast<int>(silence.count()));
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
-    stream.reset(network.get(request));
-    connect(stream.get(), &QNetworkReply::readyRead, this, &QtPushService::readLines);
-    connect(stream.get(), &QNetworkReply::finished, this, &QtPushService::reopenLater);
+    stream = network.get(request);
+    connect(stream, &QNetworkReply::readyRead, this, &QtPushService::readLines);
+    connect(stream, &QNetworkReply::finished, this, &QtPushService::reopenLater);
 }
 
 void QtPushService::close()
 {
     reopening.stop();
-    stream.reset();
+    if (QNetworkReply *const closed = std::exchange(stream, nullptr)) {
+        // Aborting reports at once: nobody listens any more.
+        closed->disconnect(this);
+        closed->abort();
+        closed->deleteLater();
+    }
 }
 
 void QtPushService::readLines()

@@ -9,28 +9,24 @@
 #include <QNetworkReply>
 #include <QObject>
 #include <QUrl>
-
 #include <chrono>
-#include <memory>
 
-/// The push of developer builds: while an alias is set, a stream is held open to "sandbox/push" below the base URL with the
-/// alias as a header. It brings one JSON object a line, {"pageId": n, "data": {…}}; an empty line only says that the
-/// service is there. A lost stream is opened again after 1 second, then 2, 4, … up to 60, until a line has come through.
+/// The push of developer builds: while an alias is set, a stream is held open to "sandbox/push" below the
+/// base URL with the alias as a header. It brings one JSON object a line, {"pageId": n, "data": {…}}; an
+/// empty line only says that the service is there. A lost stream is opened again after 1 second, then 2, 4, …
+/// up to 60, until a line has come through.
 class QtPushService : public QObject, public QuietPushService {
     Q_OBJECT
 public:
     /// `apiBaseUrl` ends in "/".
     QtPushService(const QString &apiBaseUrl, DeveloperTrust developerTrust);
+    ~QtPushService() override;
 
     /// "off_line" ends the stream for good, another alias begins one of its own.
     void setAlias(const QString &alias, const QString &type) override;
     void onRemoteNotification(std::function<void(const QVariantMap &)> receive) override;
 
 private:
-    struct Later {
-        void operator()(QNetworkReply *reply) const;
-    };
-
     void open();
     void close();
     void readLines();
@@ -39,7 +35,8 @@ private:
     const QUrl url;
     const DeveloperTrust trust;
     QNetworkAccessManager network;
-    std::unique_ptr<QNetworkReply, Later> stream;
+    /// Belongs to `network`; null while none is open.
+    QNetworkReply *stream = nullptr;
     std::function<void(const QVariantMap &)> received;
     QByteArray alias;
     Timer reopening;

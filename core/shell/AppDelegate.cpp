@@ -21,7 +21,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QPointer>
-
 #include <optional>
 
 const QString AppDelegate::remoteNotificationKey = QStringLiteral("remoteNotification");
@@ -32,8 +31,10 @@ constexpr int alertBadgeAndSound = 7;
 
 PushCategory category1()
 {
-    const PushAction accept{QStringLiteral("action1_identifier"), QStringLiteral("Accept"), true, false, false};
-    const PushAction reject{QStringLiteral("action2_identifier"), QStringLiteral("Reject"), false, true, true};
+    const PushAction accept{QStringLiteral("action1_identifier"), QStringLiteral("Accept"), true, false,
+                            false};
+    const PushAction reject{QStringLiteral("action2_identifier"), QStringLiteral("Reject"), false, true,
+                            true};
     return {QStringLiteral("category1"), {accept, reject}};
 }
 
@@ -70,10 +71,12 @@ void AppDelegate::didFinishLaunchingWithOptions(const QVariantMap &launchOptions
         postRemoteNotification(launchOptions.value(remoteNotificationKey).toMap());
     platform.settings.setValue(SettingsKeys::needTradePwd, true);
     platform.settings.synchronize();
-    platform.notifications.observe(this, NotificationNames::remoteMsg,
-                                   [this](const QVariant &information) { toMsgDetailController(information); });
-    platform.notifications.observe(this, NotificationNames::remoteStock,
-                                   [this](const QVariant &information) { toStockDetailController(information); });
+    platform.notifications.observe(this, NotificationNames::remoteMsg, [this](const QVariant &information) {
+        toMsgDetailController(information);
+    });
+    platform.notifications.observe(this, NotificationNames::remoteStock, [this](const QVariant &information) {
+        toStockDetailController(information);
+    });
 }
 
 void AppDelegate::initWithUMeng()
@@ -151,7 +154,8 @@ void AppDelegate::startPush(const QVariantMap &launchOptions)
     });
     platform.push.start(Configuration::pushKey, launchOptions);
     const bool hasCategories = platform.application.systemVersion() >= 8.0;
-    platform.push.registerForTypes(alertBadgeAndSound, hasCategories ? QList{category1()} : QList<PushCategory>());
+    platform.push.registerForTypes(alertBadgeAndSound,
+                                   hasCategories ? QList{category1()} : QList<PushCategory>());
     platform.push.setLogEnabled(true);
 }
 

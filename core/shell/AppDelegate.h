@@ -4,7 +4,6 @@
 
 #include <QObject>
 #include <QVariantMap>
-
 #include <functional>
 
 class KRWindow;
@@ -12,11 +11,12 @@ class Reachability;
 class Router;
 enum class NetworkStatus;
 
-/// Starts the client, decides its first screen, keeps the last known network state and opens what pushed messages name.
-/// Callbacks of the system are named after the second piece of their selector, the first being "application" for all.
+/// Starts the client, decides its first screen, keeps the last known network state and opens what pushed
+/// messages name. Callbacks of the system are named after the second piece of their selector, the first being
+/// "application" for all.
 ///
-/// A pushed message is {"pageId": whole number, "data": dictionary, or JSON text of one}. 2 opens the message detail, 3 the
-/// order detail, any other nothing.
+/// A pushed message is {"pageId": whole number, "data": dictionary, or JSON text of one}. 2 opens the message
+/// detail, 3 the order detail, any other nothing.
 class AppDelegate : public QObject, public TZGuideControllerDelegate {
     Q_OBJECT
 public:

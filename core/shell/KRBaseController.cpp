@@ -42,7 +42,8 @@ void KRBaseController::setIsNeedGesture(bool need)
 }
 
 void KRBaseController::createNavLeftItemWithTitle(const QString &title, const QString &andImage,
-                                                  const QString &andRightWithTitle, const QString &andRightImage)
+                                                  const QString &andRightWithTitle,
+                                                  const QString &andRightImage)
 {
     leftTitle = title;
     leftImage = andImage;

@@ -6,8 +6,8 @@
 class KRNavigationController;
 class KRWindow;
 
-/// The base of plain screens: its bar, its place in a navigation stack, what every screen does when it comes and goes.
-/// Belongs to the stack it was pushed on; after being popped it lives only until its view is gone.
+/// The base of plain screens: its bar, its place in a navigation stack, what every screen does when it comes
+/// and goes. Belongs to the stack it was pushed on; after being popped it lives only until its view is gone.
 class KRBaseController : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged)
@@ -41,19 +41,20 @@ public:
     void setIsNeedGesture(bool need);
     Background background() const { return backgroundColour; }
 
-    void createNavLeftItemWithTitle(const QString &title, const QString &andImage, const QString &andRightWithTitle,
-                                    const QString &andRightImage);
+    void createNavLeftItemWithTitle(const QString &title, const QString &andImage,
+                                    const QString &andRightWithTitle, const QString &andRightImage);
 
-    /// Called by what shows the screen, in this order: `viewDidLoad` once, before the screen is first seen and with its
-    /// `window()` known; the others in pairs, `will` and `did`, appearing and disappearing in turn. Overrides call the base
-    /// first.
+    /// Called by what shows the screen, in this order: `viewDidLoad` once, before the screen is first seen
+    /// and with its `window()` known; the others in pairs, `will` and `did`, appearing and disappearing in
+    /// turn. Overrides call the base first.
     virtual void viewDidLoad();
     virtual void viewWillAppear();
     virtual void viewDidAppear() {}
     virtual void viewWillDisappear();
     virtual void viewDidDisappear() {}
 
-    /// Both pop the stack while this screen is on top of it: a second tap on a bar that is already leaving does nothing.
+    /// Both pop the stack while this screen is on top of it: a second tap on a bar that is already leaving
+    /// does nothing.
     Q_INVOKABLE virtual void backButtonClicked();
     Q_INVOKABLE virtual void leftItemClick();
     Q_INVOKABLE virtual void rightItemClick() {}

@@ -69,7 +69,8 @@ void KRNavigationController::popTo(KRBaseController *screen)
 
 int KRNavigationController::depth() const
 {
-    return static_cast<int>(std::count_if(entries.begin(), entries.end(), [](const Entry &e) { return !e.leaving; }));
+    return static_cast<int>(
+        std::count_if(entries.begin(), entries.end(), [](const Entry &e) { return !e.leaving; }));
 }
 
 KRBaseController *KRNavigationController::at(int index) const
@@ -160,7 +161,8 @@ QHash<int, QByteArray> KRNavigationController::roleNames() const
 
 int KRNavigationController::rowOf(const QObject *screen) const
 {
-    const auto found = std::find_if(entries.begin(), entries.end(), [screen](const Entry &e) { return e.screen == screen; });
+    const auto found =
+        std::find_if(entries.begin(), entries.end(), [screen](const Entry &e) { return e.screen == screen; });
     return found == entries.end() ? -1 : static_cast<int>(found - entries.begin());
 }
 

@@ -1,20 +1,20 @@
 #pragma once
 
 #include <QAbstractListModel>
-
 #include <memory>
 #include <vector>
 
 class KRBaseController;
 class KRWindow;
 
-/// A stack of screens and the list that views draw it from: one row a screen, the root first, with the roles "controller"
-/// and "leaving". A popped screen keeps its row, leaving, until `transitionFinished`; without a view (`animated` false), or
-/// while the stack is covered, it goes at once. Owns its screens.
+/// A stack of screens and the list that views draw it from: one row a screen, the root first, with the roles
+/// "controller" and "leaving". A popped screen keeps its row, leaving, until `transitionFinished`; without a
+/// view (`animated` false), or while the stack is covered, it goes at once. Owns its screens.
 ///
-/// A move changes the list first and then tells the screens: the old one will disappear, the new one will appear, the old
-/// one did disappear, the new one did appear. While the stack is covered nobody is told; whoever is on top when it comes to
-/// light appears then. A screen may move the stack while it is being told: it is told to the end before the next move is.
+/// A move changes the list first and then tells the screens: the old one will disappear, the new one will
+/// appear, the old one did disappear, the new one did appear. While the stack is covered nobody is told;
+/// whoever is on top when it comes to light appears then. A screen may move the stack while it is being told:
+/// it is told to the end before the next move is.
 class KRNavigationController : public QAbstractListModel {
     Q_OBJECT
     Q_PROPERTY(int depth READ depth NOTIFY depthChanged)

@@ -6,7 +6,8 @@
 
 #include <utility>
 
-KRSideMenu::KRSideMenu(std::unique_ptr<KRNavigationController> content, std::unique_ptr<KRBaseController> leftMenu)
+KRSideMenu::KRSideMenu(std::unique_ptr<KRNavigationController> content,
+                       std::unique_ptr<KRBaseController> leftMenu)
     : contentStack(content.release()), menu(leftMenu.release())
 {
     contentStack->setParent(this);

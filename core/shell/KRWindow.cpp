@@ -165,7 +165,8 @@ QObject *KRWindow::front() const
 
 void KRWindow::updateVisibility()
 {
-    // A screen may change what is in front while it is told of a move: first it is told to the end, then of the change.
+    // A screen may change what is in front while it is told of a move: first it is told to the end, then of
+    // the change.
     const auto *const stack = qobject_cast<KRNavigationController *>(appeared);
     if (updating || (stack && stack->isTelling()))
         return;

@@ -2,7 +2,6 @@
 
 #include <QAbstractListModel>
 #include <QObject>
-
 #include <memory>
 #include <vector>
 
@@ -19,7 +18,10 @@ public:
     using QAbstractListModel::QAbstractListModel;
     int count() const { return static_cast<int>(items.size()); }
     QObject *at(int row) const { return items.at(row); }
-    int indexOf(const QObject *item) const { return static_cast<int>(items.indexOf(const_cast<QObject *>(item))); }
+    int indexOf(const QObject *item) const
+    {
+        return static_cast<int>(items.indexOf(const_cast<QObject *>(item)));
+    }
     void append(QObject *item);
     void removeAt(int row);
     int rowCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : count(); }
@@ -33,12 +35,12 @@ private:
     QList<QObject *> items;
 };
 
-/// The main window: its root (the guide or the side menu), the stacks presented over it, the dialogs over those. Owns them
-/// all. Banners and the waiting indicator are `OverlayHost`'s.
+/// The main window: its root (the guide or the side menu), the stacks presented over it, the dialogs over
+/// those. Owns them all. Banners and the waiting indicator are `OverlayHost`'s.
 ///
-/// One thing is in front: the stack presented last, else the side menu's content, else the guide. What is in front has
-/// appeared, all else has disappeared; when that changes the old one disappears before the new one appears. Dialogs cover
-/// without a change of either.
+/// One thing is in front: the stack presented last, else the side menu's content, else the guide. What is in
+/// front has appeared, all else has disappeared; when that changes the old one disappears before the new one
+/// appears. Dialogs cover without a change of either.
 class KRWindow : public QObject {
     Q_OBJECT
     /// A KRBaseController (the guide) or a KRSideMenu.
@@ -77,8 +79,8 @@ public:
     /// Takes the focus from the field being edited and closes the keyboard.
     void endEditing() { Q_EMIT editingEnded(); }
 
-    /// Brings to light what is in front now. Called by the side menu when its content changes and by a stack when it has
-    /// told its screens of a move.
+    /// Brings to light what is in front now. Called by the side menu when its content changes and by a stack
+    /// when it has told its screens of a move.
     void updateVisibility();
 
 Q_SIGNALS:

@@ -11,7 +11,8 @@ protected:
     ~MVNoNetViewDelegate() = default;
 };
 
-/// The no-network panel of a screen, a member of it. Its button does nothing for a delegate that is no MVNoNetViewDelegate.
+/// The no-network panel of a screen, a member of it. Its button does nothing for a delegate that is no
+/// MVNoNetViewDelegate.
 class MVNoNetView : public QObject {
     Q_OBJECT
 public:

@@ -51,7 +51,8 @@ void OverlayHost::fade(int number)
     MVNoticeView banner = rows.at(row);
     banner.fading = true;
     rows.setRow(row, banner);
-    const auto found = std::find_if(timed.begin(), timed.end(), [number](const Banner &b) { return b.number == number; });
+    const auto found =
+        std::find_if(timed.begin(), timed.end(), [number](const Banner &b) { return b.number == number; });
     found->timer.startOnce(500ms, [this, number] { discard(number); });
 }
 

@@ -5,10 +5,10 @@
 #include "core/util/RowListModel.h"
 
 #include <QObject>
-
 #include <list>
 
-/// One banner: full width, 45 points high, 64 points from the top, at opacity 0.8. `fading` once its two seconds are over.
+/// One banner: full width, 45 points high, 64 points from the top, at opacity 0.8. `fading` once its two
+/// seconds are over.
 struct MVNoticeView {
     Q_GADGET
     Q_PROPERTY(QString content MEMBER content)

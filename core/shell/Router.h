@@ -15,13 +15,14 @@ struct TZZorvanePageStocksModel;
 /// Runs after a sign-in that was asked for on the way to something else.
 using ToSomeController = OwnedAction;
 
-/// Every door from one area's screens to another's. `from` is the screen that asks: its stack receives what is pushed, its
-/// window what is presented.
+/// Every door from one area's screens to another's. `from` is the screen that asks: its stack receives what
+/// is pushed, its window what is presented.
 class Router {
 public:
     virtual ~Router() = default;
 
-    /// Presents the sign-in entry in a stack of its own; `toSomeController` (may be empty) runs once sign-in is complete.
+    /// Presents the sign-in entry in a stack of its own; `toSomeController` (may be empty) runs once sign-in
+    /// is complete.
     virtual void openSignIn(KRBaseController &from, ToSomeController toSomeController) = 0;
     /// Roots of the main frame, each in a new stack in the content area; closes the menu.
     virtual void showHome(KRBaseController &from) = 0;
@@ -34,7 +35,8 @@ public:
     virtual void openStockCapital(KRBaseController &from) = 0;
     virtual void openMessages(KRBaseController &from) = 0;
     virtual void openWeb(KRBaseController &from, const TZWebModel &model) = 0;
-    /// Reads the recharge information and opens the first unfinished step of the account, or the recharge screen.
+    /// Reads the recharge information and opens the first unfinished step of the account, or the recharge
+    /// screen.
     virtual void openRechargeGate(KRBaseController &from) = 0;
     virtual void openWithdraw(KRBaseController &from) = 0;
     virtual void openFundRecords(KRBaseController &from) = 0;
@@ -42,7 +44,8 @@ public:
     virtual void openWarning(KRBaseController &from) = 0;
     virtual void openMarginTopUp(KRBaseController &from) = 0;
 
-    /// The detail that a pushed message opens, presented over everything. `information` has the fields of TZMessageModel.
+    /// The detail that a pushed message opens, presented over everything. `information` has the fields of
+    /// TZMessageModel.
     virtual void presentMessageDetail(const QVariantMap &information) = 0;
     /// As above, with the fields of TZEntrustsTodayModel.
     virtual void presentOrderDetail(const QVariantMap &information) = 0;

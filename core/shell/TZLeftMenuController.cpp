@@ -23,7 +23,8 @@ TZLeftMenuController::TZLeftMenuController(Router &appRouter) : router(appRouter
 {
     QList<TZLeftMenuCell> menu;
     for (const Destination &row : destinations)
-        menu.append({QString::fromUtf16(row.top), QString::fromUtf16(row.bottom), QString::fromUtf16(row.icon)});
+        menu.append(
+            {QString::fromUtf16(row.top), QString::fromUtf16(row.bottom), QString::fromUtf16(row.icon)});
     cells.setRows(menu);
 }
 

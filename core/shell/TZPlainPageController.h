@@ -2,8 +2,8 @@
 
 #include "core/shell/KRBaseController.h"
 
-/// A page of one sentence. As the root of a presented stack it has a close button, as that of the main frame a button for
-/// the left menu, otherwise a back button.
+/// A page of one sentence. As the root of a presented stack it has a close button, as that of the main frame
+/// a button for the left menu, otherwise a back button.
 class TZPlainPageController : public KRBaseController {
     Q_OBJECT
     Q_PROPERTY(QString text READ text CONSTANT)

@@ -16,7 +16,8 @@ TEST_F(LeftMenuTest, ThreeRowsInTheirOrder)
     QStringList rows;
     for (const TZLeftMenuCell &row : menu->rows()->rows())
         rows << row.topLabel + u' ' + row.bottomLabel + u' ' + row.iconView;
-    EXPECT_EQ(rows, (QStringList{QStringLiteral("首页 Home left_home"), QStringLiteral("我的账户 Account left_myaccount"),
+    EXPECT_EQ(rows, (QStringList{QStringLiteral("首页 Home left_home"),
+                                 QStringLiteral("我的账户 Account left_myaccount"),
                                  QStringLiteral("超级合伙人 Partner super_partner")}));
 }
 

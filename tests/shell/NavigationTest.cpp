@@ -76,9 +76,11 @@ TEST_F(NavigationTest, AScreenKnowsItsWindowWhenItIsLoaded)
 TEST_F(NavigationTest, PushAndPopTellBothScreensInTurn)
 {
     push("detail");
-    EXPECT_EQ(told(), "detail load\nhome willDisappear\ndetail willAppear\nhome didDisappear\ndetail didAppear");
+    EXPECT_EQ(told(),
+              "detail load\nhome willDisappear\ndetail willAppear\nhome didDisappear\ndetail didAppear");
     content()->pop();
-    EXPECT_EQ(told(), "detail willDisappear\nhome willAppear\ndetail didDisappear\nhome didAppear\ndetail gone");
+    EXPECT_EQ(told(),
+              "detail willDisappear\nhome willAppear\ndetail didDisappear\nhome didAppear\ndetail gone");
     content()->pop();
     EXPECT_EQ(told(), "") << "the root stays";
 }
@@ -90,7 +92,8 @@ TEST_F(NavigationTest, PoppingOverSeveralTellsNothingToThoseBetween)
     push("c");
     told();
     content()->popToRoot();
-    EXPECT_EQ(told(), "c willDisappear\nhome willAppear\nc didDisappear\nhome didAppear\nc gone\nb gone\na gone");
+    EXPECT_EQ(told(),
+              "c willDisappear\nhome willAppear\nc didDisappear\nhome didAppear\nc gone\nb gone\na gone");
     content()->popToRoot();
     EXPECT_EQ(told(), "");
 }
@@ -183,7 +186,8 @@ TEST_F(NavigationTest, WhatHappensUnderASignInAppearsOnceWhenItIsGone)
     push("trading");
     EXPECT_EQ(told(), "trading load");
     window.dismiss(signIn);
-    EXPECT_EQ(told(), "code willDisappear\ncode didDisappear\ntrading willAppear\ntrading didAppear\nentry gone\ncode gone");
+    EXPECT_EQ(told(), "code willDisappear\ncode didDisappear\ntrading willAppear\ntrading didAppear\nentry "
+                      "gone\ncode gone");
 }
 
 TEST_F(NavigationTest, ContentChangedUnderASignInAppearsOnceWhenItIsGone)
@@ -193,7 +197,8 @@ TEST_F(NavigationTest, ContentChangedUnderASignInAppearsOnceWhenItIsGone)
     window.sideMenu()->setContent(stackOf("account"));
     EXPECT_EQ(told(), "account load\nhome gone");
     window.dismiss(signIn);
-    EXPECT_EQ(told(), "entry willDisappear\nentry didDisappear\naccount willAppear\naccount didAppear\nentry gone");
+    EXPECT_EQ(told(),
+              "entry willDisappear\nentry didDisappear\naccount willAppear\naccount didAppear\nentry gone");
 }
 
 TEST_F(NavigationTest, DismissingFromBelowLeavesWhatIsOnTop)
@@ -215,8 +220,8 @@ TEST_F(NavigationTest, PresentingWhileAnotherIsBeingDismissedShowsOnlyTheNewOne)
     KRNavigationController *const stack = window.present(std::move(first));
     told();
     window.dismiss(stack);
-    EXPECT_EQ(told(),
-              "first willDisappear\nsecond load\nfirst didDisappear\nsecond willAppear\nsecond didAppear\nfirst gone");
+    EXPECT_EQ(told(), "first willDisappear\nsecond load\nfirst didDisappear\nsecond willAppear\nsecond "
+                      "didAppear\nfirst gone");
     EXPECT_EQ(window.presented()->count(), 1);
 }
 
@@ -225,8 +230,10 @@ TEST_F(NavigationTest, AScreenThatLeavesWhileItAppearsIsToldToTheEnd)
     auto fleeting = screen("fleeting");
     fleeting->on(QStringLiteral("willAppear"), [this] { content()->pop(); });
     content()->push(std::move(fleeting));
-    EXPECT_EQ(told(), "fleeting load\nhome willDisappear\nfleeting willAppear\nhome didDisappear\nfleeting didAppear\n"
-                      "fleeting willDisappear\nhome willAppear\nfleeting didDisappear\nhome didAppear\nfleeting gone");
+    EXPECT_EQ(
+        told(),
+        "fleeting load\nhome willDisappear\nfleeting willAppear\nhome didDisappear\nfleeting didAppear\n"
+        "fleeting willDisappear\nhome willAppear\nfleeting didDisappear\nhome didAppear\nfleeting gone");
 }
 
 TEST_F(NavigationTest, AScreenMayAskForASignInWhileItAppears)
@@ -234,8 +241,9 @@ TEST_F(NavigationTest, AScreenMayAskForASignInWhileItAppears)
     auto guarded = screen("guarded");
     guarded->on(QStringLiteral("didAppear"), [this] { window.present(screen("entry")); });
     content()->push(std::move(guarded));
-    EXPECT_EQ(told(), "guarded load\nhome willDisappear\nguarded willAppear\nhome didDisappear\nguarded didAppear\n"
-                      "entry load\nguarded willDisappear\nguarded didDisappear\nentry willAppear\nentry didAppear");
+    EXPECT_EQ(told(),
+              "guarded load\nhome willDisappear\nguarded willAppear\nhome didDisappear\nguarded didAppear\n"
+              "entry load\nguarded willDisappear\nguarded didDisappear\nentry willAppear\nentry didAppear");
 }
 
 TEST_F(NavigationTest, AContentThatPresentsWhileItLoadsIsCoveredByIt)
@@ -243,8 +251,9 @@ TEST_F(NavigationTest, AContentThatPresentsWhileItLoadsIsCoveredByIt)
     auto commissions = screen("commissions");
     commissions->on(QStringLiteral("load"), [this] { window.present(screen("rules")); });
     window.sideMenu()->setContent(std::make_unique<KRNavigationController>(std::move(commissions)));
-    EXPECT_EQ(told(), "commissions load\nrules load\nhome willDisappear\nhome didDisappear\nrules willAppear\n"
-                      "rules didAppear\nhome gone");
+    EXPECT_EQ(told(),
+              "commissions load\nrules load\nhome willDisappear\nhome didDisappear\nrules willAppear\n"
+              "rules didAppear\nhome gone");
 }
 
 TEST_F(NavigationTest, ANewRootTakesEverythingOfTheOldOneAway)
@@ -264,7 +273,8 @@ TEST_F(NavigationTest, TheGuideAppearsIsCoveredAndGoes)
     fresh.setRoot(screen("guide"));
     EXPECT_EQ(told(), "guide load\nguide willAppear\nguide didAppear");
     KRNavigationController *const pushed = fresh.present(screen("message"));
-    EXPECT_EQ(told(), "message load\nguide willDisappear\nguide didDisappear\nmessage willAppear\nmessage didAppear");
+    EXPECT_EQ(told(),
+              "message load\nguide willDisappear\nguide didDisappear\nmessage willAppear\nmessage didAppear");
     fresh.dismiss(pushed);
     told();
     fresh.setRoot(std::make_unique<KRSideMenu>(stackOf("first"), screen("panel")));
@@ -320,7 +330,8 @@ TEST_F(NavigationTest, LeavingAScreenTakesItsBannersAndTheIndicatorAway)
     content()->pop();
     EXPECT_EQ(banners(), QStringList());
     EXPECT_FALSE(overlays.isWaiting());
-    EXPECT_EQ(kits.calls, (QStringList{QStringLiteral("endLogPageView PageOne"), QStringLiteral("beginLogPageView PageOne")}));
+    EXPECT_EQ(kits.calls, (QStringList{QStringLiteral("endLogPageView PageOne"),
+                                       QStringLiteral("beginLogPageView PageOne")}));
 }
 
 TEST_F(NavigationTest, ASwipeBackIsAllowedUntilAScreenForbidsIt)

@@ -124,7 +124,8 @@ TEST_F(OverlayTest, AnAlertsButtonRunsItsActionOnceAfterTheAlertIsGone)
     int rights = 0;
     int standing = -1;
     auto alert = std::make_unique<TZInfoAlertView>(
-        TZInfoAlertViewModel{QStringLiteral("提示"), QStringLiteral("确定？"), QStringLiteral("取消"), QStringLiteral("确定")},
+        TZInfoAlertViewModel{QStringLiteral("提示"), QStringLiteral("确定？"), QStringLiteral("取消"),
+                             QStringLiteral("确定")},
         OwnedAction(), OwnedAction{&owner, [&] {
                                        ++rights;
                                        standing = window.dialogs()->count();

@@ -3,7 +3,6 @@
 #include "core/shell/KRBaseController.h"
 
 #include <QStringList>
-
 #include <functional>
 
 /// A screen that writes down what it is told as "name call", and may do something on a call.

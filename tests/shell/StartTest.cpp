@@ -12,7 +12,8 @@ QVariantMap message(const QVariant &pageId, const QVariant &data)
     return {{QStringLiteral("pageId"), pageId}, {QStringLiteral("data"), data}};
 }
 
-const QVariantMap fields{{QStringLiteral("id"), QStringLiteral("7")}, {QStringLiteral("title"), QStringLiteral("通知")}};
+const QVariantMap fields{{QStringLiteral("id"), QStringLiteral("7")},
+                         {QStringLiteral("title"), QStringLiteral("通知")}};
 } // namespace
 
 /// The whole start-up as one list of calls: the kits', the router's, the settings' and the network's.
@@ -22,7 +23,8 @@ protected:
     {
         application.version = QStringLiteral("100");
         settings.values.insert(SettingsKeys::bundleVersion, QStringLiteral("100"));
-        QObject::connect(&window, &KRWindow::visibleChanged, [this] { kits.calls << QStringLiteral("window visible"); });
+        QObject::connect(&window, &KRWindow::visibleChanged,
+                         [this] { kits.calls << QStringLiteral("window visible"); });
         QObject::connect(&window, &KRWindow::rootChanged, [this] { kits.calls << QStringLiteral("guide"); });
         QObject::connect(&notifications, &NotificationCenter::posted, [this](const QString &name) {
             kits.calls << QStringLiteral("post ") + name;
@@ -103,7 +105,8 @@ TEST_F(StartTest, TheGuideIsShownOncePerBuildVersion)
 
     guide->removeGuideView();
     guide->removeGuideView();
-    EXPECT_EQ(router.calls, QStringList{QStringLiteral("setupSideMenuController")}) << "a second tap does nothing";
+    EXPECT_EQ(router.calls, QStringList{QStringLiteral("setupSideMenuController")})
+        << "a second tap does nothing";
 
     Service::logout();
     KRWindow next;
@@ -155,8 +158,9 @@ TEST_F(StartTest, EachChangeOfTheNetworkIsKept)
         NetworkStatus status;
         bool reachable;
     };
-    for (const Case &change : {Case{NetworkStatus::NotReachable, false}, Case{NetworkStatus::ReachableViaWWAN, true},
-                               Case{NetworkStatus::NotReachable, false}, Case{NetworkStatus::ReachableViaWiFi, true}}) {
+    for (const Case &change :
+         {Case{NetworkStatus::NotReachable, false}, Case{NetworkStatus::ReachableViaWWAN, true},
+          Case{NetworkStatus::NotReachable, false}, Case{NetworkStatus::ReachableViaWiFi, true}}) {
         overlays.hideBanners();
         reachability.change(change.status);
         EXPECT_EQ(settings.values.value(SettingsKeys::networkStatus), change.reachable);
@@ -189,7 +193,8 @@ TEST_F(StartTest, TheAliasFollowsTheStoredUser)
         {QVariant(), {}},
         {QVariantMap{{token, QStringLiteral("abc")}}, {QStringLiteral("setAlias abc api_token")}},
         {QVariantMap{{token, QString()}}, {QStringLiteral("setAlias off_line api_token")}},
-        {QVariantMap{{QStringLiteral("cell"), QStringLiteral("13800138000")}}, {QStringLiteral("setAlias off_line api_token")}},
+        {QVariantMap{{QStringLiteral("cell"), QStringLiteral("13800138000")}},
+         {QStringLiteral("setAlias off_line api_token")}},
     };
     for (const Case &stored : cases) {
         settings.values.remove(SettingsKeys::user);
@@ -262,7 +267,8 @@ TEST_F(StartTest, ThePushServiceHearsOfAMessageBeforeAnyoneElse)
     start();
     kits.calls.clear();
     kits.push(message(3, fields));
-    EXPECT_EQ(kits.calls, (QStringList{QStringLiteral("didReceiveRemoteNotification"), QStringLiteral("post remote_stock")}));
+    EXPECT_EQ(kits.calls, (QStringList{QStringLiteral("didReceiveRemoteNotification"),
+                                       QStringLiteral("post remote_stock")}));
 }
 
 TEST_F(StartTest, TokensAndUrlsAreHandedToTheirKits)
@@ -270,6 +276,7 @@ TEST_F(StartTest, TokensAndUrlsAreHandedToTheirKits)
     shell.didRegisterForRemoteNotificationsWithDeviceToken("d3vice");
     EXPECT_FALSE(shell.openURL(QStringLiteral("wx://back")));
     EXPECT_FALSE(shell.handleOpenURL(QStringLiteral("qq://back")));
-    EXPECT_EQ(kits.calls, (QStringList{QStringLiteral("registerDeviceToken d3vice"), QStringLiteral("handleOpenUrl wx://back"),
+    EXPECT_EQ(kits.calls, (QStringList{QStringLiteral("registerDeviceToken d3vice"),
+                                       QStringLiteral("handleOpenUrl wx://back"),
                                        QStringLiteral("handleOpenUrl qq://back")}));
 }
