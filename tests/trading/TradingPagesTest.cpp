@@ -342,15 +342,20 @@ TEST_F(WithdrawalsTest, AnEntrustWithoutIdentifierLeavesNoIndicatorBehind)
     EXPECT_EQ(http.countOf(statusPath), 0);
 }
 
-TEST_F(WithdrawalsTest, LeavingEndsTheWatch)
+TEST_F(WithdrawalsTest, LeavingEndsTheWatchAndComingBackReadsTheListAgain)
 {
     cancel(0);
     http.answer(cancelPath, succeeded());
-    window.present(std::make_unique<KRBaseController>());
+    KRNavigationController *const covering = window.present(std::make_unique<KRBaseController>());
     const int asked = http.countOf(statusPath);
     runLoop.advance(1min);
     EXPECT_EQ(http.countOf(statusPath), asked);
     EXPECT_FALSE(overlays.isWaiting());
+    const int reads = http.countOf("callBackPage");
+    covering->dismiss();
+    EXPECT_EQ(http.countOf("callBackPage"), reads + 1);
+    runLoop.advance(1min);
+    EXPECT_EQ(http.countOf(statusPath), asked);
 }
 
 class TodayTest : public TradingFixture {

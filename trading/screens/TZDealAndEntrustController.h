@@ -53,6 +53,7 @@ class TZDealAndEntrustController : public KRBaseController {
 public:
     /// The tags of the title buttons.
     enum TitleTag { EntrustTag = 10000, DealTag };
+    Q_ENUM(TitleTag)
 
     TZDealAndEntrustController();
 

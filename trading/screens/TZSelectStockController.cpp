@@ -73,6 +73,7 @@ void TZSelectStockController::viewDidLoad()
     KRBaseController::viewDidLoad();
     setTitle(QStringLiteral("选择股票"));
     setShowBackButton(true);
+    changeGrayBgColor();
     NotificationCenter &notifications = Platform::current().notifications;
     notifications.observe(this, TZStockInfoTool::stockTableReplaced,
                           [this](const QVariant &) { readListState(); });

@@ -6,6 +6,8 @@
 #include "trading/api/TZTradeTool.h"
 #include "trading/screens/TradeTexts.h"
 
+#include <utility>
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -39,12 +41,16 @@ void TZWithdrawalsController::viewWillAppear()
 {
     TradingListController::viewWillAppear();
     shown = true;
+    // Nobody asked meanwhile whether the cancellation is through.
+    if (std::exchange(watchInterrupted, false))
+        refreshData();
 }
 
 void TZWithdrawalsController::viewDidDisappear()
 {
     TradingListController::viewDidDisappear();
     shown = false;
+    watchInterrupted = timer.isActive();
     pending.stop();
     timer.stop();
 }

@@ -62,4 +62,5 @@ private:
     Timer pending;
     Timer timer;
     bool shown = false;
+    bool watchInterrupted = false;
 };

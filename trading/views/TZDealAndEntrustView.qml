@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQml.Models
 import Zorvane.Ui
 import Zorvane.Trading
 
@@ -28,32 +29,29 @@ PageFrame {
         cacheBuffer: width
         clip: true
         focus: true
-        keyNavigationEnabled: true
         currentIndex: page.screen.currentPage
         onCurrentIndexChanged: page.screen.currentPage = currentIndex
-        model: [page.screen.entrustTableView, page.screen.dealTableView]
 
-        delegate: RefreshableList {
-            id: list
-
-            required property int index
-            required property TodayList modelData
-
-            width: pages.width
-            height: pages.height
-            visible: enabled || pages.moving
-            enabled: pages.currentIndex === index
-            deep: true
-            canLoadMore: true
-            controller: modelData
-            model: modelData.rows
-            noDataText: page.screen.pageTitles[index]
-            Accessible.name: page.screen.pageTitles[index]
-
-            delegate: TodayCell {
-                id: cell
-                width: ListView.view.width
-                onClicked: list.index === 0 ? page.screen.selectEntrust(cell.index) : page.screen.selectDeal(cell.index)
+        model: ObjectModel {
+            TodayPage {
+                width: pages.width
+                height: pages.height
+                visible: pages.contentX < pages.width
+                enabled: pages.currentIndex === 0
+                name: page.screen.pageTitles[0]
+                noDataText: "暂无委托"
+                controller: page.screen.entrustTableView
+                onPicked: row => page.screen.selectEntrust(row)
+            }
+            TodayPage {
+                width: pages.width
+                height: pages.height
+                visible: pages.contentX > 0
+                enabled: pages.currentIndex === 1
+                name: page.screen.pageTitles[1]
+                noDataText: "暂无成交"
+                controller: page.screen.dealTableView
+                onPicked: row => page.screen.selectDeal(row)
             }
         }
     }

@@ -9,6 +9,8 @@ PageFrame {
 
     readonly property TZSelectStockController screen: controller as TZSelectStockController
 
+    colour: Theme.pageGray
+
     function move(event: KeyEvent) {
         const page = Math.max(1, Math.floor(list.height / Theme.rowHeight))
         const steps = {
