@@ -70,7 +70,7 @@ bool Tour::askForSignIn()
 bool Tour::sendCode()
 {
     return hand.type(QStringLiteral("请输入手机号"), cell) && hand.press(QStringLiteral("下一步")) &&
-           hand.waitFor(QStringLiteral("请输入短信验证码")) && hand.seesPart(QStringLiteral("138****8000")) &&
+           hand.waitFor(QStringLiteral("请输入短信验证码")) && hand.waitForPart(QStringLiteral("138****8000")) &&
            Hand::wait([this] { return !sandbox.codeFor(cell).isEmpty(); });
 }
 
