@@ -12,6 +12,7 @@
 #include "core/shell/TZLeftMenuController.h"
 #include "core/shell/TZPlainPageController.h"
 #include "core/shell/TZTradePwdAlertView.h"
+#include "core/util/Amount.h"
 #include "ui/ViewType.h"
 
 // The classes that views of every area know.
@@ -70,4 +71,9 @@ struct TZPlainPageControllerForViews {
 struct TZTradePwdAlertViewForViews {
     Q_GADGET
     ZV_VIEW_TYPE_AS(TZTradePwdAlertView, TZTradePwdAlertDialog)
+};
+struct UnitTextForViews {
+    Q_GADGET
+    QML_FOREIGN(UnitText)
+    QML_VALUE_TYPE(unitText)
 };

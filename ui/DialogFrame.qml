@@ -2,7 +2,7 @@ import QtQuick
 import Zorvane.Ui
 
 /// The card of a dialog over the dimmed window; children are laid under each other in it. Esc cancels.
-FocusTrap {
+FocusScope {
     id: frame
 
     required property KRDialog dialog

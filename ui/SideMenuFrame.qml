@@ -27,7 +27,12 @@ FocusScope {
         anchors.fill: parent
         color: Theme.menuBackground
     }
-    FocusTrap {
+    FocusGuard {
+        scope: frame
+        front: frame.sideMenu.open ? menu : content
+    }
+    FocusScope {
+        id: menu
         anchors.fill: parent
         visible: frame.progress > 0
         focus: frame.sideMenu.open

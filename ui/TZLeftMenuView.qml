@@ -8,6 +8,8 @@ FocusScope {
 
     required property TZLeftMenuController controller
 
+    focus: true
+
     Column {
         anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter }
         spacing: Theme.spacingSmall

@@ -99,6 +99,7 @@ FocusScope {
         width: visible ? Theme.touchTarget : 0
         visible: row.clearButton && field.activeFocus && field.length > 0 && !field.readOnly
         activeFocusOnTab: false
+        focusPolicy: Qt.NoFocus
         image: "field_clear"
         size: 18
         text: "清除"

@@ -1,7 +1,7 @@
 import QtQuick
 
 /// Covers the window while something is asked for; nothing under it can be reached.
-FocusTrap {
+FocusScope {
     id: indicator
 
     required property string status

@@ -19,19 +19,20 @@ FocusScope {
     }
 
     function focusTop() {
-        if (indicator.visible)
-            indicator.focus = true
-        else if (dialogs.count > 0)
-            dialogs.itemAt(dialogs.count - 1).focus = true
-        else if (presented.count > 0)
-            presented.itemAt(presented.count - 1).focus = true
-        else
-            rootView.focus = true
+        const front = indicator.visible ? indicator
+                    : dialogs.count > 0 ? dialogs.itemAt(dialogs.count - 1)
+                    : presented.count > 0 ? presented.itemAt(presented.count - 1) : rootView
+        guard.front = front
+        front.focus = true
     }
 
     focus: true
     Component.onCompleted: focusTop()
 
+    FocusGuard {
+        id: guard
+        scope: main
+    }
     Connections {
         target: main.window
         function onEditingEnded() {
