@@ -54,16 +54,14 @@ PageFrame {
     ContentList {
         id: list
         anchors { left: parent.left; right: parent.right; top: top.bottom; bottom: parent.bottom }
-        activeFocusOnTab: count > 0
+        // The arrow keys of the field move through it.
+        activeFocusOnTab: false
         reuseItems: true
         model: page.screen.rows
         currentIndex: page.screen.currentRow
         highlightMoveDuration: 0
         onDragStarted: page.screen.scrollViewWillBeginDragging()
         Accessible.name: page.screen.title
-        Keys.onPressed: event => page.move(event)
-        Keys.onReturnPressed: page.screen.pickCurrentRow()
-        Keys.onEnterPressed: page.screen.pickCurrentRow()
 
         delegate: StockDelegate {
             width: ListView.view.width
@@ -128,6 +126,7 @@ PageFrame {
         implicitHeight: Theme.rowHeight
         ringInset: 2
         activeFocusOnTab: false
+        focusPolicy: Qt.NoFocus
         text: sentence
         Accessible.role: Accessible.ListItem
         Accessible.selected: current
