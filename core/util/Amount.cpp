@@ -3,6 +3,7 @@
 #include "core/util/Service.h"
 #include "core/util/Text.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -50,6 +51,13 @@ QString labelAmount(const QVariant &amount)
 QString labelAmountWithYuan(const QVariant &amount)
 {
     return withYuan(labelAmount(amount));
+}
+
+UnitText setAttributeWithText(const QString &text)
+{
+    constexpr qsizetype unitLength = 3;
+    const qsizetype unit = std::min(unitLength, text.size());
+    return {text.chopped(unit), text.last(unit)};
 }
 
 QString clearSpaceAndWrap(const QString &text)

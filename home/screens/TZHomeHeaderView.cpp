@@ -1,6 +1,5 @@
 #include "home/screens/TZHomeHeaderView.h"
 
-#include "core/util/Amount.h"
 #include "core/util/Service.h"
 #include "core/util/Text.h"
 

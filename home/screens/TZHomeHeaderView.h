@@ -1,10 +1,12 @@
 #pragma once
 
+#include "core/util/Amount.h"
 #include "home/api/TZUserIndexModel.h"
 
 /// The asset summary of a signed-in user, as its view draws it.
 class TZHomeHeaderView {
     Q_GADGET
+    Q_PROPERTY(UnitText assetTitle MEMBER assetTitle)
     Q_PROPERTY(QString totalAsset MEMBER totalAsset)
     /// The line of the floating profit: the grey prefix, then the figure.
     Q_PROPERTY(QString profitPrefix MEMBER profitPrefix)
@@ -23,6 +25,7 @@ class TZHomeHeaderView {
 public:
     void setModels(const TZUserIndexModel &index, const TZUserIndexAssetModel &asset);
 
+    UnitText assetTitle = setAttributeWithText(QStringLiteral("总资产（元）"));
     QString totalAsset;
     QString profitPrefix = QStringLiteral("浮盈  ");
     QString profit;

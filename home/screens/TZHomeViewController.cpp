@@ -6,7 +6,6 @@
 #include "core/session/NotificationNames.h"
 #include "core/shell/KRSideMenu.h"
 #include "core/shell/KRWindow.h"
-#include "core/util/Amount.h"
 #include "core/util/Service.h"
 #include "core/util/Text.h"
 #include "home/api/TZHomeTool.h"
@@ -21,11 +20,12 @@ const QString noMessage = QStringLiteral("no_message");
 
 TZHomeViewController::TZHomeViewController(Router &appRouter) : router(appRouter) {}
 
-QString TZHomeViewController::overviewTitle() const
+UnitText TZHomeViewController::overviewTitle() const
 {
-    return overviewKnown
-               ? QStringLiteral("%1位用户在操盘（元）").arg(integerValue(loanOverviewModel.loanUserAmount))
-               : QString();
+    if (!overviewKnown)
+        return {};
+    return setAttributeWithText(
+        QStringLiteral("%1位用户在操盘（元）").arg(integerValue(loanOverviewModel.loanUserAmount)));
 }
 
 QString TZHomeViewController::overviewAmount() const

@@ -3,6 +3,7 @@
 #include "core/platform/Timer.h"
 #include "core/shell/Router.h"
 #include "core/shell/TZBaseTableViewController.h"
+#include "core/util/Amount.h"
 #include "core/util/RowListModel.h"
 #include "home/api/TZLoanOverviewModel.h"
 #include "home/api/TZUserIndexModel.h"
@@ -17,7 +18,7 @@ class TZHomeViewController : public TZBaseTableViewController {
     Q_OBJECT
     Q_PROPERTY(Face face READ face NOTIFY faceChanged)
     /// The signed-out head line and the amount below it, in yuan.
-    Q_PROPERTY(QString overviewTitle READ overviewTitle NOTIFY overviewChanged)
+    Q_PROPERTY(UnitText overviewTitle READ overviewTitle NOTIFY overviewChanged)
     Q_PROPERTY(QString overviewAmount READ overviewAmount NOTIFY overviewChanged)
     Q_PROPERTY(TZHomeHeaderView header READ header NOTIFY headerChanged)
     Q_PROPERTY(QString custodyText READ custodyText CONSTANT)
@@ -31,7 +32,7 @@ public:
     explicit TZHomeViewController(Router &router);
 
     Face face() const { return shownFace; }
-    QString overviewTitle() const;
+    UnitText overviewTitle() const;
     QString overviewAmount() const;
     TZHomeHeaderView header() const { return loginView; }
     QString custodyText() const { return QStringLiteral("账户托管至新浪支付"); }

@@ -6,7 +6,7 @@ Item {
     id: hero
 
     required property string picture
-    property string title
+    required property unitText title
     property string amount
     default property alias details: column.data
 
@@ -26,15 +26,10 @@ Item {
         y: Math.max(Theme.spacingHuge, Math.round((parent.height - height) * 0.38))
         spacing: Theme.spacingSmall
 
-        Text {
-            width: parent.width
-            text: hero.title
-            font: Theme.body
+        UnitText {
+            anchors.horizontalCenter: parent.horizontalCenter
+            value: hero.title
             color: Theme.deep.textSecondary
-            horizontalAlignment: Text.AlignHCenter
-            elide: Text.ElideRight
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
         }
         AmountText {
             width: parent.width

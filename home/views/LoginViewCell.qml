@@ -15,7 +15,7 @@ Item {
         id: hero
         anchors { left: parent.left; right: parent.right; top: parent.top; bottom: mid.top }
         picture: "home_glow"
-        title: "总资产（元）"
+        title: cell.header.assetTitle
         amount: cell.header.totalAsset
 
         Row {

@@ -193,6 +193,18 @@ TEST(Amount, CutsOnButtonsInSinglePrecisionAndRoundsOnLabels)
     EXPECT_EQ(labelAmountWithYuan(text("")), QString());
 }
 
+TEST(Amount, SetsTheLastThreeCharactersApartAsTheUnit)
+{
+    const auto parts = [](const char *whole) {
+        const UnitText text = setAttributeWithText(QString::fromUtf8(whole));
+        return (text.figure + u'|' + text.unit).toStdString();
+    };
+    EXPECT_EQ(parts("总资产（元）"), "总资产|（元）");
+    EXPECT_EQ(parts("（元）"), "|（元）");
+    EXPECT_EQ(parts("元"), "|元");
+    EXPECT_EQ(parts(""), "|");
+}
+
 TEST(Amount, ClearsSpacesButKeepsLineBreaks)
 {
     EXPECT_EQ(clearSpaceAndWrap(QStringLiteral("\t 1 2\n3 4\t")), QStringLiteral("12\n34"));

@@ -87,9 +87,10 @@ TEST_F(HomePageTest, SignedOutItShowsTheFiguresAndThenTheLoansOfOthers)
     show();
     EXPECT_EQ(home->face(), Face::SignedOut);
     EXPECT_EQ(http.count(), 1) << "the loans are read once the figures are there";
-    EXPECT_TRUE(home->overviewTitle().isEmpty());
+    EXPECT_EQ(home->overviewTitle(), UnitText());
     http.answer(loanOverview, overview());
-    EXPECT_EQ(home->overviewTitle(), QStringLiteral("12683位用户在操盘（元）"));
+    EXPECT_EQ(home->overviewTitle(),
+              (UnitText{QStringLiteral("12683位用户在操盘"), QStringLiteral("（元）")}));
     EXPECT_EQ(home->overviewAmount(), QStringLiteral("386,520,000.00"));
     http.answer(recentLoans,
                 succeeded(QVariantList{QVariantMap{{QStringLiteral("nick"), QStringLiteral("小李")},
@@ -135,7 +136,7 @@ TEST_F(HomePageTest, OfflineAtTheFirstLaunchItIsNotEmpty)
 {
     settings.setValue(SettingsKeys::networkStatus, false);
     show();
-    EXPECT_FALSE(home->overviewTitle().isEmpty());
+    EXPECT_FALSE(home->overviewTitle() == UnitText());
     EXPECT_GE(home->boardcastArr()->count(), 5);
     EXPECT_EQ(ticks(2), (QList<int>{0, 1}));
     EXPECT_EQ(http.count(), 0);
