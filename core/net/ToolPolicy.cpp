@@ -43,7 +43,7 @@ Success ToolPolicy::cached(const QString &key, Success success, Hand hand)
     const QString token = TZUserModel::stored().api_token;
     return gated(Success::unowned([key, token, hand, success = std::move(success)](
                                       const Operation &operation, const QVariantMap &answer) {
-        if (!token.isEmpty() && token != TZUserModel::stored().api_token)
+        if (token != TZUserModel::stored().api_token)
             return;
         SettingsStore &settings = Platform::current().settings;
         const QVariantMap cleaned = Service::processDictionaryIsNSNull(answer).toMap();

@@ -30,8 +30,8 @@ Success gated(Success success, Indicator indicator = Indicator::Hide);
 /// Calls `success` for every answer, the indicator hidden first.
 Success passed(Success success);
 
-/// As `gated`, and stores the answer under `key` without its nulls before handing it on. An answer to a user
-/// who has signed out since the call is dropped.
+/// As `gated`, and stores the answer under `key` without its nulls before handing it on. An answer that
+/// comes when another user, or none, has taken the place of the one who asked is dropped.
 Success cached(const QString &key, Success success, Hand hand = Hand::AsReceived);
 
 /// The copy that `cached` stored; empty when there is none.

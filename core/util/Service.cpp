@@ -13,6 +13,7 @@
 #include <QRegularExpression>
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace {
 

@@ -316,9 +316,11 @@ TEST_F(ToolPolicyTest, AnswersFromTheStoredCopyWithoutANetwork)
     EXPECT_EQ(http.count(), 1);
 }
 
-TEST_F(ToolPolicyTest, KeepsNoAnswerOfAUserWhoHasSignedOut)
+TEST_F(ToolPolicyTest, KeepsNoAnswerThatWasMeantForAnotherUser)
 {
+    call();
     signIn();
+    http.answer(QStringLiteral("holding"), succeeded());
     call();
     Service::logout();
     http.answer(QStringLiteral("holding"), succeeded());
