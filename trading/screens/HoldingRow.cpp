@@ -1,6 +1,7 @@
 #include "trading/screens/HoldingRow.h"
 
 #include "core/util/Amount.h"
+#include "core/util/Service.h"
 #include "core/util/Text.h"
 
 #include <QStringList>
@@ -8,7 +9,7 @@
 namespace {
 QString percent(const QString &rate)
 {
-    return rate.isEmpty() || rate.endsWith(u'%') ? rate : rate + u'%';
+    return Service::whetherAnEmptyString(rate) || rate.endsWith(u'%') ? rate : rate + u'%';
 }
 } // namespace
 

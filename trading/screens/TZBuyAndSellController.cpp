@@ -37,14 +37,14 @@ bool wantsTradePassword(const QVariantMap &answer)
 TZBuyAndSellController::TZBuyAndSellController(OrderSide orderSide, TZZorvanePageStocksModel tradedStock,
                                                const QObject *owner, HoldingsDelegate *holdingsDelegate)
     : side(orderSide), texts(OrderTexts::of(orderSide)), stock(std::move(tradedStock)), delegateOwner(owner),
-      delegate(holdingsDelegate), stockSelectable(stock.stockCode.isEmpty())
+      delegate(holdingsDelegate), stockSelectable(Service::whetherAnEmptyString(stock.stockCode))
 {
     forgetQuotes();
 }
 
 QString TZBuyAndSellController::stockText() const
 {
-    return stock.stockCode.isEmpty() ? QString() : stockLabel(stock.stockName, stock.stockCode);
+    return Service::whetherAnEmptyString(stock.stockCode) ? QString() : stockLabel(stock.stockName, stock.stockCode);
 }
 
 QString TZBuyAndSellController::currentPriceText() const
@@ -69,7 +69,7 @@ void TZBuyAndSellController::viewWillAppear()
     KRBaseController::viewWillAppear();
     shown = true;
     setTitle(texts.title);
-    if (!isBuyType() || !stock.stockCode.isEmpty())
+    if (!isBuyType() || !Service::whetherAnEmptyString(stock.stockCode))
         startQuoteTimer();
 }
 
@@ -92,7 +92,7 @@ void TZBuyAndSellController::getBuyPage()
     const auto answered = [this](const Operation &, const QVariantMap &answer) {
         usable = doubleValue(answer.value(dataKey));
         // A price may have been typed or tapped before the answer came.
-        if (isBuyType() && !priceField.isEmpty())
+        if (isBuyType() && !Service::whetherAnEmptyString(priceField))
             countTypedPrice();
     };
     TZTradeTool::getBuyPageWithParam({}, Success{this, answered}, {});
@@ -222,7 +222,7 @@ void TZBuyAndSellController::countAffordable(double price)
 
 void TZBuyAndSellController::countHolding()
 {
-    if (isBuyType() || stock.availableShares.isEmpty())
+    if (isBuyType() || Service::whetherAnEmptyString(stock.availableShares))
         return;
     limit = integerValue(stock.availableShares);
     setCountLabel(texts.count.arg(stock.availableShares));
@@ -232,7 +232,7 @@ void TZBuyAndSellController::selectFraction(int tag)
 {
     if (tag < OrderEntryRules::Quarter || tag > OrderEntryRules::All)
         return;
-    if (isBuyType() && priceField.isEmpty())
+    if (isBuyType() && Service::whetherAnEmptyString(priceField))
         setQuantity(QStringLiteral("0"), tag);
     const qint64 shares = OrderEntryRules::fractionOf(limit, static_cast<OrderEntryRules::Fraction>(tag));
     setQuantity(QString::number(shares), tag);

@@ -2,15 +2,13 @@
 
 #include "core/platform/NotificationCenter.h"
 #include "core/platform/Platform.h"
+#include "core/util/Service.h"
 #include "core/util/Text.h"
 
 #include <algorithm>
 
 namespace {
-QString orDashes(const QString &text)
-{
-    return text.isEmpty() ? QStringLiteral("--") : text;
-}
+const QString noFigure = QStringLiteral("--");
 
 int trendOf(const QString &price, double previousClose)
 {
@@ -22,13 +20,14 @@ int trendOf(const QString &price, double previousClose)
 
 HandicapRow rowOf(const TZHandicapModel &level, const TZHandicapView::Scale &scale)
 {
+    const bool hasPrice = !Service::whetherAnEmptyString(level.price);
     const double volume = std::max(doubleValue(level.volume), 0.0);
     return {level.title,
-            orDashes(level.price),
-            orDashes(level.volume),
+            hasPrice ? level.price : noFigure,
+            Service::whetherAnEmptyString(level.volume) ? noFigure : level.volume,
             scale.deepestVolume > 0 ? volume / scale.deepestVolume : 0,
             trendOf(level.price, scale.previousClose),
-            !level.price.isEmpty()};
+            hasPrice};
 }
 } // namespace
 
@@ -53,7 +52,7 @@ void TZHandicapView::setLevels(const QList<TZHandicapModel> &levels, const Scale
 void TZHandicapView::selectHandicap(int row)
 {
     const QString price = shownLevels.value(row).price;
-    if (!price.isEmpty())
+    if (!Service::whetherAnEmptyString(price))
         Platform::current().notifications.post(priceSelectNotification,
                                                QVariantMap{{QStringLiteral("price"), price}});
 }

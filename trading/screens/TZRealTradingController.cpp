@@ -23,7 +23,7 @@ const QString dataKey = QStringLiteral("data");
 
 QString figure(const QString &amount)
 {
-    return amount.isEmpty() ? QStringLiteral("--") : labelAmount(amount);
+    return Service::whetherAnEmptyString(amount) ? QStringLiteral("--") : labelAmount(amount);
 }
 } // namespace
 
@@ -179,7 +179,8 @@ void TZRealTradingController::rightItemClick()
 
 void TZRealTradingController::showWarning()
 {
-    if (warnInfo.warnLine.isEmpty() && warnInfo.closeOutLine.isEmpty())
+    if (Service::whetherAnEmptyString(warnInfo.warnLine) &&
+        Service::whetherAnEmptyString(warnInfo.closeOutLine))
         return;
     const QString lines =
         QStringLiteral("亏损警告线 %1\n亏损平仓线 %2")

@@ -58,7 +58,7 @@ QList<TZStockInfoModel> storedRecent()
 {
     const QVariant stored = Platform::current().settings.value(TZSelectStockController::recentStocksKey);
     QList<TZStockInfoModel> stocks = fromArray<TZStockInfoModel>(stored);
-    stocks.removeIf([](const TZStockInfoModel &stock) { return stock.c.isEmpty(); });
+    stocks.removeIf([](const TZStockInfoModel &stock) { return Service::whetherAnEmptyString(stock.c); });
     return stocks.mid(0, TZSelectStockController::maximumRecent);
 }
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "core/shell/KRNavigationController.h"
 #include "core/util/Amount.h"
+#include "core/util/Service.h"
 #include "core/util/Text.h"
 #include "trading/api/TZTradeTool.h"
 #include "trading/screens/HoldingRow.h"
@@ -47,11 +48,11 @@ void TZStockDetailController::showDetail(const QVariantMap &data)
 {
     const auto text = [&data](const QString &key) { return textForm(data.value(key)); };
     const QString price = text(QStringLiteral("currentPrice"));
-    if (!price.isEmpty())
+    if (!Service::whetherAnEmptyString(price))
         currentPrice = price;
     const QString change = text(QStringLiteral("change"));
     const QString rate = text(QStringLiteral("changeRate"));
-    changeText = rate.isEmpty() ? change : QStringLiteral("%1  %2%").arg(change, rate);
+    changeText = Service::whetherAnEmptyString(rate) ? change : QStringLiteral("%1  %2%").arg(change, rate);
     changeSign = signOf(change);
     Q_EMIT detailChanged();
 }

@@ -29,6 +29,20 @@ PageFrame {
         boundsBehavior: Flickable.StopAtBounds
         clip: true
 
+        readonly property Item focused: Window.activeFocusItem
+        onFocusedChanged: reveal(focused)
+
+        /// Scrolls to what the keyboard reached in a window too low for the whole book.
+        function reveal(item: Item) {
+            let up = item
+            while (up && up !== contentItem)
+                up = up.parent
+            if (!up)
+                return
+            const top = item.mapToItem(contentItem, 0, 0).y
+            contentY = Math.max(Math.min(contentY, top), top + item.height - height)
+        }
+
         Column {
             id: form
             width: parent.width - page.bookWidth
