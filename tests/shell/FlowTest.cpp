@@ -181,6 +181,22 @@ TEST_F(FlowTest, TheRechargeGateOpensTheFirstStepThatIsMissing)
     EXPECT_EQ(window.presented()->count(), 0);
 }
 
+TEST_F(FlowTest, AnIdleSignedInHomePageWakesNobody)
+{
+    signIn();
+    router.showHome(*frame()->content()->root());
+    for (FakeTransport::Sent &sent : http.sent) {
+        if (!sent.answered)
+            http.answer(sent, succeeded());
+    }
+    settle();
+    runLoop.advance(15s);
+    EXPECT_EQ(runLoop.activeTimers(), 0);
+    const int requests = http.count();
+    runLoop.advance(60s);
+    EXPECT_EQ(http.count(), requests);
+}
+
 TEST_F(FlowTest, APlainPageGoesBackOrCloses)
 {
     router.openFundRecords(*frame()->content()->root());
