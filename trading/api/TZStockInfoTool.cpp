@@ -59,7 +59,7 @@ void saveNewList(const QVariantMap &answer)
 {
     SettingsStore &settings = Platform::current().settings;
     const QString code = textForm(answer.value(QStringLiteral("code")));
-    if (!code.isEmpty()) {
+    if (!Service::whetherAnEmptyString(code)) {
         settings.setValue(SettingsKeys::infoVersion, code);
         settings.synchronize();
     }
@@ -76,7 +76,7 @@ Operation TZStockInfoTool::getStockInfoWithParam(const QVariantMap &, Success su
     if (tableProblem().isEmpty() && isTableEmpty() && !isSaving())
         Platform::current().settings.remove(SettingsKeys::infoVersion);
 
-    const auto done = [success](const Operation &operation, const QVariantMap &answer) {
+    const auto done = [success = std::move(success)](const Operation &operation, const QVariantMap &answer) {
         if (!ToolPolicy::succeeded(answer)) {
             saveNewList(answer);
             return;
