@@ -42,7 +42,7 @@ void TZRegisterController::clickAgreementBtn()
 
 bool TZRegisterController::isComplete() const
 {
-    const bool onlyBlanks = !invitation.isEmpty() && Service::removeSpacesFromString(invitation).isEmpty();
+    const bool onlyBlanks = !invitation.isEmpty() && Service::whetherAnEmptyString(invitation);
     return TZSmsCodeController::isComplete() && !onlyBlanks;
 }
 

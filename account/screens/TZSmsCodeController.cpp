@@ -16,8 +16,10 @@ const QString wrongNumber = QStringLiteral("手机号格式不正确，请重新
 
 QString TZSmsCodeController::bizCodeOf(const QVariantMap &answer)
 {
-    const QString code = textForm(answer.value(bizCodeKey));
-    return code.isEmpty() ? textForm(answer.value(QStringLiteral("data")).toMap().value(bizCodeKey)) : code;
+    const QVariant code = answer.value(bizCodeKey);
+    return textForm(Service::whetherAnEmptyString(code)
+                        ? answer.value(QStringLiteral("data")).toMap().value(bizCodeKey)
+                        : code);
 }
 
 QString TZSmsCodeController::headerText() const
@@ -49,7 +51,7 @@ void TZSmsCodeController::sendSms(const OwnedAction &complete)
                                                   if (!ToolPolicy::succeeded(answer))
                                                       return;
                                                   const QString renewed = bizCodeOf(answer);
-                                                  if (!renewed.isEmpty())
+                                                  if (!Service::whetherAnEmptyString(renewed))
                                                       requestData.insert(bizCodeKey, renewed);
                                                   complete();
                                               }},

@@ -188,8 +188,13 @@ TEST_F(SignInTest, TheBusinessCodeIsReadAsNumberAndInDataToo)
     sendNumber(started(1002));
     EXPECT_EQ(stack->top()->title(), QStringLiteral("登录"));
     stack->pop();
-    sendNumber(succeeded(QVariantMap{{QStringLiteral("bizCode"), QStringLiteral("1001")}}));
-    EXPECT_EQ(stack->top()->title(), QStringLiteral("注册"));
+    QVariantMap inData = succeeded(QVariantMap{{QStringLiteral("bizCode"), QStringLiteral("1001")}});
+    for (const char *empty : {"", "(null)"}) {
+        inData.insert(QStringLiteral("bizCode"), QLatin1String(empty));
+        sendNumber(inData);
+        EXPECT_EQ(stack->top()->title(), QStringLiteral("注册"));
+        stack->pop();
+    }
 }
 
 TEST_F(SignInTest, TwoTapsOnTheEntrySendOneCode)

@@ -44,7 +44,8 @@ TZBuyAndSellController::TZBuyAndSellController(OrderSide orderSide, TZZorvanePag
 
 QString TZBuyAndSellController::stockText() const
 {
-    return Service::whetherAnEmptyString(stock.stockCode) ? QString() : stockLabel(stock.stockName, stock.stockCode);
+    return Service::whetherAnEmptyString(stock.stockCode) ? QString()
+                                                          : stockLabel(stock.stockName, stock.stockCode);
 }
 
 QString TZBuyAndSellController::currentPriceText() const
