@@ -22,6 +22,7 @@ void TZBaseTableViewController::viewWillDisappear()
 
 void TZBaseTableViewController::viewDidDisappear()
 {
+    endRefreshing();
     hidenWaitngView();
 }
 

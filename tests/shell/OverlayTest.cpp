@@ -201,6 +201,10 @@ TEST_F(OverlayTest, ARefreshWithoutAnAnswerEndsAfterFifteenSeconds)
     EXPECT_EQ(runLoop.activeTimers(), 0) << "an answer ends the guard too";
     list.beginLoadingMore();
     EXPECT_EQ(list.loads, 1);
+    list.beginRefreshing();
+    list.viewDidDisappear();
+    EXPECT_FALSE(list.refreshing());
+    EXPECT_EQ(runLoop.activeTimers(), 0) << "no timer of a list that is not seen";
 }
 
 TEST_F(OverlayTest, AListScreenHidesTheIndicatorWhenItHasDisappearedAndWhenItIsDestroyed)

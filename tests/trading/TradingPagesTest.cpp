@@ -53,6 +53,12 @@ protected:
     }
 };
 
+TEST_F(TradingPageTest, AFigureThatIsMissingIsDashes)
+{
+    for (const QVariant &missing : {QVariant(), QVariant(" "), QVariant("(null)")})
+        EXPECT_EQ(open(missing)->availableMoney(), "--");
+}
+
 TEST_F(TradingPageTest, ItReadsItsPageWhenItAppearsAndPullsAQuarterOfASecondLater)
 {
     auto *const page = push<TZRealTradingController>(router);
@@ -388,6 +394,17 @@ TEST_F(TodayTest, TheDealsAreReadOnTheFirstSwitchOnly)
     screen->showPage(1);
     EXPECT_EQ(http.countOf(dealsPath), 1);
     EXPECT_EQ(http.countOf(entrustsPath), 1);
+}
+
+TEST_F(TodayTest, CoveredItWaitsForNoAnswer)
+{
+    TodayList *const list = screen->entrustTableView();
+    EXPECT_TRUE(list->refreshing());
+    window.present(std::make_unique<KRBaseController>());
+    EXPECT_FALSE(list->refreshing());
+    EXPECT_EQ(runLoop.activeTimers(), 0);
+    http.answer(entrustsPath, succeeded(models(2)));
+    EXPECT_EQ(screen->entrustArr().size(), 2) << "one that comes all the same is shown";
 }
 
 TEST_F(TodayTest, FurtherPagesAreAppendedAndARefreshBeginsAnew)

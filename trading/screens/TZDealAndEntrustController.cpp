@@ -88,6 +88,12 @@ void TZDealAndEntrustController::viewDidLoad()
     entrusts.beginRefreshing();
 }
 
+void TZDealAndEntrustController::viewDidDisappear()
+{
+    KRBaseController::viewDidDisappear();
+    endRefreshing();
+}
+
 void TZDealAndEntrustController::titleBtnClick(int tag)
 {
     showPage(tag - EntrustTag);
@@ -108,10 +114,14 @@ void TZDealAndEntrustController::showPage(int index)
 
 void TZDealAndEntrustController::startGuard()
 {
-    guard.startOnce(15s, [this] {
-        entrusts.endRefreshing();
-        deals.endRefreshing();
-    });
+    guard.startOnce(15s, [this] { endRefreshing(); });
+}
+
+void TZDealAndEntrustController::endRefreshing()
+{
+    guard.stop();
+    entrusts.endRefreshing();
+    deals.endRefreshing();
 }
 
 void TZDealAndEntrustController::selectEntrust(int row)

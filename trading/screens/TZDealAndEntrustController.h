@@ -74,6 +74,7 @@ public:
     Q_INVOKABLE void selectDeal(int row);
 
     void viewDidLoad() override;
+    void viewDidDisappear() override;
 
 Q_SIGNALS:
     void currentPageChanged();
@@ -89,6 +90,7 @@ private:
     };
 
     void startGuard();
+    void endRefreshing();
 
     EntrustList entrusts;
     DealList deals;
