@@ -15,7 +15,7 @@ constexpr int badUsage = 2;
 #ifdef ZORVANE_DEVELOPER_OPTIONS
 const char help[] = R"(usage: zorvane [--api-base-url URL] [--trust-ca FILE] [--data-dir DIR]
   --api-base-url URL  the service to talk to: https, or http on this machine
-  --trust-ca FILE     certificate authorities (PEM) to trust besides the system's
+  --trust-ca FILE     certificate authorities (PEM) to trust instead of the system's
   --data-dir DIR      where the settings and the stock table are kept
   --version, --help
 )";
