@@ -25,9 +25,10 @@ PageFrame {
     Flickable {
         id: scroll
         anchors { left: parent.left; right: parent.right; top: stockRow.bottom; bottom: parent.bottom }
-        contentHeight: Math.max(form.height, book.height)
+        contentHeight: Math.max(height, form.height, book.height)
         boundsBehavior: Flickable.StopAtBounds
         clip: true
+        onDragStarted: page.screen.scrollViewWillBeginDragging()
 
         readonly property Item focused: Window.activeFocusItem
         onFocusedChanged: reveal(focused)
@@ -43,6 +44,9 @@ PageFrame {
             contentY = Math.max(Math.min(contentY, top), top + item.height - height)
         }
 
+        TapHandler {
+            onTapped: page.screen.scrollViewWillBeginDragging()
+        }
         Column {
             id: form
             width: parent.width - page.bookWidth
