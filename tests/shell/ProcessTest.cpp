@@ -100,6 +100,35 @@ TEST_F(ProcessTest, HelpAndVersionNeedNoDisplay)
     }
 }
 
+TEST_F(ProcessTest, WithoutADisplayItSaysSo)
+{
+    QProcessEnvironment bare = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        bare.remove(QString::fromUtf8(name));
+    process.setProcessEnvironment(bare);
+    process.start(client, {QStringLiteral("--data-dir"), folder.path()});
+    ASSERT_TRUE(process.waitForFinished(30'000));
+    EXPECT_EQ(process.exitCode(), 2);
+    EXPECT_TRUE(process.readAllStandardError().startsWith("zorvane: there is no display"));
+}
+
+TEST_F(ProcessTest, AStockTableThatIsNoneIsReportedAndTheClientGoesOn)
+{
+    write(folder.filePath(QStringLiteral("stock.sqlite")), QByteArray(4096, 'x'));
+    process.start(client,
+                  {QStringLiteral("--data-dir"), folder.path(), QStringLiteral("--api-base-url"), nobody});
+    process.setReadChannel(QProcess::StandardError);
+    QByteArray said;
+    for (int tries = 0; tries < 300 && !said.contains("stock.sqlite"); ++tries) {
+        process.waitForReadyRead(50);
+        said += process.readAllStandardError();
+    }
+    EXPECT_TRUE(said.contains("zorvane: ")) << said.toStdString();
+    EXPECT_EQ(process.state(), QProcess::Running);
+    process.kill();
+    process.waitForFinished();
+}
+
 TEST_F(ProcessTest, AKillAtAnyMomentOfTheStartLeavesTheSettingsWhole)
 {
     const QVariantMap user{{QStringLiteral("api_token"), QStringLiteral("t0ken")},
@@ -116,7 +145,8 @@ TEST_F(ProcessTest, AKillAtAnyMomentOfTheStartLeavesTheSettingsWhole)
         process.start(
             client, {QStringLiteral("--data-dir"), folder.path(), QStringLiteral("--api-base-url"), nobody});
         ASSERT_TRUE(process.waitForStarted());
-        QThread::msleep(static_cast<unsigned long>(kill * 10));
+        // Most of them during the first tenth of a second, the last ones after a slow start.
+        QThread::msleep(static_cast<unsigned long>(kill * kill / 3));
         ::kill(static_cast<pid_t>(process.processId()), SIGKILL);
         ASSERT_TRUE(process.waitForFinished(30'000));
         EXPECT_EQ(process.exitStatus(), QProcess::CrashExit)
