@@ -4,9 +4,11 @@
 
 class QtApplicationInfo : public ApplicationInfo {
 public:
-    /// `baseUrl` as it was configured, with or without "/" at its end; `dataDirectory` is made when it is
-    /// missing, for its owner only.
-    QtApplicationInfo(const QString &baseUrl, const QString &dataDirectory);
+    /// `baseUrl` ends in "/"; `dataDirectory` exists.
+    QtApplicationInfo(const QString &baseUrl, const QString &dataDirectory)
+        : base(baseUrl), directory(dataDirectory)
+    {
+    }
 
     QString buildVersion() const override;
     QString apiBaseUrl() const override { return base; }

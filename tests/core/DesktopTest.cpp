@@ -8,7 +8,6 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QElapsedTimer>
-#include <QFileInfo>
 
 using namespace std::chrono_literals;
 
@@ -87,16 +86,9 @@ TEST(QtReachabilityTest, AlwaysReachesAServiceOnThisMachine)
     }
 }
 
-TEST(QtApplicationInfoTest, EndsTheBaseUrlInASlashAndMakesItsDirectoryForTheOwnerOnly)
+TEST(QtApplicationInfoTest, KnowsTheVersionsOfTheProgramAndOfTheSystem)
 {
-    const QTemporaryDir directory;
-    const QString documents = directory.filePath(QStringLiteral("a/b"));
-    const QtApplicationInfo information(QStringLiteral("https://service.test"), documents);
-    EXPECT_EQ(information.apiBaseUrl(), QStringLiteral("https://service.test/"));
-    EXPECT_EQ(QtApplicationInfo(QStringLiteral("https://service.test/"), documents).apiBaseUrl(),
-              QStringLiteral("https://service.test/"));
-    EXPECT_TRUE(QFileInfo(information.documentsDirectory()).isDir());
-    EXPECT_EQ(QFileInfo(documents).permissions() & QFile::Permissions(0x00ff), QFile::Permissions());
+    const QtApplicationInfo information(QStringLiteral("https://service.test/"), {});
     EXPECT_FALSE(information.buildVersion().isEmpty());
     EXPECT_GT(information.systemVersion(), 0);
 }
