@@ -5,8 +5,8 @@
 
 TZBoardcastCell TZBoardcastCell::of(const TZRecentLoansModel &loan)
 {
-    const auto orEmpty = [](const QString &text) {
-        return Service::whetherAnEmptyString(text) ? QString() : text;
+    const auto orEmpty = [](const QString &value) {
+        return Service::whetherAnEmptyString(value) ? QString() : value;
     };
     return {QStringLiteral("%1申请操盘资金%2")
                 .arg(orEmpty(loan.nick), labelAmountWithYuan(orEmpty(loan.borrowMoney)))};
