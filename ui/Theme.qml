@@ -58,9 +58,9 @@ QtObject {
     }
     readonly property Tones deep: Tones {
         page: theme.pageBlue
-        surface: "#3A4565"
-        surfacePressed: "#475378"
-        hairline: "#4A5576"
+        surface: "#273048"
+        surfacePressed: "#1F273B"
+        hairline: "#3D4766"
         textPrimary: "#FFFFFF"
         textSecondary: "#B7BFD3"
         placeholder: "#929DB9"

@@ -40,7 +40,7 @@ Row {
                     Icon {
                         anchors.horizontalCenter: parent.horizontalCenter
                         name: action.image
-                        size: 28
+                        size: 36
                     }
                     Text {
                         anchors.horizontalCenter: parent.horizontalCenter
