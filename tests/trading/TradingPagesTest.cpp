@@ -500,7 +500,7 @@ TEST_F(TradingFixture, TheTitleDecidesWhichRowsAreShown)
     detail.setEntrustsTodayModel(entrusted);
     EXPECT_EQ(linesOf(detail), (QStringList{"证券名称 海天传媒", "证券代码 600001", "委托类型 买入",
                                             "委托价格 10.00", "成交价格 9.99", "成交数量 300",
-                                            "成交总额 2997.00", "成交时间 not a stamp", "市场类别 上海"}));
+                                            "成交总额 2,997.00", "成交时间 not a stamp", "市场类别 上海"}));
     for (const QString title : {"委托详情", "别的"}) {
         detail.setTitle(title);
         EXPECT_EQ(linesOf(detail),

@@ -13,6 +13,7 @@
 #include "trading/api/TZTradeTool.h"
 #include "trading/screens/OrderBook.h"
 #include "trading/screens/TZSelectStockController.h"
+#include "trading/screens/TradeTexts.h"
 
 #include <algorithm>
 
@@ -20,11 +21,6 @@ using namespace std::chrono_literals;
 
 namespace {
 const QString dataKey = QStringLiteral("data");
-
-QString stockLabel(const QString &name, const QString &code)
-{
-    return QStringLiteral("%1(%2)").arg(name, code);
-}
 
 /// The service did not accept the order without the right trade password.
 bool wantsTradePassword(const QVariantMap &answer)
@@ -44,8 +40,9 @@ TZBuyAndSellController::TZBuyAndSellController(OrderSide orderSide, TZZorvanePag
 
 QString TZBuyAndSellController::stockText() const
 {
-    return Service::whetherAnEmptyString(stock.stockCode) ? QString()
-                                                          : stockLabel(stock.stockName, stock.stockCode);
+    return Service::whetherAnEmptyString(stock.stockCode)
+               ? QString()
+               : TradeTexts::stock(stock.stockName, stock.stockCode);
 }
 
 QString TZBuyAndSellController::currentPriceText() const

@@ -11,11 +11,6 @@
 using namespace std::chrono_literals;
 
 namespace {
-QString stockLabel(const QString &name, const QString &code)
-{
-    return QStringLiteral("%1(%2)").arg(name, code);
-}
-
 QVariantMap pageParam(int page)
 {
     return {{QStringLiteral("page"), page}};
@@ -25,7 +20,7 @@ QVariantMap pageParam(int page)
 TodayRow TodayRow::of(const TZEntrustsTodayModel &entrust)
 {
     const EntrustStatus status = EntrustStatus::of(entrust.status);
-    return TodayRow{stockLabel(entrust.stockName, entrust.stockCode),
+    return TodayRow{TradeTexts::stock(entrust.stockName, entrust.stockCode),
                     TradeTexts::side(entrust.type),
                     TradeTexts::isSell(entrust.type),
                     TradeTexts::time(entrust.createdAt),
@@ -40,7 +35,7 @@ TodayRow TodayRow::of(const TZEntrustsTodayModel &entrust)
 
 TodayRow TodayRow::of(const TZDetailsTodayModel &deal)
 {
-    return TodayRow{stockLabel(deal.stockName, deal.stockCode),
+    return TodayRow{TradeTexts::stock(deal.stockName, deal.stockCode),
                     TradeTexts::side(deal.type),
                     TradeTexts::isSell(deal.type),
                     TradeTexts::time(deal.updatedAt),

@@ -7,6 +7,7 @@
 #include "trading/api/TZTradeTool.h"
 #include "trading/screens/HoldingRow.h"
 #include "trading/screens/TZBuyAndSellController.h"
+#include "trading/screens/TradeTexts.h"
 
 namespace {
 QList<DetailRow> rowsOf(const TZZorvanePageStocksModel &holding)
@@ -29,7 +30,7 @@ TZStockDetailController::TZStockDetailController(TZZorvanePageStocksModel stock)
 
 QString TZStockDetailController::stockText() const
 {
-    return QStringLiteral("%1(%2)").arg(holding.stockName, holding.stockCode);
+    return TradeTexts::stock(holding.stockName, holding.stockCode);
 }
 
 void TZStockDetailController::viewDidLoad()

@@ -15,7 +15,7 @@ const QString dataKey = QStringLiteral("data");
 
 WithdrawalRow rowOf(const TZCallBackPageModel &entrust)
 {
-    WithdrawalRow row{QStringLiteral("%1(%2)").arg(entrust.stockName, entrust.stockCode),
+    WithdrawalRow row{TradeTexts::stock(entrust.stockName, entrust.stockCode),
                       TradeTexts::side(entrust.type),
                       TradeTexts::isSell(entrust.type),
                       entrust.entrustPrice,

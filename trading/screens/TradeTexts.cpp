@@ -3,6 +3,11 @@
 #include "core/util/Service.h"
 #include "core/util/Text.h"
 
+QString TradeTexts::stock(const QString &name, const QString &code)
+{
+    return QStringLiteral("%1(%2)").arg(name, code);
+}
+
 bool TradeTexts::isSell(const QString &type)
 {
     return integerValue(type) != 1;

@@ -5,6 +5,8 @@
 /// How fields of entrusts and deals are written.
 namespace TradeTexts {
 
+/// "name(code)".
+QString stock(const QString &name, const QString &code);
 /// "1" is "买入", everything else "卖出".
 bool isSell(const QString &type);
 QString side(const QString &type);
