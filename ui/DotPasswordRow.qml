@@ -29,7 +29,6 @@ FocusScope {
         anchors.fill: parent
         focus: true
         activeFocusOnTab: true
-        opacity: 0
         echoMode: TextInput.Password
         inputMethodHints: Qt.ImhDigitsOnly | Qt.ImhSensitiveData | Qt.ImhNoPredictiveText
         cursorDelegate: Item {}
@@ -68,8 +67,9 @@ FocusScope {
                 color: row.tones.textPrimary
             }
             Rectangle {
+                y: Theme.focusRingWidth
                 width: Theme.hairlineWidth
-                height: parent.height
+                height: parent.height - 2 * y
                 visible: cell.index > 0
                 color: row.tones.hairline
             }

@@ -22,7 +22,7 @@ Tappable {
             anchors { right: parent.right; top: parent.top; bottom: parent.bottom; margins: 2 }
             width: (parent.width - 4) * Math.min(1, Math.max(0, row.share))
             color: row.buySide ? Theme.buy : Theme.sell
-            opacity: 0.25
+            opacity: 0.2
         }
         Rectangle {
             anchors.fill: parent

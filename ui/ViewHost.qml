@@ -12,10 +12,12 @@ FocusScope {
             view.destroy()
         const component = Qt.createComponent(source)
         view = component.createObject(host, properties)
-        if (view)
-            view.anchors.fill = host
-        else
+        if (!view) {
             console.warn(component.errorString())
+            return
+        }
+        view.anchors.fill = host
+        view.focus = true
     }
 
     focus: true
