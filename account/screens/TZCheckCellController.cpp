@@ -6,7 +6,6 @@
 #include "core/session/TZUserTool.h"
 #include "core/shell/KRNavigationController.h"
 #include "core/util/Service.h"
-#include "core/util/Text.h"
 
 TZCheckCellController::TZCheckCellController(Router &appRouter) : router(appRouter) {}
 
@@ -41,15 +40,15 @@ void TZCheckCellController::clickNextStepBtn()
         return Service::showErrorWithMsg(QStringLiteral("请输入手机号"));
     if (!Service::determineThePhoneNumberFormat(number))
         return Service::showErrorWithMsg(QStringLiteral("手机号格式不正确，请重新输入"));
-    endEditing();
     sending = true;
-    const Operation start = TZUserTool::checkCellWithCell(
-        number, Success{this, [this](const Operation &, const QVariantMap &answer) { openNextStep(answer); }},
-        Failure{});
+    const auto started = [this, cell = number](const Operation &, const QVariantMap &answer) {
+        openNextStep(cell, answer);
+    };
+    const Operation start = TZUserTool::checkCellWithCell(number, Success{this, started}, Failure{});
     connect(start.get(), &RequestOperation::finished, this, [this] { sending = false; });
 }
 
-void TZCheckCellController::openNextStep(const QVariantMap &answer)
+void TZCheckCellController::openNextStep(const QString &cell, const QVariantMap &answer)
 {
     // The message of a refusal is on the screen already.
     if (!ToolPolicy::succeeded(answer))
@@ -65,7 +64,7 @@ void TZCheckCellController::openNextStep(const QVariantMap &answer)
             Service::showErrorWithMsg(QStringLiteral("交易码异常"));
         return;
     }
-    next->requestData = {{QStringLiteral("bizCode"), bizCode}, {QStringLiteral("cell"), number}};
+    next->requestData = {{QStringLiteral("bizCode"), bizCode}, {QStringLiteral("cell"), cell}};
     next->setToSomeController(toSomeController);
     navigationController()->push(std::move(next));
 }

@@ -26,7 +26,7 @@ Q_SIGNALS:
     void cellChanged();
 
 private:
-    void openNextStep(const QVariantMap &answer);
+    void openNextStep(const QString &cell, const QVariantMap &answer);
 
     Router &router;
     QString number;

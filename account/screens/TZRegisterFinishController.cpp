@@ -32,7 +32,6 @@ void TZRegisterFinishController::clickNextStepBtn()
     const QString problem = nicknameProblem(nickname);
     if (!problem.isEmpty())
         return Service::showErrorWithMsg(problem);
-    endEditing();
     sending = true;
     const Operation operation = TZUserTool::setNickWithParam(
         {{QStringLiteral("nick"), nickname}},

@@ -112,7 +112,6 @@ void TZSmsCodeController::verify(const QVariantMap &extra, std::function<void()>
 {
     if (verifying)
         return;
-    endEditing();
     verifying = true;
     QVariantMap param = extra;
     param.insert(bizCodeKey, bizCode());

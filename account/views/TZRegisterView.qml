@@ -43,6 +43,8 @@ SignInPage {
             font: Theme.label
             color: Theme.deep.textSecondary
             verticalAlignment: Text.AlignVCenter
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
         TextButton {
             deep: true

@@ -9,6 +9,8 @@ using namespace std::chrono_literals;
 
 namespace {
 constexpr qsizetype passwordLength = 6;
+constexpr std::chrono::milliseconds fadeIn = 250ms;
+constexpr std::chrono::milliseconds fadeOut = 200ms;
 
 QString cleaned(const QString &text)
 {
@@ -47,6 +49,7 @@ void TZTradePwdAlertView::hideAlertView(Animation animation)
         return;
     shown = false;
     Q_EMIT shownChanged();
+    ending.startOnce(fadeOut, [this] { removeFromWindow(); });
 }
 
 void TZTradePwdAlertView::setInputTextField(const QString &text)
@@ -55,7 +58,7 @@ void TZTradePwdAlertView::setInputTextField(const QString &text)
         digits = cleaned(text);
         if (digits.size() == passwordLength) {
             hideAlertView(Animation::Fade);
-            sending.startOnce(1s, [this] { sendTradePwd(); });
+            ending.startOnce(1s, [this] { sendTradePwd(); });
         }
     }
     // Also when nothing changed: the field has to drop what was just typed into it.
@@ -64,7 +67,7 @@ void TZTradePwdAlertView::setInputTextField(const QString &text)
 
 int TZTradePwdAlertView::fadeDuration() const
 {
-    return shown ? 250 : 200;
+    return static_cast<int>((shown ? fadeIn : fadeOut).count());
 }
 
 void TZTradePwdAlertView::closeBtnClick()

@@ -36,7 +36,8 @@ public:
                                               TZTradePwdAlertDelegate &delegate);
     ~TZTradePwdAlertView() override;
 
-    /// Kept on purpose: without an animation it only ends editing.
+    /// Fades out and is gone, no password handed over. Kept on purpose: without an animation it only ends
+    /// editing.
     void hideAlertView(Animation animation);
 
     QString inputTextField() const { return digits; }
@@ -61,6 +62,6 @@ private:
     QPointer<const QObject> owner;
     TZTradePwdAlertDelegate &delegate;
     QString digits;
-    Timer sending;
+    Timer ending;
     bool shown = true;
 };

@@ -148,6 +148,9 @@ TEST_F(SignInTest, TheEntryNamesTheFirstProblemOfTheNumber)
         {" 13812345678", "手机号格式不正确，请重新输入"},
         {"１３８１２３４５６７８", "手机号格式不正确，请重新输入"},
         {"📱📱📱📱📱", "手机号格式不正确，请重新输入"},
+        {"13812345678\n", "手机号格式不正确，请重新输入"},
+        {"\u200f13812345678", "手机号格式不正确，请重新输入"},
+        {QString(10'000, u'1'), "手机号格式不正确，请重新输入"},
     };
     for (const auto &[number, problem] : cases) {
         entry->setCell(number);
@@ -195,6 +198,27 @@ TEST_F(SignInTest, TheBusinessCodeIsReadAsNumberAndInDataToo)
         EXPECT_EQ(stack->top()->title(), QStringLiteral("注册"));
         stack->pop();
     }
+}
+
+TEST_F(SignInTest, TheNumberHandedOnIsTheOneTheCodeWentTo)
+{
+    entry->setCell(cell);
+    entry->clickNextStepBtn();
+    entry->setCell(QStringLiteral("13900000000"));
+    http.answer(start, started(QStringLiteral("1002")));
+    EXPECT_EQ(qobject_cast<TZLoginController *>(stack->top())->requestData.value(QStringLiteral("cell")),
+              cell);
+}
+
+TEST_F(SignInTest, ARefusalLeavesTheFieldItsKeyboard)
+{
+    TZLoginController *const login = toLogin();
+    int ended = 0;
+    QObject::connect(&window, &KRWindow::editingEnded, &asker, [&ended] { ++ended; });
+    login->textFiledEditChanged(QStringLiteral("000000"));
+    login->clickNextStepBtn();
+    http.answer(verify, refused(QStringLiteral("验证码错误")));
+    EXPECT_EQ(ended, 0);
 }
 
 TEST_F(SignInTest, TwoTapsOnTheEntrySendOneCode)
@@ -257,6 +281,46 @@ TEST_F(SignInTest, TheCodeFieldKeepsSixCharacters)
     EXPECT_EQ(login->code(), QStringLiteral("123456"));
     login->textFiledEditChanged(QString(10'000, u'9'));
     EXPECT_EQ(login->code(), QStringLiteral("999999"));
+}
+
+TEST_F(SignInTest, WhateverIsPastedIntoTheCodeFieldIsCutAndNeverSentUnlessItIsSixDigits)
+{
+    TZLoginController *const login = toLogin();
+    const struct {
+        QString pasted;
+        QString kept;
+    } cases[] = {
+        {"验证码：123456", "验证码：12"},
+        {"123 456", "123 45"},
+        {"😀😀😀😀", "😀😀😀"},
+        {"12345\n", "12345\n"},
+        {"\u200f123456", "\u200f12345"},
+        {"١٢٣٤٥٦", "١٢٣٤٥٦"},
+        {QString(10'000, u'x'), "xxxxxx"},
+    };
+    for (const auto &[pasted, kept] : cases) {
+        login->textFiledEditChanged(pasted);
+        EXPECT_EQ(login->code(), kept);
+        login->clickNextStepBtn();
+        EXPECT_EQ(banners(), QStringList(QStringLiteral("手机验证码格式不正确，请重新输入")))
+            << kept.toStdString();
+    }
+    EXPECT_EQ(http.countOf(verify), 0);
+}
+
+TEST_F(SignInTest, AnInvitationIsSentAsItWasTyped)
+{
+    TZRegisterController *const registration = toRegistration();
+    registration->textFiledEditChanged(QStringLiteral("123456"));
+    for (const QString &typed : {QStringLiteral("邀请😀"), QStringLiteral("\u200fA B"),
+                                 QStringLiteral("&x=1%"), QString(10'000, u'A')}) {
+        registration->setInviteCode(typed);
+        registration->clickNextStepBtn();
+        runLoop.advance(500ms);
+        EXPECT_EQ(http.pending(verify).fields().value(QStringLiteral("inviteCode")), typed);
+        http.answer(verify, refused(QStringLiteral("邀请码不存在")));
+        EXPECT_EQ(registration->inviteCode(), typed);
+    }
 }
 
 TEST_F(SignInTest, TheButtonLightsUpATenthOfASecondAfterTheLastChange)
@@ -439,6 +503,9 @@ TEST(Nickname, LimitsAreCountedInUtf16Units)
     EXPECT_EQ(limitedNickname(QStringLiteral("1234567890")), QStringLiteral("1234567890"));
     EXPECT_EQ(limitedNickname(QStringLiteral("12345678😀")), QStringLiteral("12345678😀"));
     EXPECT_EQ(limitedNickname(QStringLiteral("123456789😀")), QStringLiteral("123456789"));
+    EXPECT_EQ(limitedNickname(QStringLiteral("\u200f１２３４５６７８９０")),
+              QStringLiteral("\u200f１２３４５６７８９"));
+    EXPECT_EQ(limitedNickname(QString(10'000, u'n')), QString(10, u'n'));
     EXPECT_EQ(nicknameProblem(QStringLiteral(" ")), QStringLiteral("请输入昵称"));
     EXPECT_EQ(nicknameProblem(QString(11, u'股')), QString());
     EXPECT_EQ(nicknameProblem(QString(20, u'股')), QString());

@@ -62,7 +62,13 @@ TEST_F(TradePasswordPromptTest, OnlyDigitsCount)
         QString typed;
         QString kept;
     } cases[] = {
-        {"12ab", "12"}, {"密码", ""}, {"１２３", ""}, {"1\n2\t3", "123"}, {"-1.5", "15"}, {"😀1", "1"},
+        {"12ab", "12"},
+        {"密码", ""},
+        {"１２３", ""},
+        {"1\n2\t3", "123"},
+        {"-1.5", "15"},
+        {"😀1", "1"},
+        {"\u200f12\u202e3", "123"},
     };
     for (const auto &[typed, kept] : cases) {
         prompt->setInputTextField(typed);
@@ -100,6 +106,20 @@ TEST_F(TradePasswordPromptTest, HidingWithoutAnAnimationOnlyEndsEditing)
     EXPECT_EQ(ended, 1);
     EXPECT_TRUE(prompt->isShown());
     EXPECT_TRUE(isOnWindow());
+}
+
+TEST_F(TradePasswordPromptTest, HidingWithAnAnimationTakesItAwayWithoutACall)
+{
+    prompt->setInputTextField(QStringLiteral("123"));
+    prompt->hideAlertView(TZTradePwdAlertView::Animation::Fade);
+    EXPECT_FALSE(prompt->isShown());
+    prompt->setInputTextField(QStringLiteral("123456"));
+    runLoop.advance(199ms);
+    EXPECT_TRUE(isOnWindow());
+    runLoop.advance(1ms);
+    EXPECT_FALSE(isOnWindow()) << "what nobody sees must not cover the window";
+    runLoop.advance(2s);
+    EXPECT_TRUE(passwords.isEmpty());
 }
 
 TEST_F(TradePasswordPromptTest, ANewPromptIsEmpty)
