@@ -55,14 +55,19 @@ protected:
         complaints.clear();
         signIn();
         shell.didFinishLaunchingWithOptions({});
-        engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-        engine.setInitialProperties({{QStringLiteral("window"), QVariant::fromValue(&window)},
-                                     {QStringLiteral("overlays"), QVariant::fromValue(&overlays)}});
-        engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Zorvane/Ui/Main.qml")));
+        engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
+        engine->setInitialProperties({{QStringLiteral("window"), QVariant::fromValue(&window)},
+                                      {QStringLiteral("overlays"), QVariant::fromValue(&overlays)}});
+        engine->load(QUrl(QStringLiteral("qrc:/qt/qml/Zorvane/Ui/Main.qml")));
         pass();
     }
-    ~ViewsTest() override { EXPECT_EQ(complaints, ""); }
-    void SetUp() override { ASSERT_FALSE(engine.rootObjects().isEmpty()); }
+    void TearDown() override
+    {
+        engine.reset();
+        settle();
+        EXPECT_EQ(complaints, "");
+    }
+    void SetUp() override { ASSERT_FALSE(engine->rootObjects().isEmpty()); }
 
     /// Long enough for a screen to slide in or out.
     static void pass()
@@ -101,7 +106,7 @@ protected:
     KRWindow window;
     AppRouter router{window};
     AppDelegate shell{window, router, [] {}};
-    QQmlApplicationEngine engine;
+    std::unique_ptr<QQmlApplicationEngine> engine = std::make_unique<QQmlApplicationEngine>();
 };
 
 TEST_F(ViewsTest, GuideThenHomeWithBothFacesThenTheMenuWithItsPages)
