@@ -14,7 +14,7 @@ ListView {
     }
 
     clip: true
-    activeFocusOnTab: contentHeight > height
+    activeFocusOnTab: contentHeight > height || activeFocus
     boundsBehavior: Flickable.StopAtBounds
     keyNavigationEnabled: false
     header: ListSlot {

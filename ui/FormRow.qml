@@ -18,7 +18,7 @@ Tappable {
     hoverEnabled: false
     ringInset: 2
     text: value === "" ? label : label + " " + value
-    activeFocusOnTab: chevron && enabled
+    activeFocusOnTab: chevron || activeFocus
     focusPolicy: chevron ? Qt.TabFocus : Qt.NoFocus
     Accessible.role: chevron ? Accessible.Button : Accessible.StaticText
     background: Rectangle {

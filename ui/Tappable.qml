@@ -21,7 +21,7 @@ T.AbstractButton {
 
     implicitWidth: Math.max(Theme.touchTarget, implicitContentWidth + leftPadding + rightPadding)
     implicitHeight: Math.max(Theme.touchTarget, implicitContentHeight + topPadding + bottomPadding)
-    activeFocusOnTab: enabled
+    activeFocusOnTab: true
     focusPolicy: Qt.TabFocus
     Accessible.role: Accessible.Button
     Accessible.name: text
