@@ -23,6 +23,11 @@ FocusScope {
     implicitWidth: Math.min(6 * 48, parent ? parent.width : 6 * 48)
     implicitHeight: 48
     onTextChanged: showText()
+    // The row speaks for its field: Qt gives a password field no name, and a field that is none would speak its text.
+    Accessible.role: Accessible.EditableText
+    Accessible.name: placeholder
+    Accessible.focusable: true
+    Accessible.focused: field.activeFocus
 
     TextInput {
         id: field
@@ -32,9 +37,7 @@ FocusScope {
         echoMode: TextInput.Password
         inputMethodHints: Qt.ImhDigitsOnly | Qt.ImhSensitiveData | Qt.ImhNoPredictiveText
         cursorDelegate: Item {}
-        Accessible.role: Accessible.EditableText
-        Accessible.name: row.placeholder
-        Accessible.passwordEdit: true
+        Accessible.ignored: true
         onTextEdited: {
             row.edited(text)
             row.showText()

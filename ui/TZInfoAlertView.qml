@@ -8,7 +8,7 @@ DialogFrame {
     required dialog
     readonly property TZInfoAlertDialog info: dialog as TZInfoAlertDialog
 
-    name: info.titleText + " " + info.ensureText
+    name: info.titleText
 
     Item {
         width: parent.width

@@ -26,7 +26,7 @@ bool Hand::wait(const std::function<bool()> &reached, std::chrono::milliseconds 
     });
     if (reached())
         return true;
-    look.start(20ms);
+    look.start(50ms);
     limit.start(atMost);
     loop.exec();
     return reached();
@@ -49,14 +49,12 @@ bool Hand::waitUntilGone(const QString &name) const
 
 bool Hand::press(const QString &name)
 {
-    waitFor(name);
-    return click(find(name, false));
+    return click(standing(name, false));
 }
 
 bool Hand::pressPart(const QString &part)
 {
-    waitForPart(part);
-    return click(find(part, true));
+    return click(standing(part, true));
 }
 
 bool Hand::type(const QString &field, const QString &text)
@@ -125,19 +123,23 @@ void Hand::visit(QAccessibleInterface *from, const std::function<bool(QAccessibl
     }
 }
 
+std::optional<Hand::Control> Hand::standing(const QString &name, bool part) const
+{
+    std::optional<Control> before;
+    wait([&] {
+        const std::optional<Control> now = find(name, part);
+        const bool stands = now && before && now->place == before->place;
+        before = now;
+        return stands;
+    });
+    return before;
+}
+
 bool Hand::click(const std::optional<Control> &control)
 {
     if (!control)
         return false;
-    // A person waits until what moves stands still.
-    QRect place = control->place;
-    wait([&] {
-        const QRect before = place;
-        const std::optional<Control> now = find(control->name, false);
-        place = now ? now->place : place;
-        return before == place;
-    });
-    QTest::mouseClick(&window, Qt::LeftButton, {}, window.mapFromGlobal(place.center()));
+    QTest::mouseClick(&window, Qt::LeftButton, {}, window.mapFromGlobal(control->place.center()));
     QCoreApplication::processEvents();
     return true;
 }

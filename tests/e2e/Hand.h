@@ -46,6 +46,8 @@ private:
         QRect place;
     };
     std::optional<Control> find(const QString &name, bool part) const;
+    /// Waits until the control is there and stands still, as a person does.
+    std::optional<Control> standing(const QString &name, bool part) const;
     void visit(QAccessibleInterface *from, const std::function<bool(QAccessibleInterface *)> &seen) const;
     bool click(const std::optional<Control> &control);
 

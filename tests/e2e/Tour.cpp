@@ -89,14 +89,14 @@ bool Tour::openOrderEntry()
 bool Tour::findStock()
 {
     return hand.press(QStringLiteral("请输入股票代码或拼音")) && hand.waitFor(QStringLiteral("选择股票")) &&
-           hand.type(QStringLiteral("请输入股票代码或拼音"), QStringLiteral("000002")) &&
-           hand.waitForPart(QStringLiteral("000002"));
+           hand.type(QStringLiteral("请输入股票代码或拼音"), QStringLiteral("60")) &&
+           hand.waitForPart(QStringLiteral("60"));
 }
 
 bool Tour::tapPrice()
 {
     hand.key(Qt::Key_Return);
-    return hand.waitForPart(QStringLiteral("(000002)")) && hand.waitForPart(QStringLiteral("卖1 ")) &&
+    return hand.waitForPart(QStringLiteral("(60")) && hand.waitForPart(QStringLiteral("卖1 ")) &&
            hand.pressPart(QStringLiteral("卖1 ")) && hand.waitForPart(QStringLiteral("当前可买入"));
 }
 
@@ -131,7 +131,7 @@ bool Tour::cancelOrder()
 bool Tour::readEntrustsAndDeals()
 {
     return hand.press(QStringLiteral("查看")) && hand.waitForPart(QStringLiteral("已撤单")) &&
-           hand.press(QStringLiteral("当日成交")) && hand.waitForPart(QStringLiteral("(000002)"));
+           hand.press(QStringLiteral("当日成交")) && hand.waitForPart(QStringLiteral("(60"));
 }
 
 bool Tour::readDetail()
