@@ -77,7 +77,8 @@ FocusScope {
         Accessible.name: row.placeholder
         Accessible.passwordEdit: echoMode !== TextInput.Normal
         onTextEdited: {
-            row.edited(text)
+            // A paste may bring line breaks, which one line does not show.
+            row.edited(text.replace(/[\r\n]/g, ""))
             row.showText()
         }
         onAccepted: row.accepted()

@@ -1,13 +1,11 @@
 #include "account/screens/Nickname.h"
 
+#include "account/screens/TypedText.h"
 #include "core/util/Service.h"
 
 QString limitedNickname(const QString &text)
 {
-    constexpr qsizetype longest = 10;
-    if (text.size() <= longest)
-        return text;
-    return text.left(text.at(longest - 1).isHighSurrogate() ? longest - 1 : longest);
+    return firstUnits(text, 10);
 }
 
 QString nicknameProblem(const QString &nick)

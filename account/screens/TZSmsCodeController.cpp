@@ -1,5 +1,6 @@
 #include "account/screens/TZSmsCodeController.h"
 
+#include "account/screens/TypedText.h"
 #include "core/net/ToolPolicy.h"
 #include "core/session/TZUserTool.h"
 #include "core/util/Service.h"
@@ -70,7 +71,7 @@ void TZSmsCodeController::clickTimeBtn()
 
 void TZSmsCodeController::textFiledEditChanged(const QString &text)
 {
-    codeText = text.left(codeLength);
+    codeText = firstUnits(text, codeLength);
     // Also when nothing changed: the field has to drop what was just typed into it.
     Q_EMIT codeChanged();
     delayToChangeBtnStyle();

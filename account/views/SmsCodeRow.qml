@@ -22,6 +22,10 @@ TextInputRow {
         deep: true
         text: row.controller.smsCell.title
         enabled: row.controller.smsCell.enabled
-        onClicked: row.controller.clickTimeBtn()
+        onClicked: {
+            // The button is disabled from here on and would take the focus with it.
+            row.field.focus = true
+            row.controller.clickTimeBtn()
+        }
     }
 }

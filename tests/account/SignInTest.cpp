@@ -293,6 +293,7 @@ TEST_F(SignInTest, WhateverIsPastedIntoTheCodeFieldIsCutAndNeverSentUnlessItIsSi
         {"验证码：123456", "验证码：12"},
         {"123 456", "123 45"},
         {"😀😀😀😀", "😀😀😀"},
+        {"12345😀", "12345"},
         {"12345\n", "12345\n"},
         {"\u200f123456", "\u200f12345"},
         {"١٢٣٤٥٦", "١٢٣٤٥٦"},
