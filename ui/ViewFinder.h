@@ -12,7 +12,8 @@ class ViewFinder : public QObject {
 public:
     using QObject::QObject;
 
-    /// `TZHomeViewController` gives TZHomeView.qml, `TZMoreController` TZMoreView.qml. Empty when no module has it.
+    /// `TZHomeViewController` gives TZHomeView.qml, `TZMoreController` TZMoreView.qml. Empty when no module
+    /// has it.
     Q_INVOKABLE static QUrl screen(const QObject *controller);
     Q_INVOKABLE static QUrl view(const QString &name);
 };

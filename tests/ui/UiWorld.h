@@ -1,0 +1,48 @@
+#pragma once
+
+#include "core/shell/KRNavigationController.h"
+#include "core/shell/KRWindow.h"
+#include "core/shell/TZBaseTableViewController.h"
+#include "tests/support/TestPlatform.h"
+
+/// A list screen that counts what it is asked for.
+class CountingList : public TZBaseTableViewController {
+    Q_OBJECT
+    Q_PROPERTY(int refreshes MEMBER refreshes)
+    Q_PROPERTY(int loads MEMBER loads)
+public:
+    Q_INVOKABLE void finish() { endRefreshing(); }
+
+protected:
+    void refreshData() override { ++refreshes; }
+    void loadMoreData() override { ++loads; }
+
+private:
+    int refreshes = 0;
+    int loads = 0;
+};
+
+/// What the tests of views act on: the real navigation model and list screens, over a platform of fakes.
+class UiWorld : public QObject, public PlatformTest {
+    Q_OBJECT
+    Q_PROPERTY(KRWindow *window READ window CONSTANT)
+    Q_PROPERTY(OverlayHost *overlays READ overlayHost CONSTANT)
+public:
+    KRWindow *window() { return &theWindow; }
+    OverlayHost *overlayHost() { return &overlays; }
+
+    /// A stack of one screen, owned by the caller's engine.
+    Q_INVOKABLE KRNavigationController *makeStack();
+    Q_INVOKABLE void push(KRNavigationController *stack, const QString &title, bool gesture);
+    Q_INVOKABLE void pop(KRNavigationController *stack) { stack->pop(); }
+    Q_INVOKABLE CountingList *makeList();
+    Q_INVOKABLE void showQuestion();
+    Q_INVOKABLE QString answers() const { return given; }
+    Q_INVOKABLE void wait(bool waiting);
+
+private:
+    void TestBody() override {}
+
+    KRWindow theWindow;
+    QString given;
+};

@@ -1,0 +1,84 @@
+import QtQuick
+import QtTest
+import Zorvane.Ui
+
+Item {
+    id: root
+    width: 390
+    height: 400
+
+    property string kept
+    property int accepted: 0
+
+    TextInputRow {
+        id: row
+        width: parent.width
+        placeholder: "请输入短信验证码"
+        text: root.kept
+        // As a screen that keeps the first six characters.
+        onEdited: value => root.kept = value.slice(0, 6)
+        onAccepted: root.accepted += 1
+    }
+    DotPasswordRow {
+        id: dots
+        y: 100
+        text: root.kept
+        onEdited: value => root.kept = value.replace(/ /g, "").slice(0, 6)
+    }
+    TestCase {
+        name: "Fields"
+        when: windowShown
+
+        function init() {
+            root.kept = ""
+            root.accepted = 0
+            row.field.forceActiveFocus()
+        }
+
+        function type(text) {
+            for (const digit of text)
+                keyClick(digit)
+        }
+
+        function test_theFieldShowsWhatTheScreenKept() {
+            type("1234567")
+            compare(root.kept, "123456")
+            compare(row.field.text, "123456")
+        }
+
+        function test_whatTheScreenChangesByItselfIsShown() {
+            type("12")
+            root.kept = "98"
+            compare(row.field.text, "98")
+        }
+
+        function test_anEditInTheMiddleKeepsTheCursorThere() {
+            type("1234")
+            keyClick(Qt.Key_Left)
+            keyClick(Qt.Key_Left)
+            type("9")
+            compare(row.field.text, "12934")
+            compare(row.field.cursorPosition, 3)
+        }
+
+        function test_enterSubmits() {
+            type("12")
+            keyClick(Qt.Key_Return)
+            compare(root.accepted, 1)
+        }
+
+        function test_theClearButtonTellsTheScreen() {
+            type("12")
+            mouseClick(row, row.width - 24, row.height / 2)
+            compare(root.kept, "")
+            compare(row.field.text, "")
+        }
+
+        function test_theDotsTakeDigitsFromTheKeyboard() {
+            mouseClick(dots)
+            type("12345678")
+            compare(root.kept, "123456")
+            compare(dots.lit, 6)
+        }
+    }
+}

@@ -1,0 +1,88 @@
+import QtQuick
+import QtTest
+import Zorvane.Ui
+
+Item {
+    id: root
+    width: 390
+    height: 400
+
+    property var screen: world.makeList()
+
+    RefreshableList {
+        id: list
+        anchors.fill: parent
+        focus: true
+        controller: root.screen
+        canLoadMore: true
+        model: 20
+        headerContent: SectionHeader {
+            text: "header"
+        }
+        delegate: FormRow {
+            required property int index
+            width: ListView.view.width
+            label: "row " + index
+        }
+    }
+    TestCase {
+        name: "Lists"
+        when: windowShown
+
+        function cleanup() {
+            root.screen.finish()
+            list.positionViewAtBeginning()
+            root.screen.refreshes = 0
+            root.screen.loads = 0
+        }
+
+        function pull(from, to) {
+            mousePress(list, 200, from)
+            const step = to > from ? 8 : -8
+            for (let y = from; step > 0 ? y < to : y > to; y += step)
+                mouseMove(list, 200, y)
+            mouseRelease(list, 200, to)
+        }
+
+        function test_pullingDownRefreshesOnceAndShowsIt() {
+            pull(60, 260)
+            compare(root.screen.refreshes, 1)
+            verify(root.screen.refreshing)
+            compare(list.topMargin, list.pullDistance)
+            pull(60, 260)
+            compare(root.screen.refreshes, 1)
+            root.screen.finish()
+            compare(list.topMargin, 0)
+        }
+
+        function test_aShortPullDoesNothing() {
+            pull(60, 90)
+            compare(root.screen.refreshes, 0)
+        }
+
+        function test_pullingUpAtTheEndLoadsMore() {
+            list.positionViewAtEnd()
+            pull(380, 120)
+            compare(root.screen.loads, 1)
+            compare(root.screen.refreshes, 0)
+        }
+
+        function test_theKeyboardScrollsAndRefreshes() {
+            list.forceActiveFocus()
+            const start = list.contentY
+            keyClick(Qt.Key_Down)
+            verify(list.contentY > start)
+            keyClick(Qt.Key_End)
+            compare(Math.round(list.contentY - list.originY), Math.round(list.contentHeight - list.height))
+            keyClick(Qt.Key_Home)
+            compare(list.contentY, list.originY)
+            keyClick(Qt.Key_F5)
+            compare(root.screen.refreshes, 1)
+        }
+
+        function test_theHeaderScrollsWithTheRows() {
+            compare(list.headerContent.width, list.width)
+            compare(list.headerItem.height, list.headerContent.height)
+        }
+    }
+}

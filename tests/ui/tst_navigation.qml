@@ -1,0 +1,94 @@
+import QtQuick
+import QtTest
+import Zorvane.Ui
+
+Item {
+    id: root
+    width: 390
+    height: 600
+
+    Component {
+        id: stackView
+        NavigationStack {
+            width: 390
+            height: 600
+            focus: true
+        }
+    }
+    TestCase {
+        name: "Navigation"
+        when: windowShown
+
+        property var navigation
+        property var view
+
+        function init() {
+            navigation = world.makeStack()
+            view = createTemporaryObject(stackView, root, { navigation: navigation })
+        }
+
+        function slots() {
+            return Array.from(view.children).filter(item => item.controller !== undefined)
+        }
+
+        function pushed(title, gesture) {
+            world.push(navigation, title, gesture)
+            tryVerify(() => slots()[slots().length - 1].progress === 1)
+        }
+
+        function test_aCoveredScreenIsNotRendered() {
+            verify(slots()[0].visible)
+            pushed("second", true)
+            verify(!slots()[0].visible)
+            verify(slots()[1].visible)
+        }
+
+        function test_aPoppedScreenStaysUntilItHasLeft() {
+            pushed("second", true)
+            world.pop(navigation)
+            compare(navigation.depth, 1)
+            compare(slots().length, 2)
+            tryCompare(navigation, "depth", 1)
+            tryVerify(() => slots().length === 1)
+            compare(slots()[0].x, 0)
+        }
+
+        function test_escapeGoesBack() {
+            pushed("second", true)
+            keyClick(Qt.Key_Escape)
+            compare(navigation.depth, 1)
+        }
+
+        function swipe(to) {
+            mousePress(view, 4, 300)
+            for (let x = 4; x <= to; x += 12)
+                mouseMove(view, x, 300)
+            mouseRelease(view, to, 300)
+        }
+
+        function test_aSwipeFromTheEdgeGoesBack() {
+            pushed("second", true)
+            swipe(300)
+            compare(navigation.depth, 1)
+        }
+
+        function test_aShortSwipeSlidesBackIn() {
+            pushed("second", true)
+            swipe(60)
+            compare(navigation.depth, 2)
+            tryVerify(() => slots()[1].x === 0)
+        }
+
+        function test_aScreenWithoutTheGestureStays() {
+            pushed("second", false)
+            swipe(300)
+            compare(navigation.depth, 2)
+        }
+
+        function test_noSwipeOnTheRoot() {
+            swipe(300)
+            compare(navigation.depth, 1)
+            compare(slots()[0].x, 0)
+        }
+    }
+}

@@ -1,0 +1,71 @@
+import QtQuick
+import QtTest
+import Zorvane.Ui
+
+Item {
+    id: root
+    width: 390
+    height: 600
+
+    WindowContent {
+        id: content
+        anchors.fill: parent
+        focus: true
+        window: world.window
+        overlays: world.overlays
+    }
+    // Something behind the dialogs that Tab could reach.
+    PrimaryButton {
+        id: behind
+        parent: content
+        z: -1
+        width: 100
+        text: "behind"
+        property int taps: 0
+        onClicked: taps += 1
+    }
+    TestCase {
+        name: "Window"
+        when: windowShown
+
+        function cleanup() {
+            world.wait(false)
+            behind.taps = 0
+        }
+
+        function holdsFocus(text) {
+            const item = content.Window.activeFocusItem
+            return item !== null && item.text === text
+        }
+
+        function test_tabStaysInADialog() {
+            world.showQuestion()
+            tryVerify(() => holdsFocus("确定"))
+            keyClick(Qt.Key_Tab)
+            verify(holdsFocus("取消"))
+            keyClick(Qt.Key_Tab)
+            verify(holdsFocus("确定"))
+            keyClick(Qt.Key_Tab, Qt.ShiftModifier)
+            verify(holdsFocus("取消"))
+            keyClick(Qt.Key_Return)
+            compare(world.answers(), "left ")
+        }
+
+        function test_aTapBesideADialogReachesNothing() {
+            world.showQuestion()
+            mouseClick(content, 50, 24)
+            compare(behind.taps, 0)
+            keyClick(Qt.Key_Escape)
+        }
+
+        function test_nothingIsReachedWhileWaiting() {
+            behind.forceActiveFocus()
+            world.wait(true)
+            mouseClick(content, 50, 24)
+            keyClick(Qt.Key_Return)
+            keyClick(Qt.Key_Tab)
+            keyClick(Qt.Key_Space)
+            compare(behind.taps, 0)
+        }
+    }
+}
