@@ -28,14 +28,21 @@ FocusScope {
         color: Theme.menuBackground
     }
     FocusGuard {
+        id: guard
         scope: frame
-        front: frame.sideMenu.open ? menu : content
+        front: content
+    }
+    Connections {
+        target: frame.sideMenu
+        function onOpenChanged() {
+            guard.front = frame.sideMenu.open ? menu : content
+            guard.front.focus = true
+        }
     }
     FocusScope {
         id: menu
         anchors.fill: parent
         visible: frame.progress > 0
-        focus: frame.sideMenu.open
         Keys.onEscapePressed: frame.sideMenu.hideMenu()
         Keys.onBackPressed: frame.sideMenu.hideMenu()
         ScreenLoader {
@@ -57,7 +64,7 @@ FocusScope {
         NavigationStack {
             id: content
             anchors.fill: parent
-            focus: !frame.sideMenu.open
+            focus: true
             navigation: frame.sideMenu.content
         }
         Item {
