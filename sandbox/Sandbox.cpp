@@ -83,10 +83,7 @@ private:
         }
     }
 
-    void beat()
-    {
-        m_service.brokerage.tick();
-    }
+    void beat() { m_service.brokerage.tick(); }
 
     http::Service &m_service;
     std::mutex m_mutex;
@@ -125,9 +122,9 @@ struct Sandbox::Parts {
           users(directory.database(), realNow),
           sms(directory.database(), realNow,
               [print](const identity::Sms &sent) { print("SMS " + sent.cell + ": " + sent.code); }),
-          messages(directory.database(), realNow),
-          service{clock,    brokerage, users,      sms,    sessions,
-                                         messages, push,      faults, options.dataDir / "images"},
+          messages(directory.database(), realNow), service{clock, brokerage, users,
+                                                           sms,   sessions,  messages,
+                                                           push,  faults,    options.dataDir / "images"},
           server(certificate, router, faults, options.quiet ? http::Server::Log{} : http::Server::Log{print})
     {
         const auto demo = users.byCell(demoCell);

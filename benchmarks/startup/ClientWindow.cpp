@@ -9,7 +9,6 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QQuickWindow>
-
 #include <cstdio>
 
 namespace {

@@ -3,7 +3,6 @@
 #include <QFile>
 #include <QQuickWindow>
 #include <QTimer>
-
 #include <chrono>
 #include <cstdio>
 

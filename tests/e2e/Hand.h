@@ -5,21 +5,21 @@
 #include <QRect>
 #include <QString>
 #include <QStringList>
-
 #include <chrono>
 #include <functional>
 #include <optional>
 
 class QQuickWindow;
 
-/// Uses a window as a person does who reads what is on it: finds a control by the name that a screen reader would speak,
-/// and presses it with the mouse or types on the keyboard.
+/// Uses a window as a person does who reads what is on it: finds a control by the name that a screen reader
+/// would speak, and presses it with the mouse or types on the keyboard.
 class Hand {
 public:
     explicit Hand(QQuickWindow &usedWindow);
 
     /// Runs the client until `reached`, or until the time is over; says which.
-    static bool wait(const std::function<bool()> &reached, std::chrono::milliseconds atMost = std::chrono::seconds(10));
+    static bool wait(const std::function<bool()> &reached,
+                     std::chrono::milliseconds atMost = std::chrono::seconds(10));
 
     bool sees(const QString &name) const { return find(name, false).has_value(); }
     /// Whether a visible name holds `part`.

@@ -18,8 +18,9 @@ SandboxProcess::SandboxProcess(const QStringList &options)
     connect(&process, &QProcess::readyReadStandardOutput, this, &SandboxProcess::readLines);
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(QStringLiteral(ZORVANE_SANDBOX),
-                  QStringList{QStringLiteral("--port"), QStringLiteral("0"), QStringLiteral("--data-dir"), folder.path(),
-                              QStringLiteral("--seed"), QStringLiteral("7")} + options);
+                  QStringList{QStringLiteral("--port"), QStringLiteral("0"), QStringLiteral("--data-dir"),
+                              folder.path(), QStringLiteral("--seed"), QStringLiteral("7")} +
+                      options);
     if (!Hand::wait([this] { return !url.isEmpty(); }, 60s))
         qFatal("the sandbox did not start");
 }
@@ -44,7 +45,11 @@ QVariantMap SandboxProcess::state() const
     QNetworkAccessManager manager;
     const std::unique_ptr<QNetworkReply> reply(manager.get(request));
     Hand::wait([&] { return reply->isFinished(); });
-    return QJsonDocument::fromJson(reply->readAll()).object().toVariantMap().value(QStringLiteral("data")).toMap();
+    return QJsonDocument::fromJson(reply->readAll())
+        .object()
+        .toVariantMap()
+        .value(QStringLiteral("data"))
+        .toMap();
 }
 
 int SandboxProcess::unknownRequests() const

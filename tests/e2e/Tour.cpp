@@ -44,13 +44,16 @@ bool Tour::walk()
         const Step &step = all.at(number - 1);
         const bool done = step.act();
         Hand::wait([] { return false; }, 300ms);
-        const QString file =
-            QStringLiteral("%1-%2.png").arg(number, 2, 10, QLatin1Char('0')).arg(QString(step.name).replace(u' ', u'-').remove(u','));
+        const QString file = QStringLiteral("%1-%2.png")
+                                 .arg(number, 2, 10, QLatin1Char('0'))
+                                 .arg(QString(step.name).replace(u' ', u'-').remove(u','));
         hand.picture().save(pictures.filePath(file));
-        std::printf("  %2d/%d  %-20s %s\n", number, static_cast<int>(all.size()), qPrintable(step.name), done ? "ok" : "FAILED");
+        std::printf("  %2d/%d  %-20s %s\n", number, static_cast<int>(all.size()), qPrintable(step.name),
+                    done ? "ok" : "FAILED");
         std::fflush(stdout);
         if (!done) {
-            std::printf("what was on the window:\n  %s\n", qPrintable(hand.names().join(QStringLiteral("\n  "))));
+            std::printf("what was on the window:\n  %s\n",
+                        qPrintable(hand.names().join(QStringLiteral("\n  "))));
             return false;
         }
     }
@@ -70,14 +73,16 @@ bool Tour::askForSignIn()
 bool Tour::sendCode()
 {
     return hand.type(QStringLiteral("请输入手机号"), cell) && hand.press(QStringLiteral("下一步")) &&
-           hand.waitFor(QStringLiteral("请输入短信验证码")) && hand.waitForPart(QStringLiteral("138****8000")) &&
+           hand.waitFor(QStringLiteral("请输入短信验证码")) &&
+           hand.waitForPart(QStringLiteral("138****8000")) &&
            Hand::wait([this] { return !sandbox.codeFor(cell).isEmpty(); });
 }
 
 bool Tour::signInWithCode()
 {
-    return hand.type(QStringLiteral("请输入短信验证码"), sandbox.codeFor(cell)) && hand.press(QStringLiteral("登录")) &&
-           hand.waitFor(QStringLiteral("Zorvane-实盘炒股")) && hand.waitForPart(QStringLiteral("当前持仓(4)"));
+    return hand.type(QStringLiteral("请输入短信验证码"), sandbox.codeFor(cell)) &&
+           hand.press(QStringLiteral("登录")) && hand.waitFor(QStringLiteral("Zorvane-实盘炒股")) &&
+           hand.waitForPart(QStringLiteral("当前持仓(4)"));
 }
 
 bool Tour::openOrderEntry()
@@ -102,8 +107,8 @@ bool Tour::tapPrice()
 
 bool Tour::submitBuy()
 {
-    return hand.type(QStringLiteral("请输入买入数量"), QStringLiteral("100")) && hand.press(QStringLiteral("买入")) &&
-           enterTradePassword() && hand.waitFor(placed);
+    return hand.type(QStringLiteral("请输入买入数量"), QStringLiteral("100")) &&
+           hand.press(QStringLiteral("买入")) && enterTradePassword() && hand.waitFor(placed);
 }
 
 bool Tour::buyStandsInTheBooks()
@@ -117,15 +122,17 @@ bool Tour::sellHolding()
     const QString price = QStringLiteral("卖5 ");
     return hand.press(QStringLiteral("卖出")) && hand.waitFor(QStringLiteral("选择卖出股票")) &&
            hand.pressPart(heldStock()) && hand.waitForPart(price) && hand.pressPart(price) &&
-           hand.type(QStringLiteral("请输入卖出数量"), QStringLiteral("100")) && hand.press(QStringLiteral("卖出")) &&
-           hand.waitFor(placed) && ordersInTheBooks() == ordersBefore + 2 && hand.press(QStringLiteral("实盘炒股")) && back();
+           hand.type(QStringLiteral("请输入卖出数量"), QStringLiteral("100")) &&
+           hand.press(QStringLiteral("卖出")) && hand.waitFor(placed) &&
+           ordersInTheBooks() == ordersBefore + 2 && hand.press(QStringLiteral("实盘炒股")) && back();
 }
 
 bool Tour::cancelOrder()
 {
     // The cell's own button lies over the action of the same name below it.
-    return hand.press(QStringLiteral("撤单")) && hand.waitForPart(heldStock()) && hand.press(QStringLiteral("撤单")) &&
-           hand.waitUntilGone(QStringLiteral("加载中...")) && hand.waitFor(QStringLiteral("暂无可撤委托")) && back();
+    return hand.press(QStringLiteral("撤单")) && hand.waitForPart(heldStock()) &&
+           hand.press(QStringLiteral("撤单")) && hand.waitUntilGone(QStringLiteral("加载中...")) &&
+           hand.waitFor(QStringLiteral("暂无可撤委托")) && back();
 }
 
 bool Tour::readEntrustsAndDeals()
@@ -172,7 +179,13 @@ QVariantMap Tour::user() const
 
 QString Tour::heldStock() const
 {
-    return user().value(QStringLiteral("holdings")).toList().value(0).toMap().value(QStringLiteral("stockName")).toString();
+    return user()
+        .value(QStringLiteral("holdings"))
+        .toList()
+        .value(0)
+        .toMap()
+        .value(QStringLiteral("stockName"))
+        .toString();
 }
 
 int Tour::ordersInTheBooks() const

@@ -4,11 +4,11 @@
 #include "tests/e2e/SandboxProcess.h"
 
 #include <QDir>
-
 #include <functional>
 
-/// A walk through the client as a new user takes it, step by step, against a sandbox of its own. Each step is told on the
-/// terminal and leaves a picture; the first that fails ends the walk and says what was on the window instead.
+/// A walk through the client as a new user takes it, step by step, against a sandbox of its own. Each step is
+/// told on the terminal and leaves a picture; the first that fails ends the walk and says what was on the
+/// window instead.
 class Tour {
 public:
     Tour(Hand &usedHand, SandboxProcess &usedSandbox, const QDir &pictureFolder);

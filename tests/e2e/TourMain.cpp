@@ -4,12 +4,11 @@
 
 #include <QGuiApplication>
 #include <QQuickWindow>
-
 #include <cstdio>
 
 /// usage: zorvane-tour [FOLDER]
-/// Walks through the client offscreen against a fresh sandbox; the pictures of the steps go to FOLDER. Status 1 when a step
-/// fails or the sandbox was asked for something it does not know.
+/// Walks through the client offscreen against a fresh sandbox; the pictures of the steps go to FOLDER. Status
+/// 1 when a step fails or the sandbox was asked for something it does not know.
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -20,7 +19,8 @@ int main(int argc, char **argv)
     const QTemporaryDir passing;
     const QDir pictures(argc > 1 ? QString::fromLocal8Bit(argv[1]) : passing.path());
     if (!pictures.mkpath(QStringLiteral("."))) {
-        std::fprintf(stderr, "zorvane-tour: '%s' cannot be made; name another folder\n", qPrintable(pictures.path()));
+        std::fprintf(stderr, "zorvane-tour: '%s' cannot be made; name another folder\n",
+                     qPrintable(pictures.path()));
         return 2;
     }
     SandboxProcess sandbox;
