@@ -52,6 +52,11 @@ std::optional<QVariantMap> dictionaryOf(const QVariant &information)
 AppDelegate::AppDelegate(KRWindow &mainWindow, Router &appRouter, std::function<void()> stockTableRefresh)
     : window(mainWindow), router(appRouter), refreshStockTable(std::move(stockTableRefresh))
 {
+    // Also for a frame that somebody else builds anew, as signing out does.
+    connect(&window, &KRWindow::rootChanged, this, [this] {
+        if (KRSideMenu *const frame = window.sideMenu())
+            frame->setDelegate(*this);
+    });
 }
 
 void AppDelegate::didFinishLaunchingWithOptions(const QVariantMap &launchOptions)
@@ -143,6 +148,11 @@ void AppDelegate::setupSideMenuController()
 void AppDelegate::clickRemoveGuideViewBtn()
 {
     setupSideMenuController();
+}
+
+void AppDelegate::willShowMenu()
+{
+    window.endEditing();
 }
 
 void AppDelegate::startPush(const QVariantMap &launchOptions)

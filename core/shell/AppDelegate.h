@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/shell/KRSideMenu.h"
 #include "core/shell/TZGuideController.h"
 
 #include <QObject>
@@ -17,7 +18,7 @@ enum class NetworkStatus;
 ///
 /// A pushed message is {"pageId": whole number, "data": dictionary, or JSON text of one}. 2 opens the message
 /// detail, 3 the order detail, any other nothing.
-class AppDelegate : public QObject, public TZGuideControllerDelegate {
+class AppDelegate : public QObject, public TZGuideControllerDelegate, public KRSideMenuDelegate {
     Q_OBJECT
 public:
     /// The key of a pushed message in the launch options.
@@ -40,6 +41,8 @@ public:
     void showGuideController();
     void setupSideMenuController();
     void clickRemoveGuideViewBtn() override;
+    /// Ends editing.
+    void willShowMenu() override;
 
     void didRegisterForRemoteNotificationsWithDeviceToken(const QByteArray &token);
     /// A message that arrives while the client runs.

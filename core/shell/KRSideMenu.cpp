@@ -54,8 +54,8 @@ void KRSideMenu::setOpen(bool open)
 {
     if (opened == open)
         return;
+    if (open && delegate)
+        delegate->willShowMenu();
     opened = open;
-    if (open && hostWindow)
-        hostWindow->endEditing();
     Q_EMIT openChanged();
 }

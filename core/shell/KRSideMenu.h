@@ -7,6 +7,15 @@ class KRBaseController;
 class KRNavigationController;
 class KRWindow;
 
+class KRSideMenuDelegate {
+public:
+    /// Before the menu opens.
+    virtual void willShowMenu() = 0;
+
+protected:
+    ~KRSideMenuDelegate() = default;
+};
+
 /// The main frame: one navigation stack as content, a menu behind its left edge. Owns both.
 class KRSideMenu : public QObject {
     Q_OBJECT
@@ -25,6 +34,8 @@ public:
     Q_INVOKABLE void presentLeftMenu();
     Q_INVOKABLE void hideMenu();
     void attach(KRWindow *window);
+    /// The delegate lives for as long as the menu may be opened.
+    void setDelegate(KRSideMenuDelegate &menuDelegate) { delegate = &menuDelegate; }
 
 Q_SIGNALS:
     void contentChanged();
@@ -36,5 +47,6 @@ private:
     KRNavigationController *contentStack = nullptr;
     KRBaseController *menu = nullptr;
     KRWindow *hostWindow = nullptr;
+    KRSideMenuDelegate *delegate = nullptr;
     bool opened = false;
 };

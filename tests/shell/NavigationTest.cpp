@@ -14,6 +14,12 @@ public:
     QString view() const override { return QStringLiteral("EmptyDialog"); }
     void cancel() override { removeFromWindow(); }
 };
+
+class CountingMenuDelegate : public KRSideMenuDelegate {
+public:
+    void willShowMenu() override { ++shown; }
+    int shown = 0;
+};
 } // namespace
 
 /// A window whose frame holds a stack with the root "home".
@@ -300,16 +306,17 @@ TEST_F(NavigationTest, ADialogStaysWhileThingsChangeBelowItAndCoversNobody)
     EXPECT_FALSE(dialog);
 }
 
-TEST_F(NavigationTest, OpeningTheMenuEndsEditingAndLeavesTheContentOnScreen)
+TEST_F(NavigationTest, OpeningTheMenuTellsItsDelegateOnceAndLeavesTheContentOnScreen)
 {
-    int ended = 0;
-    QObject::connect(&window, &KRWindow::editingEnded, [&ended] { ++ended; });
+    CountingMenuDelegate delegate;
+    window.sideMenu()->setDelegate(delegate);
     window.sideMenu()->presentLeftMenu();
     window.sideMenu()->presentLeftMenu();
     EXPECT_TRUE(window.sideMenu()->isOpen());
-    EXPECT_EQ(ended, 1);
+    EXPECT_EQ(delegate.shown, 1);
     window.sideMenu()->hideMenu();
     EXPECT_FALSE(window.sideMenu()->isOpen());
+    EXPECT_EQ(delegate.shown, 1);
     EXPECT_EQ(told(), "");
 }
 

@@ -1,6 +1,7 @@
 #include "core/session/NotificationNames.h"
 #include "core/session/SettingsKeys.h"
 #include "core/shell/AppDelegate.h"
+#include "core/shell/KRNavigationController.h"
 #include "core/shell/KRWindow.h"
 #include "core/util/Service.h"
 #include "tests/support/RecordingRouter.h"
@@ -138,6 +139,18 @@ TEST_F(StartTest, TheGuidePagesEndAtTheFirstAndTheLast)
     EXPECT_EQ(guide.pages().join(u' '), QStringLiteral("guide1_4 guide2_4 guide3_4 guide4_4"));
     guide.setProperty("screenHeight", 568);
     EXPECT_EQ(guide.pages().first(), QStringLiteral("guide1"));
+}
+
+TEST_F(StartTest, OpeningTheMenuOfEveryFrameEndsEditing)
+{
+    int ended = 0;
+    QObject::connect(&window, &KRWindow::editingEnded, [&ended] { ++ended; });
+    for (int frame = 1; frame <= 2; ++frame) {
+        auto home = std::make_unique<KRNavigationController>(std::make_unique<KRBaseController>());
+        window.setRoot(std::make_unique<KRSideMenu>(std::move(home), std::make_unique<KRBaseController>()));
+        window.sideMenu()->presentLeftMenu();
+        EXPECT_EQ(ended, frame);
+    }
 }
 
 TEST_F(StartTest, WithoutANetworkItSaysSoAsksForNoStocksAndGoesOn)
