@@ -254,6 +254,29 @@ TEST_F(OrderEntryTest, ATypedPriceIsCountedATenthOfASecondLater)
     }
 }
 
+TEST_F(OrderEntryTest, TheCountFollowsWhileTypingGoesOn)
+{
+    openBuying();
+    for (const QString typed : {"1", "12", "12.", "12.3"}) {
+        screen->editPrice(typed);
+        runLoop.advance(50ms);
+    }
+    EXPECT_EQ(screen->totalCount(), 813);
+    screen->editPrice("12.34");
+    runLoop.advance(100ms);
+    EXPECT_EQ(screen->totalCount(), 810);
+}
+
+TEST_F(OrderEntryTest, OpeningTheSearchEndsEditingBeforeTheSearchIsThere)
+{
+    openBuying();
+    QList<const KRBaseController *> ended;
+    QObject::connect(&window, &KRWindow::editingEnded, &window,
+                     [this, &ended] { ended.append(stack().top()); });
+    screen->gotoSelectStock();
+    EXPECT_EQ(ended, QList<const KRBaseController *>{screen});
+}
+
 TEST_F(OrderEntryTest, MoneyThatComesAfterThePriceIsCounted)
 {
     screen = push<TZBuyAndSellController>(OrderSide::Buy);
@@ -458,6 +481,18 @@ TEST_F(OrderEntryTest, ARefusedPasswordBringsThePromptBack)
         alert()->leftBtnClick();
         settle();
     }
+}
+
+TEST_F(OrderEntryTest, AnOrderWithoutAPasswordIsNotToldThatItWasWrong)
+{
+    openWithEntry();
+    screen->submit();
+    runLoop.advance(500ms);
+    QVariantMap answer = refused("");
+    answer.insert("code", "12000");
+    http.answer(buyPath, answer);
+    EXPECT_EQ(lastBanner(), "");
+    EXPECT_NE(prompt(), nullptr);
 }
 
 TEST_F(OrderEntryTest, AnyOtherRefusalShowsOnlyTheServersMessageAndKeepsTheEntry)

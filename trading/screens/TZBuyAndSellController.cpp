@@ -100,8 +100,11 @@ void TZBuyAndSellController::getBuyPage()
 
 void TZBuyAndSellController::gotoSelectStock()
 {
-    if (stockSelectable && navigationController())
-        navigationController()->push(std::make_unique<TZSelectStockController>(this, this));
+    if (!stockSelectable || !navigationController())
+        return;
+    // Before the search takes the keyboard: once it is on top, what is being edited is the search's.
+    endEditing();
+    navigationController()->push(std::make_unique<TZSelectStockController>(this, this));
 }
 
 void TZBuyAndSellController::chooseStock(const TZStockInfoModel &chosen)
@@ -184,7 +187,8 @@ void TZBuyAndSellController::editPrice(const QString &text)
     if (text == priceField || !OrderEntryRules::acceptsPrice(text))
         return;
     setPrice(text);
-    if (isBuyType())
+    // A running count sees this edit too; started anew by each edit it would wait for the end of the typing.
+    if (isBuyType() && !countTimer.isActive())
         countTimer.startOnce(100ms, [this] { countTypedPrice(); });
 }
 
@@ -327,14 +331,16 @@ void TZBuyAndSellController::sendOrder(const QString &password)
         param.insert(QStringLiteral("tradePassword"), password);
 
     orderOnItsWay = true;
-    const Success answered{this,
-                           [this](const Operation &, const QVariantMap &answer) { showAnswer(answer); }};
+    const bool hadPassword = !password.isEmpty();
+    const Success answered{this, [this, hadPassword](const Operation &, const QVariantMap &answer) {
+                               showAnswer(answer, hadPassword);
+                           }};
     const Operation operation = isBuyType() ? TZTradeTool::postCreatBuyWithParam(param, answered, {})
                                             : TZTradeTool::postCreatSellWithParam(param, answered, {});
     connect(operation.get(), &RequestOperation::finished, this, [this] { orderOnItsWay = false; });
 }
 
-void TZBuyAndSellController::showAnswer(const QVariantMap &answer)
+void TZBuyAndSellController::showAnswer(const QVariantMap &answer, bool hadPassword)
 {
     if (boolValue(answer.value(QStringLiteral("success")))) {
         SettingsStore &settings = Platform::current().settings;
@@ -344,7 +350,7 @@ void TZBuyAndSellController::showAnswer(const QVariantMap &answer)
         if (!Service::whetherAnEmptyString(id))
             orderPlaced();
     } else if (wantsTradePassword(answer)) {
-        if (Service::whetherAnEmptyString(answer.value(QStringLiteral("message"))))
+        if (hadPassword && Service::whetherAnEmptyString(answer.value(QStringLiteral("message"))))
             Service::showErrorWithMsg(QStringLiteral("交易密码不正确，请重试"));
         showTradePwdPrompt();
     }

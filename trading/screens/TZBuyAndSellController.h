@@ -110,7 +110,7 @@ private:
     bool needTradePwd() const;
     void showTradePwdPrompt();
     void sendOrder(const QString &password);
-    void showAnswer(const QVariantMap &answer);
+    void showAnswer(const QVariantMap &answer, bool hadPassword);
     void orderPlaced();
     void showResult();
 
