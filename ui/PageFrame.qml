@@ -19,14 +19,15 @@ FocusScope {
     focus: true
     Accessible.role: Accessible.Pane
     Accessible.name: controller.title
-    Keys.onEscapePressed: event => page.goBack(event)
-    Keys.onBackPressed: event => page.goBack(event)
+    Keys.onEscapePressed: event => event.accepted = page.goBack()
+    Keys.onBackPressed: event => event.accepted = page.goBack()
 
     function leaves(image: string): bool {
         return image === "common_back_gray" || image === "common_close_gray"
     }
 
-    function goBack(event: KeyEvent) {
+    /// Whether there is a way back.
+    function goBack(): bool {
         if (controller.showBackButton)
             controller.backButtonClicked()
         else if (leaves(controller.leftItemImage) || controller.leftItemTitle !== "")
@@ -34,7 +35,8 @@ FocusScope {
         else if (leaves(controller.rightItemImage))
             controller.rightItemClick()
         else
-            event.accepted = false
+            return false
+        return true
     }
 
     Rectangle {

@@ -1,14 +1,21 @@
 import QtQuick
 
-/// Covers the window while something is asked for; nothing under it can be reached.
+/// Covers the window while something is asked for; nothing under it can be reached but the way back: what is asked for
+/// may never end.
 FocusScope {
     id: indicator
 
     required property string status
 
+    signal back
+
     Accessible.role: Accessible.Indicator
     Accessible.name: status
-    Keys.onPressed: event => event.accepted = true
+    Keys.onPressed: event => {
+        event.accepted = true
+        if ((event.key === Qt.Key_Escape || event.key === Qt.Key_Back) && !event.isAutoRepeat)
+            back()
+    }
 
     MouseArea {
         anchors.fill: parent

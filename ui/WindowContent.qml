@@ -18,10 +18,28 @@ FocusScope {
             field.focus = false
     }
 
+    /// What the waiting indicator covers.
+    function covered(): Item {
+        return dialogs.count > 0 ? dialogs.itemAt(dialogs.count - 1)
+             : presented.count > 0 ? presented.itemAt(presented.count - 1) : rootView
+    }
+
+    /// Goes back as Esc would if the keyboard were in `area`.
+    function goBack(area: Item): bool {
+        const dialog = area as DialogLoader
+        if (dialog) {
+            dialog.dialog.cancel()
+            return true
+        }
+        const page = area as PageFrame
+        if (page)
+            return page.goBack()
+        return Array.from(area.children).some(
+            child => (child.focus || !(child instanceof FocusScope)) && goBack(child))
+    }
+
     function focusTop() {
-        const front = indicator.visible ? indicator
-                    : dialogs.count > 0 ? dialogs.itemAt(dialogs.count - 1)
-                    : presented.count > 0 ? presented.itemAt(presented.count - 1) : rootView
+        const front = indicator.visible ? indicator : covered()
         guard.front = front
         front.focus = true
     }
@@ -84,6 +102,7 @@ FocusScope {
         visible: main.overlays.waiting
         status: main.overlays.waitingStatus
         onVisibleChanged: main.focusTop()
+        onBack: main.goBack(main.covered())
     }
     Repeater {
         model: main.overlays.banners

@@ -33,6 +33,11 @@ CountingList *UiWorld::makeList()
     return list.release();
 }
 
+void UiWorld::present(const QString &title)
+{
+    theWindow.present(page(title));
+}
+
 void UiWorld::showQuestion()
 {
     given.clear();

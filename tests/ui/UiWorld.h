@@ -36,6 +36,8 @@ public:
     Q_INVOKABLE void push(KRNavigationController *stack, const QString &title, bool gesture);
     Q_INVOKABLE void pop(KRNavigationController *stack) { stack->pop(); }
     Q_INVOKABLE CountingList *makeList();
+    /// A stack of one page over the window; its bar closes it.
+    Q_INVOKABLE void present(const QString &title);
     Q_INVOKABLE void showQuestion();
     Q_INVOKABLE QString answers() const { return given; }
     Q_INVOKABLE void wait(bool waiting);

@@ -67,5 +67,28 @@ Item {
             keyClick(Qt.Key_Space)
             compare(behind.taps, 0)
         }
+
+        function test_whileWaitingEscCancelsTheCoveredDialog() {
+            world.showQuestion()
+            tryVerify(() => holdsFocus("确定"))
+            world.wait(true)
+            keyClick(Qt.Key_Return)
+            compare(world.window.dialogs.count, 1)
+            keyClick(Qt.Key_Escape)
+            compare(world.window.dialogs.count, 0)
+            compare(world.answers(), "")
+        }
+
+        function test_whileWaitingEscLeavesTheCoveredScreen() {
+            world.present("covered")
+            tryCompare(content, "settled", 1)
+            world.wait(true)
+            mouseClick(content, 370, 40)
+            keyClick(Qt.Key_Return)
+            compare(world.window.presented.count, 1)
+            keyClick(Qt.Key_Escape)
+            compare(world.window.presented.count, 0)
+            tryCompare(content, "settled", 0)
+        }
     }
 }
