@@ -5,6 +5,7 @@
 #include "core/shell/KRNavigationController.h"
 #include "core/shell/KRSideMenu.h"
 #include "core/shell/KRWindow.h"
+#include "core/shell/MVNoNetView.h"
 #include "core/shell/OverlayHost.h"
 #include "core/shell/TZBaseTableViewController.h"
 #include "core/shell/TZGuideController.h"
@@ -39,6 +40,10 @@ struct KRSideMenuForViews {
 struct KRWindowForViews {
     Q_GADGET
     ZV_VIEW_TYPE(KRWindow)
+};
+struct MVNoNetViewForViews {
+    Q_GADGET
+    ZV_VIEW_TYPE_AS(MVNoNetView, MVNoNetPanel)
 };
 struct ObjectListModelForViews {
     Q_GADGET

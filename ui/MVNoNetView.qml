@@ -1,14 +1,14 @@
 import QtQuick
+import Zorvane.Ui
 
 /// The panel of a page that could not be loaded, with a button that asks for it again.
 Item {
     id: panel
 
+    required property MVNoNetPanel noNet
     property string text: "网络异常"
     property string hint: "请检查网络设置后重试"
     property bool deep: false
-
-    signal reloadData
 
     Column {
         anchors.centerIn: parent
@@ -41,7 +41,7 @@ Item {
             width: 144
             deep: panel.deep
             text: "重新加载"
-            onClicked: panel.reloadData()
+            onClicked: panel.noNet.clickReloadBtn()
         }
     }
 }

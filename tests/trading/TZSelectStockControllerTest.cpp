@@ -237,13 +237,13 @@ TEST_F(TZSelectStockControllerTest, AListThatCannotBeHadIsAskedForAgainOnDemand)
     EXPECT_TRUE(search->canRetry());
     EXPECT_FALSE(overlays.isWaiting());
 
-    search->retry();
+    search->noNet()->clickReloadBtn();
     EXPECT_TRUE(overlays.isWaiting());
     http.answer(QStringLiteral("info"), succeeded());
     EXPECT_EQ(search->notice(), QStringLiteral("暂无股票列表"));
     EXPECT_FALSE(overlays.isWaiting());
 
-    search->retry();
+    search->noNet()->clickReloadBtn();
     http.answer(QStringLiteral("info"), newList());
     waitUntilSaved();
     EXPECT_FALSE(search->canRetry());

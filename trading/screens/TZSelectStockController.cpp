@@ -200,7 +200,7 @@ QString TZSelectStockController::footnote() const
     return cut ? QStringLiteral("只显示前%1条，请输入更多内容").arg(maximumShown) : QString();
 }
 
-void TZSelectStockController::retry()
+void TZSelectStockController::reloadData()
 {
     if (canRetry())
         fetch();

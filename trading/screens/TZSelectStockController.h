@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/shell/KRBaseController.h"
+#include "core/shell/MVNoNetView.h"
 #include "core/util/RowListModel.h"
 #include "trading/api/TZStockInfoModel.h"
 #include "trading/screens/StockChooser.h"
@@ -25,7 +26,7 @@ public:
 
 /// The stock search: finds a stock of the local table by code, name or initials as one types, shows the
 /// stocks picked before while nothing is typed, and fetches the list when there is none yet.
-class TZSelectStockController : public KRBaseController {
+class TZSelectStockController : public KRBaseController, public MVNoNetViewDelegate {
     Q_OBJECT
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
     Q_PROPERTY(QString placeholder READ placeholder CONSTANT)
@@ -34,8 +35,9 @@ class TZSelectStockController : public KRBaseController {
     Q_PROPERTY(bool recent READ isRecent NOTIFY shownChanged)
     /// The text in the place of an empty list, "" when there are rows.
     Q_PROPERTY(QString notice READ notice NOTIFY shownChanged)
-    /// Whether that panel offers to fetch the list again.
+    /// Whether `noNet` stands there, which offers to fetch the list again.
     Q_PROPERTY(bool canRetry READ canRetry NOTIFY shownChanged)
+    Q_PROPERTY(MVNoNetView *noNet READ noNet CONSTANT)
     Q_PROPERTY(QString retryHint READ retryHint NOTIFY shownChanged)
     /// Below a list that was cut, otherwise "".
     Q_PROPERTY(QString footnote READ footnote NOTIFY shownChanged)
@@ -58,6 +60,7 @@ public:
     bool isRecent() const;
     QString notice() const;
     bool canRetry() const;
+    MVNoNetView *noNet() { return &noNetPanel; }
     QString retryHint() const;
     QString footnote() const;
     int currentRow() const { return selected; }
@@ -69,7 +72,7 @@ public:
     /// Hands the stock to the delegate and leaves.
     Q_INVOKABLE void pick(int row);
     /// Fetches the stock list again after it could not be had.
-    Q_INVOKABLE void retry();
+    void reloadData() override;
 
     void viewDidLoad() override;
     void viewWillAppear() override;
@@ -95,6 +98,7 @@ private:
     QString searchText;
     QList<TZStockInfoModel> stocks;
     RowListModel<StockRow> shownRows;
+    MVNoNetView noNetPanel{*this};
     ListState listState = ListState::Ready;
     bool cut = false;
     int selected = -1;

@@ -88,7 +88,7 @@ PageFrame {
         visible: page.screen.canRetry
         text: page.screen.notice
         hint: page.screen.retryHint
-        onReloadData: page.screen.retry()
+        noNet: page.screen.noNet
     }
 
     /// A text whose middle piece stands out.
