@@ -409,6 +409,18 @@ TEST_F(OrderEntryTest, NoSecondOrderGoesWhileOneIsOnItsWay)
     EXPECT_EQ(http.countOf(buyPath), 2);
 }
 
+TEST_F(OrderEntryTest, StaysUntilTheOutcomeOfAnOrderIsKnown)
+{
+    openWithEntry();
+    screen->submit();
+    runLoop.advance(500ms);
+    screen->backButtonClicked();
+    EXPECT_EQ(top<TZBuyAndSellController>(), screen);
+    http.answer(buyPath, refused("资金不足"));
+    screen->backButtonClicked();
+    EXPECT_EQ(top<TZBuyAndSellController>(), nullptr);
+}
+
 TEST_F(OrderEntryTest, AnEntryChangedInTheHalfSecondIsCheckedAgain)
 {
     openWithEntry();

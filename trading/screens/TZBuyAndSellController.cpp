@@ -356,6 +356,12 @@ void TZBuyAndSellController::showAnswer(const QVariantMap &answer, bool hadPassw
     }
 }
 
+void TZBuyAndSellController::backButtonClicked()
+{
+    if (!orderOnItsWay)
+        KRBaseController::backButtonClicked();
+}
+
 void TZBuyAndSellController::orderPlaced()
 {
     clearFields();
