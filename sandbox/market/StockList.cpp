@@ -43,6 +43,7 @@ std::vector<std::string> codesOf(const Range &range, std::uint64_t seed)
     std::sort(lottery.begin(), lottery.end());
     lottery.resize(static_cast<std::size_t>(range.companies));
     std::vector<std::string> codes;
+    codes.reserve(lottery.size());
     for (const auto &[ticket, number] : lottery)
         codes.push_back(prefix + threeDigits(number));
     std::sort(codes.begin(), codes.end());
