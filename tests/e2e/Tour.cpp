@@ -129,8 +129,9 @@ bool Tour::sellHolding()
 
 bool Tour::cancelOrder()
 {
-    // The cell's own button lies over the action of the same name below it.
-    return hand.press(QStringLiteral("撤单")) && hand.waitForPart(heldStock()) &&
+    // The row's own button comes with the row, which says that the order is open; the page is called the
+    // same.
+    return hand.press(QStringLiteral("撤单")) && hand.waitForPart(QStringLiteral("委托中")) &&
            hand.press(QStringLiteral("撤单")) && hand.waitUntilGone(QStringLiteral("加载中...")) &&
            hand.waitFor(QStringLiteral("暂无可撤委托")) && back();
 }
