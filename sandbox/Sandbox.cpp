@@ -2,7 +2,6 @@
 
 #include "console/Console.h"
 #include "http/Routes.h"
-#include "http/Shapes.h"
 #include "pages/Pages.h"
 
 #include <condition_variable>
