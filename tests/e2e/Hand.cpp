@@ -125,12 +125,15 @@ void Hand::visit(QAccessibleInterface *from, const std::function<bool(QAccessibl
 
 std::optional<Hand::Control> Hand::standing(const QString &name, bool part) const
 {
+    // A motion may begin a moment after the control came, when the list that holds it settles.
+    constexpr int looksToTrust = 5;
     std::optional<Control> before;
+    int still = 0;
     wait([&] {
         const std::optional<Control> now = find(name, part);
-        const bool stands = now && before && now->place == before->place;
+        still = now && before && now->place == before->place ? still + 1 : 0;
         before = now;
-        return stands;
+        return still >= looksToTrust;
     });
     return before;
 }
