@@ -3,6 +3,10 @@
 #include "http/FaultForm.h"
 #include "http/Local.h"
 #include "http/Shapes.h"
+#include "market/Calendar.h"
+
+#include <chrono>
+#include <cstdio>
 
 namespace sandbox::console {
 namespace {
@@ -36,10 +40,30 @@ Cents amount(const Call &call, std::string_view name)
 /// 14:57 of the calendar day on the market's clock.
 Millis closingAuction(Millis now)
 {
-    constexpr Millis hour = 3600 * 1000;
-    constexpr Millis shanghai = 8 * hour;
-    const Millis midnight = (now + shanghai) / (24 * hour) * (24 * hour) - shanghai;
-    return midnight + 14 * hour + 57 * 60 * 1000;
+    return now - timeOfDay(now) + (14 * 60 + 57) * kMinute;
+}
+
+/// The time of a field such as "2026-01-05T09:30" or "2026-01-05T09:30:15", on the market's clock.
+Millis marketTime(const std::string &text)
+{
+    int year = 0, month = 0, day = 0, hour = 0, minute = 0, second = 0;
+    const int read =
+        std::sscanf(text.c_str(), "%4d-%2d-%2dT%2d:%2d:%2d", &year, &month, &day, &hour, &minute, &second);
+    const std::chrono::year_month_day date{std::chrono::year(year), std::chrono::month(unsigned(month)),
+                                           std::chrono::day(unsigned(day))};
+    if (read < 5 || !date.ok() || hour > 23 || minute > 59 || second > 59)
+        throw Refusal("That is not a date and a time.");
+    const Millis midnight = std::chrono::sys_days(date).time_since_epoch().count() * kDay;
+    return midnight + ((hour - 8) * 60 + minute) * kMinute + second * kSecond;
+}
+
+/// Refuses to go back, and further than a year: nobody waits for the days between to be worked through.
+void jump(Brokerage &brokerage, Millis time)
+{
+    if (time > brokerage.now() + 366 * kDay)
+        throw Refusal("That is more than a year away.");
+    if (!brokerage.jumpClock(time))
+        throw Refusal("It is after " + dateTime(time) + " already.");
 }
 
 std::string setClock(Service &service, const Call &call)
@@ -56,11 +80,12 @@ std::string setClock(Service &service, const Call &call)
         brokerage.stepClock(1000);
     else if (action == "minute")
         brokerage.stepClock(60 * 1000);
-    else if (action == "close") {
-        if (!brokerage.jumpClock(closingAuction(brokerage.now())))
-            throw Refusal("It is after 14:57 already.");
-    } else if (action == "tomorrow")
-        brokerage.jumpClock(brokerage.nextTradingDay());
+    else if (action == "close")
+        jump(brokerage, closingAuction(brokerage.now()));
+    else if (action == "tomorrow")
+        jump(brokerage, brokerage.nextTradingDay());
+    else if (action == "to")
+        jump(brokerage, marketTime(call.text("time")));
     else
         throw Refusal("There is no such action.");
     return "It is now " + dateTime(brokerage.now()) + ".";

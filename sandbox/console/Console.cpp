@@ -146,7 +146,12 @@ std::string clockSection(Service &service)
            (clock.speedPercent == 0 ? "frozen" : "speed " + std::to_string(clock.speedPercent) + " %") +
            ".</p><div class=\"row\">" + button("freeze", "Freeze") + button("run", "Real time") +
            button("fast", "60 times") + button("second", "+1 second") + button("minute", "+1 minute") +
-           button("close", "To 14:57") + button("tomorrow", "To the next trading day") + "</div>";
+           button("close", "To 14:57") + button("tomorrow", "To the next trading day") + "</div>" +
+           form("sandbox/clock",
+                hidden("action", "to") + field("Date and time, Shanghai", "time",
+                                               dateTime(service.brokerage.now()).replace(10, 1, "T"),
+                                               "type=datetime-local step=1 required"),
+                "Go there");
 }
 
 Answer market(Service &service, const Call &call)

@@ -118,17 +118,15 @@ void Exchange::finishCancels(std::vector<Order> &orders, Millis now)
 
 Millis Exchange::cancelDue(const Order &order) const
 {
-    // The exchange does not work while it has a break: what was asked for then is done when it is back.
+    // The exchange does not work while it has a break: what was asked for then is the first that it does when
+    // it is back, before anything trades.
     const Calendar &calendar = m_market.calendar();
     const Millis asked = order.cancelRequestedAt;
     const Phase phase = calendar.phase(asked);
     const int day = calendar.dayOf(asked);
-    Millis begins = asked;
-    if (phase == Phase::BeforeContinuous)
-        begins = calendar.timeOf(day, 1);
-    if (phase == Phase::Lunch)
-        begins = calendar.timeOf(day, calendar.momentOf(day, asked) + 1);
-    return begins + kCancelDelay;
+    if (phase == Phase::BeforeContinuous || phase == Phase::Lunch)
+        return calendar.timeOf(day, calendar.momentOf(day, asked) + 1);
+    return asked + kCancelDelay;
 }
 
 void Exchange::expire(Millis close)
@@ -220,9 +218,12 @@ void Exchange::matchResting(Order &order, const Stock &stock, Millis now, Shared
 
 void Exchange::matchAuction(Order &order, const Stock &stock, Millis now, Shared &shared)
 {
+    // Whoever is better than the one price is served in full; at the price itself there may not be enough.
     const Cents print = m_market.spot(stock, now).price;
-    if (reaches(order, print))
+    if (order.price == print)
         fill(order, print, shareOf(order, m_market.openToUsers(stock, now), shared), {}, now);
+    else if (reaches(order, print))
+        fill(order, print, order.remaining(), {}, now);
     if (!isOpen(order.status))
         return;
     const Shares ahead = m_market.queueAt(stock, order.side, order.price, now, m_books.depthUsed(stock.code));

@@ -38,13 +38,14 @@ TEST_F(Session, TheOpeningAuctionTradesAtOnePrice)
 {
     begin(9, 16);
     const Quote before = quote(m_code);
-    const Order eager = place(Side::Buy, m_code, before.upperLimit, 100);
+    const Shares many = 1'000'000'000 / before.upperLimit / 200 * 100;
+    const Order eager = place(Side::Buy, m_code, before.upperLimit, many);
     const Order modest = place(Side::Buy, m_code, before.lowerLimit, 100);
     passTo(9, 24, 59);
     EXPECT_EQ(orderNow(eager).status, OrderStatus::Accepted);
     passTo(9, 25);
-    EXPECT_EQ(orderNow(eager).status, OrderStatus::Filled);
-    EXPECT_EQ(orderNow(eager).filledMoney, 100 * quote(m_code).last);
+    EXPECT_EQ(orderNow(eager).status, OrderStatus::Filled) << "better than the price: served in full";
+    EXPECT_EQ(orderNow(eager).filledMoney, many * quote(m_code).last);
     EXPECT_LT(quote(m_code).last, before.upperLimit);
     EXPECT_EQ(orderNow(modest).status, OrderStatus::Accepted);
 }
@@ -67,7 +68,7 @@ TEST_F(Session, CancelsHaveTheirWindows)
     passTo(9, 29, 59);
     EXPECT_EQ(orderNow(locked).status, OrderStatus::CancelRequested)
         << "taken, but not worked on before 9:30";
-    passTo(9, 30, 1);
+    passTo(9, 30);
     EXPECT_EQ(orderNow(locked).status, OrderStatus::Cancelled);
 }
 

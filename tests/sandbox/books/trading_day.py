@@ -1,0 +1,276 @@
+#!/usr/bin/env python3
+"""Plays a trading day and the next morning by the rules in docs/sandbox-market.md, through HTTPS alone.
+
+usage: trading_day.py zorvane-sandbox
+"""
+import sys
+import tempfile
+import time
+
+import recompute
+from recompute import cents, fees, half_up, yuan
+from service import Sandbox
+
+PASSWORD = "123456"
+
+
+class Trader:
+    def __init__(self, sandbox, token):
+        self.sandbox = sandbox
+        self.token = token
+
+    def order(self, side, stock, price, shares):
+        return self.sandbox.post("entrust/create" + side, self.token, stockCode=stock, entrustPrice=price,
+                                 entrustShares=shares, tradePassword=PASSWORD)
+
+    def place(self, side, stock, price, shares):
+        """The identifier of an order that must be taken; the price is in cents."""
+        answer = self.order(side, stock, yuan(price), shares)
+        assert answer["success"], answer
+        return answer["data"]["id"]
+
+    def refused(self, side, stock, price, shares, words):
+        answer = self.order(side, stock, price, shares)
+        assert not answer["success"] and words in answer["message"], (words, answer)
+
+    def entrust(self, number):
+        return next(e for e in self.sandbox.get("entrustsToday", self.token)["data"] if e["id"] == number)
+
+    def status(self, number):
+        return int(self.entrust(number)["status"])
+
+    def deals(self, number):
+        """Of one order, oldest first: price, shares and the three fees."""
+        rows = [d for d in self.sandbox.get("detailsToday", self.token)["data"] if d["entrustId"] == number]
+        return [(cents(d["businessPrice"]), int(d["businessShares"]),
+                 (cents(d["commission"]), cents(d["stampTax"]), cents(d["transferFee"]))) for d in rows[::-1]]
+
+    def cancel(self, number):
+        return self.sandbox.post("entrust/createCancel", self.token,
+                                 tradeEntrustNo=self.entrust(number)["entrustNo"])
+
+    def cancelled(self, number):
+        return self.sandbox.post("entrust/queryWithDrawStatus", self.token, id=number)["data"]
+
+    def money(self):
+        page = self.sandbox.get("zorvanePage", self.token)["data"]
+        return cents(page["availableMoney"]), cents(page["frozenMoney"])
+
+    def holding(self, stock):
+        rows = self.sandbox.get("holding", self.token)["data"]
+        return next((h for h in rows if h["stockCode"] == stock), {"shares": "0", "availableShares": "0"})
+
+    def withdrawable(self):
+        return cents(self.sandbox.get("trade/show_withdraw", self.token)["data"]["availableMoney"])
+
+
+class Day:
+    def __init__(self, sandbox):
+        self.sandbox = sandbox
+        sandbox.freeze()
+        self.find_trading_day()
+        self.demo = Trader(sandbox, sandbox.sign_in("13800138000"))
+        token = sandbox.sign_in("13912345678")
+        sandbox.post("user/set_password", token, password=PASSWORD)
+        self.rich = Trader(sandbox, token)
+        sandbox.console("deposit", user=2, amount="20000000")
+        held = {h["stockCode"][:2]: h["stockCode"] for h in sandbox.get("holding", self.demo.token)["data"]}
+        self.main, self.chinext, self.star = held["60"], held["30"], held["68"]
+
+    def find_trading_day(self):
+        """Goes on to 9:10 of the next day that is neither in a weekend nor a holiday."""
+        now = self.sandbox.now() + recompute.SHANGHAI
+        self.midnight = now - now % recompute.DAY - recompute.SHANGHAI
+        date = None
+        while date != self.sandbox.state()["tradingDay"]:
+            self.midnight += recompute.DAY
+            self.at("9:10")
+            date = time.strftime("%Y%m%d", time.gmtime((self.midnight + recompute.DAY // 2) / 1000))
+
+    def at(self, clock):
+        self.sandbox.to(self.midnight + recompute.at(clock))
+
+    def quote(self, stock):
+        return self.sandbox.get("timelyInfo/timelyOrderForm", stockCode=stock)["data"]
+
+    def price(self, stock, key):
+        return cents(self.quote(stock)[key])
+
+    def level(self, stock, side, line=0):
+        row = self.quote(stock)[side + "Pankou"][line]
+        return cents(row["price"]), int(row["volume"])
+
+    def play(self):
+        self.before_the_auction()
+        self.opening_auction()
+        self.before_continuous_trading()
+        self.refusals()
+        self.the_book()
+        self.cancels()
+        self.sealed_board()
+        self.lunch()
+        self.closing_auction()
+        self.next_day()
+
+    def before_the_auction(self):
+        self.demo.refused("Buy", self.main, self.quote(self.main)["previousClose"], 100, "非交易时间")
+        assert self.quote(self.main)["match"] == "", "no price before the first trade"
+        stocks = {row["c"]: row["n"] for row in self.sandbox.get("info")["data"]}
+        treated = {next(c for c, n in stocks.items() if n.startswith("ST") and c[:2] == board)
+                   for board in ("60", "00", "30", "68")}
+        for stock in {self.main, self.chinext, self.star} | treated:
+            percent = 10 if stock[0] in "0" or stock[:2] == "60" else 20
+            close = self.price(stock, "previousClose")
+            assert self.price(stock, "upperLimit") == half_up(close * (100 + percent), 100), stock
+            assert self.price(stock, "lowerLimit") == half_up(close * (100 - percent), 100), stock
+
+    def opening_auction(self):
+        self.at("9:15")
+        lower, upper = self.price(self.main, "lowerLimit"), self.price(self.main, "upperLimit")
+        modest = self.demo.place("Buy", self.main, lower, 100)
+        need = lower * 100 + sum(fees(recompute.BUY, lower * 100))
+        assert self.demo.money() == (200_000_00 - need, need), "price x shares and the most its fees can be"
+        assert self.demo.cancel(modest)["success"]
+        self.at("9:15:01")
+        assert self.demo.status(modest) == recompute.CANCELLED and self.demo.money() == (200_000_00, 0)
+        eager = [trader.place("Buy", self.main, upper, 200) for trader in (self.demo, self.rich)]
+        modest = self.demo.place("Buy", self.main, lower, 100)
+
+        self.at("9:20")
+        assert "9:20至9:25" in self.demo.cancel(modest)["message"]
+        late = self.demo.place("Buy", self.main, upper, 100)
+        self.at("9:24:59")
+        assert self.demo.status(late) == recompute.ACCEPTED, "nothing trades before 9:25"
+        self.at("9:25")
+        price = self.price(self.main, "match")
+        for trader, number, shares in ((self.demo, eager[0], 200), (self.rich, eager[1], 200), (self.demo, late, 100)):
+            assert [(p, s) for p, s, _ in trader.deals(number)] == [(price, shares)], "one price for all"
+        assert self.demo.status(modest) == recompute.ACCEPTED
+        self.modest = modest
+
+    def before_continuous_trading(self):
+        self.at("9:26")
+        assert self.demo.cancel(self.modest)["success"]
+        held = self.rich.place("Buy", self.main, self.level(self.main, "sell", 3)[0], 100)
+        self.at("9:29:59")
+        assert not self.demo.cancelled(self.modest), "taken, but not worked on before 9:30"
+        assert self.rich.status(held) == recompute.HELD
+        self.at("9:30")
+        assert self.demo.cancelled(self.modest) and self.demo.status(self.modest) == recompute.CANCELLED
+        assert self.rich.status(held) != recompute.HELD
+
+    def refusals(self):
+        self.at("10:00")
+        quote = self.quote(self.main)
+        last, upper, lower = quote["match"], cents(quote["upperLimit"]), cents(quote["lowerLimit"])
+        before = self.demo.money(), self.sandbox.get("entrustsToday", self.demo.token)["data"]
+        for side, stock, price, shares, words in (
+                ("Buy", "999999", last, 100, "证券代码不存在"), ("Buy", self.main, last, 150, "100股的整数倍"),
+                ("Buy", self.main, last, 1_000_100, "不得超过1000000股"),
+                ("Buy", self.chinext, "20.00", 300_100, "不得超过300000股"),
+                ("Buy", self.star, "20.00", 100_001, "不得超过100000股"),
+                ("Buy", self.star, "20.00", 199, "不得少于200股"),
+                ("Buy", self.main, last + "5", 100, "0.01元的整数倍"),
+                ("Buy", self.main, yuan(upper + 1), 100, "涨跌停范围"),
+                ("Sell", self.main, yuan(lower - 1), 100, "涨跌停范围"),
+                ("Buy", self.main, last, 900_000, "可用资金不足"), ("Sell", self.main, last, 5_000, "可卖股份不足"),
+                ("Sell", self.main, last, 2_100, "T+1"), ("Sell", self.chinext, "20.00", 36, "零股为37股"),
+                ("Sell", self.main, last, 50, "100股的整数倍"), ("Buy", self.main, "x", 100, "委托价格不正确"),
+                ("Buy", self.main, last, 0, "委托数量不正确")):
+            self.demo.refused(side, stock, price, shares, words)
+        assert before == (self.demo.money(), self.sandbox.get("entrustsToday", self.demo.token)["data"])
+        caged = self.demo.place("Buy", self.main, upper, 100)
+        assert self.demo.status(caged) == recompute.REJECTED and "有效申报价格范围" in self.demo.entrust(caged)["errorMsg"]
+        odd = self.demo.place("Sell", self.chinext, self.level(self.chinext, "buy", 2)[0], 1237)
+        assert self.demo.status(odd) == recompute.FILLED, "the odd remainder goes together with the lots"
+
+    def the_book(self):
+        levels = [self.level(self.main, "sell", line) for line in range(3)]
+        wanted = levels[0][1] + levels[1][1] + 300
+        taken = self.rich.place("Buy", self.main, levels[1][0], wanted)
+        deals = self.rich.deals(taken)
+        assert [(p, s) for p, s, _ in deals] == levels[:2], "best first, each at its price"
+        assert self.rich.status(taken) == recompute.PARTLY
+        assert self.level(self.main, "sell") == levels[2], "what was taken stays taken"
+        money = sum(p * s for p, s, _ in deals)
+        assert tuple(map(sum, zip(*(f for *_, f in deals)))) == fees(recompute.BUY, money), "fees of the whole order"
+
+    def cancels(self):
+        bid = self.level(self.star, "buy", 9)[0]
+        lost = self.rich.place("Buy", self.star, bid, 201)
+        assert self.rich.cancel(lost)["success"] and not self.rich.cancelled(lost)
+        assert not self.rich.cancel(lost)["success"], "asked for once"
+        self.sandbox.console("price", stockCode=self.star, price=yuan(bid - 5))
+        assert self.rich.cancelled(lost) and self.rich.status(lost) == recompute.FILLED, "the fill came first"
+        assert {p for p, *_ in self.rich.deals(lost)} == {bid}, "a resting order trades at its own price"
+        assert not self.rich.cancel(lost)["success"]
+
+    def sealed_board(self):
+        self.sandbox.console("seal", stockCode=self.star, seal="up")
+        upper = self.price(self.star, "upperLimit")
+        assert self.level(self.star, "sell") == (0, 0) and self.level(self.star, "buy")[0] == upper
+        first, second = (self.rich.place("Buy", self.star, upper, 5_000) for _ in range(2))
+        self.at("10:05")
+        assert int(self.rich.entrust(second)["businessShares"]) == 0, "the queue is served first"
+        before, withdrawable = self.demo.money()[0], self.demo.withdrawable()
+        sold = self.demo.place("Sell", self.star, upper, 600)
+        assert self.demo.status(sold) == recompute.FILLED, "there are buyers enough"
+        assert self.demo.money()[0] == before + upper * 600 - sum(fees(recompute.SELL, upper * 600))
+        assert self.demo.withdrawable() == withdrawable, "what a sale brought is withdrawn tomorrow"
+        self.sandbox.console("seal", stockCode=self.star, seal="none")
+
+    def lunch(self):
+        self.at("11:30")
+        book = self.quote(self.main) | {"time": ""}
+        held = self.demo.place("Buy", self.main, self.level(self.main, "sell", 2)[0], 100)
+        assert self.demo.status(held) == recompute.HELD
+        self.at("12:59:59")
+        assert self.demo.status(held) == recompute.HELD and self.quote(self.main) | {"time": ""} == book
+        self.at("13:00")
+        assert self.demo.status(held) != recompute.HELD
+
+    def closing_auction(self):
+        self.at("14:57")
+        eager = self.demo.place("Buy", self.main, self.price(self.main, "upperLimit"), 100)
+        self.expiring = self.demo.place("Buy", self.main, self.price(self.main, "lowerLimit"), 100)
+        assert "14:57至15:00" in self.demo.cancel(self.expiring)["message"]
+        self.at("14:59:59")
+        assert not self.demo.deals(eager)
+        self.at("15:00")
+        close = self.price(self.main, "match")
+        assert [(p, s) for p, s, _ in self.demo.deals(eager)] == [(close, 100)], "the closing price"
+        expired = self.demo.entrust(self.expiring)
+        assert int(expired["status"]) == recompute.CANCELLED and expired["errorMsg"], "day orders expire"
+        assert self.demo.money()[1] == 0 and self.rich.money()[1] == 0
+        self.demo.refused("Buy", self.main, yuan(close), 100, "非交易时间")
+        self.at("23:59:59")
+        assert self.demo.holding(self.main)["availableShares"] == "2000", "T+1"
+
+    def next_day(self):
+        close = self.price(self.main, "match")
+        self.sandbox.console("clock", action="tomorrow")
+        self.midnight = self.sandbox.now() - recompute.at("9:15")
+        assert self.price(self.main, "previousClose") == close
+        held = self.demo.holding(self.main)
+        assert held["availableShares"] == held["shares"] != "2000"
+        assert self.demo.withdrawable() == self.demo.money()[0]
+        assert self.sandbox.get("entrustsToday", self.demo.token)["data"] == []
+        self.at("10:00")
+        bid = self.level(self.main, "buy")[0]
+        sold = self.demo.place("Sell", self.main, bid, 100)
+        assert self.demo.status(sold) == recompute.FILLED
+
+
+def main(program):
+    with tempfile.TemporaryDirectory() as folder:
+        sandbox = Sandbox(program, folder, seed=1, market_hours=True)
+        try:
+            Day(sandbox).play()
+            differences = recompute.read(sandbox.database).compare(sandbox.state())
+            assert not differences, "\n".join(differences)
+        finally:
+            sandbox.stop()
+
+
+if __name__ == "__main__":
+    main(sys.argv[1])
