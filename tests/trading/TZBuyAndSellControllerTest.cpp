@@ -182,6 +182,25 @@ TEST_F(OrderEntryTest, AQuoteFillsPriceAndBookAndABrokenOneLeavesThem)
     EXPECT_TRUE(unchanged());
 }
 
+TEST_F(OrderEntryTest, LostQuotesAgeUntilAGoodOneComes)
+{
+    openWithEntry();
+    http.answer(quotePath, quote("12.30"));
+    runLoop.advance(9s);
+    http.fail(quotePath, HttpFailure::Offline);
+    EXPECT_FALSE(screen->quoteAge()->isStale());
+    runLoop.advance(3s);
+    EXPECT_EQ(screen->quoteAge()->text(), "行情已 12 秒未更新");
+    http.answer(quotePath, refused("行情不可用"));
+    EXPECT_TRUE(screen->quoteAge()->isStale());
+    http.answer(quotePath, quote("12.31"));
+    EXPECT_FALSE(screen->quoteAge()->isStale());
+
+    runLoop.advance(11s);
+    screen->chooseStock(stock("000002", "东方钢铁"));
+    EXPECT_FALSE(screen->quoteAge()->isStale());
+}
+
 TEST_F(OrderEntryTest, AQuoteThatComesLateNeverReplacesANewerOneNorAnotherStocksBook)
 {
     openBuying();

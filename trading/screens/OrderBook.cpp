@@ -1,5 +1,6 @@
 #include "trading/screens/OrderBook.h"
 
+#include "core/util/Service.h"
 #include "core/util/Text.h"
 
 namespace {
@@ -10,6 +11,15 @@ TZHandicapModel levelAt(const QVariantList &pankou, int index, const QString &si
             textForm(level.value(QStringLiteral("volume")))};
 }
 } // namespace
+
+bool OrderBook::isQuote(const QVariantMap &data)
+{
+    const auto isArray = [&data](const QString &key) {
+        return data.value(key).typeId() == QMetaType::QVariantList;
+    };
+    return isArray(QStringLiteral("buyPankou")) || isArray(QStringLiteral("sellPankou")) ||
+           !Service::whetherAnEmptyString(data.value(QStringLiteral("match")));
+}
 
 QList<TZHandicapModel> OrderBook::buyLevels(const QVariantList &pankou)
 {

@@ -11,6 +11,9 @@ namespace OrderBook {
 
 inline constexpr int depth = 10;
 
+/// Whether an answer's "data" brought news: a latest price, or a side of the book.
+bool isQuote(const QVariantMap &data);
+
 /// 买1 to 买10.
 QList<TZHandicapModel> buyLevels(const QVariantList &pankou);
 /// Kept on purpose: two blocks of five, each with its highest level first: 卖5 to 卖1, then 卖10 to 卖6.

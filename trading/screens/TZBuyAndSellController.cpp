@@ -83,6 +83,7 @@ void TZBuyAndSellController::viewDidDisappear()
     shown = false;
     quoteTimer.stop();
     orderTimer.stop();
+    age.stop();
 }
 
 void TZBuyAndSellController::getBuyPage()
@@ -128,6 +129,7 @@ void TZBuyAndSellController::chooseStock(const TZStockInfoModel &chosen)
 
 void TZBuyAndSellController::startQuoteTimer()
 {
+    age.start();
     fetchQuote();
     quoteTimer.startRepeating(3s, [this] { fetchQuote(); });
 }
@@ -146,6 +148,8 @@ void TZBuyAndSellController::fetchQuote()
 
 void TZBuyAndSellController::showQuote(const QVariantMap &data)
 {
+    if (OrderBook::isQuote(data))
+        age.restart();
     const QVariant match = data.value(QStringLiteral("match"));
     if (!Service::whetherAnEmptyString(match)) {
         latestPrice = textForm(match);
@@ -164,6 +168,7 @@ void TZBuyAndSellController::showQuote(const QVariantMap &data)
 void TZBuyAndSellController::forgetQuotes()
 {
     shownQuote = askedQuotes;
+    age.forget();
     latestPrice.clear();
     Q_EMIT currentPriceChanged();
     buyLevels = OrderBook::buyLevels({});

@@ -7,6 +7,7 @@
 #include "trading/api/TZZorvanePageStocksModel.h"
 #include "trading/screens/HoldingsDelegate.h"
 #include "trading/screens/OrderEntryRules.h"
+#include "trading/screens/QuoteAge.h"
 #include "trading/screens/StockChooser.h"
 #include "trading/screens/TZHandicapView.h"
 
@@ -33,6 +34,7 @@ class TZBuyAndSellController : public KRBaseController, public StockChooser, pub
     Q_PROPERTY(int selectedFraction READ selectedFraction NOTIFY quantityChanged)
     Q_PROPERTY(TZHandicapView *sellHandicapView READ sellHandicapView CONSTANT)
     Q_PROPERTY(TZHandicapView *buyHandicapView READ buyHandicapView CONSTANT)
+    Q_PROPERTY(QuoteAge *quoteAge READ quoteAge CONSTANT)
     Q_PROPERTY(QString submitTitle READ submitTitle CONSTANT)
 public:
     /// For selling `stock` is the holding; for buying it needs no more than `stockCode` and `stockName`, or
@@ -56,6 +58,7 @@ public:
     int selectedFraction() const { return fraction; }
     TZHandicapView *sellHandicapView() { return &sellView; }
     TZHandicapView *buyHandicapView() { return &buyView; }
+    QuoteAge *quoteAge() { return &age; }
     QString submitTitle() const { return texts.title; }
 
     const TZZorvanePageStocksModel &zorvanePageStocksModel() const { return stock; }
@@ -136,6 +139,7 @@ private:
     QList<TZHandicapModel> sellLevels;
     TZHandicapView buyView;
     TZHandicapView sellView;
+    QuoteAge age;
 
     bool shown = false;
     Timer quoteTimer;

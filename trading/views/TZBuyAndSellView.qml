@@ -10,6 +10,7 @@ PageFrame {
 
     readonly property TZBuyAndSellController screen: controller as TZBuyAndSellController
     readonly property real bookWidth: Math.min(260, Math.floor(width * 0.46))
+    readonly property real quoteOpacity: screen.quoteAge.stale ? Theme.disabledOpacity : 1
     readonly property real levelHeight: Math.floor((scroll.height - bookTitle.height - Theme.spacing) / 20)
 
     FormRow {
@@ -64,6 +65,7 @@ PageFrame {
                     anchors.verticalCenter: parent.verticalCenter
                     deep: true
                     text: page.screen.currentPriceText
+                    opacity: page.quoteOpacity
                     font: Theme.caption
                     color: Theme.deep.textSecondary
                 }
@@ -127,10 +129,24 @@ PageFrame {
             width: page.bookWidth
             bottomPadding: Theme.spacingSmall
 
-            SectionHeader {
+            Item {
                 id: bookTitle
-                deep: true
-                text: "level2 盘口"
+                width: parent.width
+                height: 36
+
+                // The age finds room within the title: levels never move below a finger.
+                SectionHeader {
+                    width: parent.width
+                    height: parent.height - (quoteAge.visible ? quoteAge.height - Theme.spacingTiny : 0)
+                    deep: true
+                    text: "level2 盘口"
+                }
+                QuoteAgeText {
+                    id: quoteAge
+                    anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+                    anchors { leftMargin: Theme.margin; rightMargin: Theme.spacingSmall; bottomMargin: 1 }
+                    age: page.screen.quoteAge
+                }
             }
             OrderBookSide {
                 width: parent.width
@@ -138,6 +154,7 @@ PageFrame {
                 buySide: false
                 name: "卖盘"
                 rowHeight: Math.max(30, page.levelHeight)
+                opacity: page.quoteOpacity
             }
             Hairline {
                 width: parent.width
@@ -149,6 +166,7 @@ PageFrame {
                 buySide: true
                 name: "买盘"
                 rowHeight: Math.max(30, page.levelHeight)
+                opacity: page.quoteOpacity
             }
         }
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "trading/screens/QuoteAge.h"
 #include "trading/screens/TZBuyAndSellController.h"
 #include "trading/screens/TZChooseSellStockController.h"
 #include "trading/screens/TZDealAndEntrustController.h"
@@ -13,6 +14,10 @@
 #include "ui/ViewType.h"
 
 // The classes that this area's views know.
+struct QuoteAgeForViews {
+    Q_GADGET
+    ZV_VIEW_TYPE(QuoteAge)
+};
 struct TZBuyAndSellControllerForViews {
     Q_GADGET
     ZV_VIEW_TYPE(TZBuyAndSellController)
