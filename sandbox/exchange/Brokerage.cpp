@@ -382,7 +382,9 @@ std::optional<Quote> Brokerage::quote(const std::string &stockCode)
     const Stock *stock = m_parts->market.stocks().find(stockCode);
     if (!stock)
         return std::nullopt;
-    return m_parts->market.quote(*stock, now, m_parts->books.depthUsed(stockCode));
+    Quote quote = m_parts->market.quote(*stock, now, m_parts->books.depthUsed(stockCode));
+    m_parts->exchange.show(quote, now);
+    return quote;
 }
 
 std::optional<StockDetail> Brokerage::stockDetail(const std::string &stockCode)
@@ -392,7 +394,10 @@ std::optional<StockDetail> Brokerage::stockDetail(const std::string &stockCode)
     const Stock *stock = m_parts->market.stocks().find(stockCode);
     if (!stock)
         return std::nullopt;
-    return m_parts->market.detail(*stock, now, m_parts->books.depthUsed(stockCode), kFinishedDays);
+    StockDetail detail =
+        m_parts->market.detail(*stock, now, m_parts->books.depthUsed(stockCode), kFinishedDays);
+    m_parts->exchange.show(detail.quote, now);
+    return detail;
 }
 
 Outcome<Cents> Brokerage::movePrice(const std::string &stockCode, Cents price)

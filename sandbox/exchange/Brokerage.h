@@ -39,8 +39,7 @@ struct BrokerageOptions {
  * the market up to the clock's now (fills, cancels, day ends), so answers depend on the clock and on the
  * order of requests only, never on how often tick() runs. Every change is committed before the call returns.
  *
- * Not simulated: users' orders neither move the price nor appear in the displayed book, and do not trade with
- * each other; dividends; delays of quotes.
+ * Not simulated: users' orders do not move the price; dividends; delays of quotes.
  *
  * Throws StoreError when the database fails, and std::runtime_error when it belongs to another seed or
  * market-hours setting.

@@ -49,6 +49,22 @@ Fees feesSoFar(const Order &order)
     return {order.commission, order.stampTax, order.transferFee};
 }
 
+/** Puts the order where its price belongs among the levels, which come best first. */
+void addTo(std::array<Level, kBookDepth> &levels, const Order &order)
+{
+    const auto place = std::find_if(levels.begin(), levels.end(), [&](const Level &level) {
+        const bool better = order.side == Side::Buy ? level.price > order.price : level.price < order.price;
+        return level.price == 0 || !better;
+    });
+    if (place == levels.end())
+        return;
+    if (place->price != order.price) {
+        std::move_backward(place, levels.end() - 1, levels.end());
+        *place = {order.price, 0};
+    }
+    place->volume += order.remaining();
+}
+
 Shares wholeLots(Shares shares)
 {
     return shares / 100 * 100;
@@ -73,7 +89,7 @@ void Exchange::advance(Millis from, Millis to)
 void Exchange::workDay(int day, Millis from, Millis to)
 {
     const Calendar &calendar = m_market.calendar();
-    std::vector<Order> orders = m_books.openOrders();
+    Orders orders = m_books.openOrders();
     std::sort(orders.begin(), orders.end(), comesFirst);
     const Millis close = calendar.close(day);
     for (int moment = calendar.momentOf(day, from) + 1; !orders.empty() && moment < calendar.momentCount();
@@ -90,7 +106,7 @@ void Exchange::workDay(int day, Millis from, Millis to)
         expire(close);
 }
 
-void Exchange::workMoment(std::vector<Order> &orders, int day, int moment)
+void Exchange::workMoment(Orders &orders, int day, int moment)
 {
     const Millis time = m_market.calendar().timeOf(day, moment);
     const bool auction = m_market.calendar().isAuction(moment);
@@ -102,18 +118,22 @@ void Exchange::workMoment(std::vector<Order> &orders, int day, int moment)
         if (auction)
             matchAuction(order, stock, time, shared);
         else if (order.status == OrderStatus::Held)
-            forward(order, stock, time);
+            forward(order, orders, stock, time);
         else
-            matchResting(order, stock, time, shared);
+            matchResting(order, orders, stock, time, shared);
     }
 }
 
-void Exchange::finishCancels(std::vector<Order> &orders, Millis now)
+void Exchange::finishCancels(Orders &orders, Millis now)
 {
+    // In order of time, so that the log does not tell how often the market was brought up to now.
+    std::map<std::pair<Millis, std::int64_t>, Order *> due;
     for (Order &order : orders)
         if (waitsForCancel(order.status) && cancelDue(order) <= now)
-            close(order, order.filled > 0 ? OrderStatus::PartlyCancelled : OrderStatus::Cancelled, "",
-                  cancelDue(order));
+            due[{cancelDue(order), order.id}] = &order;
+    for (const auto &[when, order] : due)
+        close(*order, order->filled > 0 ? OrderStatus::PartlyCancelled : OrderStatus::Cancelled, "",
+              when.first);
 }
 
 Millis Exchange::cancelDue(const Order &order) const
@@ -148,8 +168,10 @@ std::int64_t Exchange::take(const CheckedOrder &checked, Millis now)
                                    static_cast<int>(held ? OrderStatus::Held : OrderStatus::Accepted), 0,
                                    calendar.dateOf(calendar.dayOf(now))});
     if (phase == Phase::Continuous) {
-        Order order = *m_books.order(id);
-        matchArriving(order, *checked.stock, now);
+        Orders orders = openOrders(checked.stock->code);
+        const auto arrived =
+            std::find_if(orders.begin(), orders.end(), [id](const Order &order) { return order.id == id; });
+        matchArriving(*arrived, orders, *checked.stock, now);
     }
     return id;
 }
@@ -172,20 +194,27 @@ void Exchange::rematch(const std::string &stockCode, Millis now)
     if (m_market.calendar().phase(now) != Phase::Continuous)
         return;
     const Stock &stock = *m_market.stocks().find(stockCode);
-    std::vector<Order> orders = m_books.openOrders();
+    Orders orders = openOrders(stockCode);
+    for (Order &order : orders)
+        if (isOpen(order.status))
+            takeDepth(order, orders, stock, now, true);
+}
+
+Exchange::Orders Exchange::openOrders(const std::string &stockCode)
+{
+    Orders orders = m_books.openOrders();
     std::erase_if(orders, [&](const Order &order) {
         return order.stockCode != stockCode || order.status == OrderStatus::Held;
     });
     std::sort(orders.begin(), orders.end(), comesFirst);
-    for (Order &order : orders)
-        takeDepth(order, stock, now, true);
+    return orders;
 }
 
-void Exchange::matchArriving(Order &order, const Stock &stock, Millis now)
+void Exchange::matchArriving(Order &order, Orders &others, const Stock &stock, Millis now)
 {
     if (voidOutsideCage(order, stock, now))
         return;
-    takeDepth(order, stock, now, false);
+    takeDepth(order, others, stock, now, false);
     if (!isOpen(order.status))
         return;
     const Shares ahead = m_market.queueAt(stock, order.side, order.price, now, m_books.depthUsed(stock.code));
@@ -193,12 +222,12 @@ void Exchange::matchArriving(Order &order, const Stock &stock, Millis now)
         queue(order, ahead, order.status, now);
 }
 
-void Exchange::matchResting(Order &order, const Stock &stock, Millis now, Shared &shared)
+void Exchange::matchResting(Order &order, Orders &others, const Stock &stock, Millis now, Shared &shared)
 {
     const Cents price = m_market.spot(stock, now).price;
     if (!reaches(order, price))
         return;
-    takeDepth(order, stock, now, true);
+    takeDepth(order, others, stock, now, true);
     if (!isOpen(order.status))
         return;
     if (price != order.price) {
@@ -231,23 +260,54 @@ void Exchange::matchAuction(Order &order, const Stock &stock, Millis now, Shared
         queue(order, ahead, order.status, now);
 }
 
-void Exchange::forward(Order &order, const Stock &stock, Millis now)
+void Exchange::forward(Order &order, Orders &others, const Stock &stock, Millis now)
 {
     queue(order, 0, OrderStatus::Accepted, now);
-    matchArriving(order, stock, now);
+    matchArriving(order, others, stock, now);
 }
 
-void Exchange::takeDepth(Order &order, const Stock &stock, Millis now, bool atOwnPrice)
+void Exchange::takeDepth(Order &order, Orders &others, const Stock &stock, Millis now, bool atOwnPrice)
 {
     for (const DisplayedLevel &level :
          m_market.displayed(stock, opposite(order.side), now, m_books.depthUsed(stock.code))) {
-        if (order.remaining() == 0 || !reaches(order, level.price))
-            return;
+        if (!reaches(order, level.price))
+            break;
+        takeOrders(order, others, level.price, now);
         fill(order, atOwnPrice ? order.price : level.price, std::min(order.remaining(), level.volume), level,
              now);
     }
+    takeOrders(order, others, order.side == Side::Buy ? order.price + 1 : order.price - 1, now);
 }
 
+void Exchange::takeOrders(Order &order, Orders &others, Cents before, Millis now)
+{
+    for (Order &other : others) {
+        const bool better = order.side == Side::Buy ? other.price < before : other.price > before;
+        if (other.stockCode == order.stockCode && other.side != order.side && better &&
+            isOpen(other.status) && other.status != OrderStatus::Held && order.remaining() > 0)
+            trade(order, other, now);
+    }
+}
+
+void Exchange::trade(Order &order, Order &other, Millis now)
+{
+    const Order &earlier = other.id < order.id ? other : order;
+    const Cents price = earlier.price;
+    const Shares shares = std::min(order.remaining(), other.remaining());
+    if (other.queueAhead > 0)
+        queue(other, 0, other.status, now); // what stood before it has been taken
+    fill(other, price, shares, {}, now);
+    fill(order, price, shares, {}, now);
+}
+
+void Exchange::show(Quote &quote, Millis now)
+{
+    const Phase phase = m_market.calendar().phase(now);
+    if (phase != Phase::Continuous && phase != Phase::Lunch)
+        return;
+    for (const Order &order : openOrders(quote.code))
+        addTo(order.side == Side::Buy ? quote.bids : quote.asks, order);
+}
 bool Exchange::voidOutsideCage(Order &order, const Stock &stock, Millis now)
 {
     if (!m_market.calendar().marketHours())

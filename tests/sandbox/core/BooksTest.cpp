@@ -60,26 +60,6 @@ TEST_F(BooksFixture, TheDemoAccountIsReadyToTrade)
     EXPECT_EQ(brokerage().holdings(kUser).size(), 4u) << "only once";
 }
 
-TEST_F(BooksFixture, ProfitFiguresAddUp)
-{
-    tradeABit();
-    Cents profit = 0;
-    Cents value = 0;
-    for (const Holding &held : brokerage().holdings(kUser)) {
-        EXPECT_EQ(held.totalValue, held.currentPrice * held.shares);
-        EXPECT_EQ(held.profit, held.totalValue - held.cost);
-        EXPECT_EQ(held.accumulatedProfit,
-                  held.totalValue + held.accumulatedSellIncome - held.accumulatedBuyCost);
-        EXPECT_EQ(held.accumulatedBuyShares - held.accumulatedSellShares, held.shares);
-        profit += held.profit;
-        value += held.totalValue;
-    }
-    const AccountSummary account = brokerage().accountSummary(kUser);
-    EXPECT_EQ(account.profit, profit);
-    EXPECT_EQ(account.stockValue, value);
-    EXPECT_EQ(account.totalAsset, account.available + account.frozen + value);
-}
-
 TEST_F(BooksFixture, ASaleTakesItsPartOfTheCostAndLeavesTheCostPerShare)
 {
     const std::string code = stock(Board::ShenzhenMain).code;
@@ -94,19 +74,6 @@ TEST_F(BooksFixture, ASaleTakesItsPartOfTheCostAndLeavesTheCostPerShare)
     const Cents income = sale.filledMoney - sale.commission - sale.stampTax - sale.transferFee;
     EXPECT_EQ(held.accumulatedSellIncome, income);
     EXPECT_EQ(held.profitCostPerShare, ratioText(1'000'000 - income, 60'000, 3));
-}
-
-TEST_F(BooksFixture, ARestartFindsTheSameBooks)
-{
-    tradeABit();
-    const auto orders = brokerage().ordersToday(kUser, 0);
-    const Quote shown = quote(orders.front().stockCode);
-    const AccountSummary account = brokerage().accountSummary(kUser);
-    reopen();
-    EXPECT_EQ(brokerage().ordersToday(kUser, 0).size(), orders.size());
-    EXPECT_EQ(quote(orders.front().stockCode), shown) << "the moved price and the used depth included";
-    EXPECT_EQ(brokerage().accountSummary(kUser).totalAsset, account.totalAsset);
-    EXPECT_EQ(brokerage().accountSummary(kUser).frozen, account.frozen);
 }
 
 TEST_F(BooksFixture, TheClockIsRememberedOverARestart)
@@ -141,55 +108,6 @@ TEST_F(BooksFixture, TheEventsAloneGiveTheBooksAgain)
     Books(copy).replay(original);
     EXPECT_EQ(dump(copy), dump(original));
     EXPECT_NE(dump(copy).find("entrust\n1|"), std::string::npos) << "there is something to compare";
-}
-
-/** Orders that fill at once, rest near the market or wait in a queue, a cancel and a hand on the price. */
-void tradeALot(Brokerage &brokerage)
-{
-    const std::string code = brokerage.holdings(1).front().stockCode;
-    const Quote shown = *brokerage.quote(code);
-    const auto order = [&](Side side, Cents price, const char *shares) {
-        brokerage.placeOrder({1, side, code, yuanText(price), shares});
-    };
-    order(Side::Buy, shown.asks[1].price, "600");
-    order(Side::Buy, shown.lowerLimit, "100");
-    order(Side::Sell, shown.bids[1].price, "300");
-    for (std::size_t line = 0; line < 4; ++line) {
-        order(Side::Buy, shown.bids[line].price, "500");
-        order(Side::Sell, shown.asks[line].price, "200");
-    }
-    brokerage.cancelOrder(1, entrustNo(2));
-    brokerage.movePrice(code, shown.last + 2);
-    const std::string sealed = brokerage.holdings(1)[1].stockCode;
-    brokerage.sealBoard(sealed, Brokerage::Seal::LimitUp);
-    brokerage.placeOrder({1, Side::Buy, sealed, yuanText(brokerage.quote(sealed)->upperLimit), "100"});
-}
-
-TEST_F(BooksFixture, SameSeedClockAndRequestsGiveTheSameBooksHoweverOftenItTicksOrStartsAgain)
-{
-    tradeALot(brokerage());
-    pass(40 * kMinute);
-    Database first(databasePath());
-    const std::string books = dump(first);
-    EXPECT_GT(brokerage().dealsToday(kUser, 0).size(), 3u) << "there is something to compare";
-
-    const TemporaryDirectory directory;
-    const BrokerageOptions options{directory.file("other.sqlite"), 11, false};
-    Millis real = shanghai(kTuesday, 10, 0);
-    Clock clock([&real] { return real; });
-    auto other = std::make_unique<Brokerage>(options, clock);
-    other->createDemoAccount(kUser);
-    tradeALot(*other);
-    for (int second = 1; second <= 40 * 60; ++second) {
-        real += kSecond;
-        other->tick();
-        if (second % 300 == 0) {
-            other.reset();
-            other = std::make_unique<Brokerage>(options, clock);
-        }
-    }
-    Database second(directory.file("other.sqlite"));
-    EXPECT_EQ(dump(second), books);
 }
 
 TEST_F(BooksFixture, AKilledProcessLosesNothingItAnswered)

@@ -124,6 +124,33 @@ TEST_F(Matching, AtOnePriceTheEarlierOrderIsServedFirst)
     EXPECT_LE(orderNow(second).filled, orderNow(first).filled);
 }
 
+TEST_F(Matching, UsersTradeWithEachOtherByPriceThenTimeBehindWhatIsDisplayed)
+{
+    const Quote before = quote(m_code);
+    const Level ask = before.asks[0];
+    for (const UserId user : {2, 3}) {
+        openAccount(10'000, user);
+        brokerage().grantShares(user, m_code, 1000, 1'000'000);
+    }
+    const Order second = place(Side::Sell, m_code, ask.price, 300, 3);
+    const Order third = place(Side::Sell, m_code, ask.price, 500, 2);
+    const Order dear = place(Side::Sell, m_code, ask.price + 1, 400, 3);
+    EXPECT_EQ(quote(m_code).asks[0], (Level{ask.price, ask.volume + 800})) << "the book shows them";
+
+    const Order buy = place(Side::Buy, m_code, ask.price, ask.volume + 400);
+    EXPECT_EQ(buy.status, OrderStatus::Filled);
+    EXPECT_EQ(buy.filledMoney, ask.price * (ask.volume + 400));
+    EXPECT_EQ(orderNow(second).status, OrderStatus::Filled);
+    EXPECT_EQ(orderNow(third).filled, 100);
+    EXPECT_EQ(orderNow(dear).filled, 0);
+    EXPECT_EQ(quote(m_code).asks[0], (Level{ask.price, 400}));
+    EXPECT_EQ(brokerage().usableMoney(3),
+              10'000 + ask.price * 300 - feesOf(true, ask.price * 300, 20251118).total());
+
+    const Order last = place(Side::Buy, m_code, ask.price + 1, 400);
+    EXPECT_EQ(last.filledMoney, 400 * ask.price) << "the one that stood there makes the price";
+}
+
 TEST_F(Matching, ACancelReleasesTheMoneyASecondLater)
 {
     const Order order = place(Side::Buy, m_code, quote(m_code).lowerLimit, 300);

@@ -43,8 +43,12 @@ class TradingFixture : public ::testing::Test {
 protected:
     static constexpr UserId kUser = 1;
 
+    /** Begins anew, with an empty database. */
     void open(bool marketHours, Millis begin)
     {
+        m_books.reset();
+        m_brokerage.reset();
+        m_directory = std::make_unique<TemporaryDirectory>();
         m_real = begin;
         m_marketHours = marketHours;
         reopen();
@@ -67,7 +71,7 @@ protected:
     }
 
     Brokerage &brokerage() { return *m_brokerage; }
-    std::string databasePath() const { return m_directory.file("sandbox.sqlite"); }
+    std::string databasePath() const { return m_directory->file("sandbox.sqlite"); }
     void pass(Millis duration)
     {
         m_real += duration;
@@ -115,7 +119,7 @@ protected:
     }
 
 private:
-    TemporaryDirectory m_directory;
+    std::unique_ptr<TemporaryDirectory> m_directory;
     Millis m_real = 0;
     bool m_marketHours = false;
     std::unique_ptr<Clock> m_clock;
