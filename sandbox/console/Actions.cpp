@@ -115,6 +115,13 @@ std::string deposit(Service &service, const Call &call)
     return "Paid in; " + yuanText(available) + " yuan available.";
 }
 
+std::string drawLines(Service &service, const Call &call)
+{
+    http::accepted(service.brokerage.setLossLines(owner(service, call),
+                                                  {amount(call, "warnLine"), amount(call, "closeOutLine")}));
+    return "The lines are drawn.";
+}
+
 std::string sendMessage(Service &service, const Call &call)
 {
     messages::Message message;
@@ -176,6 +183,7 @@ void addActions(http::Router &router, http::Service &service)
     add("sandbox/price", toMarket, movePrice);
     add("sandbox/seal", toMarket, sealBoard);
     add("sandbox/deposit", ownPage, deposit);
+    add("sandbox/lines", ownPage, drawLines);
     add("sandbox/message", ownPage, sendMessage);
     add("sandbox/push-order", ownPage, pushOrder);
     add("sandbox/reject", ownPage, rejectOrder);

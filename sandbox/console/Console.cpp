@@ -126,6 +126,15 @@ Answer userBooks(Service &service, const Call &call)
         "<h2>Pay money in</h2>" +
         form("sandbox/deposit",
              owner + field("Amount, yuan", "amount", "10000", "inputmode=decimal required"), "Pay in") +
+        "<h2>Loss lines</h2><p class=\"hint\">Where the total falls to the warning line the account is at "
+        "warning, at the close-out line at risk. 0: no line.</p>" +
+        form("sandbox/lines",
+             owner +
+                 field("Warning line, yuan", "warnLine", yuanText(account.lines.warn),
+                       "inputmode=decimal required") +
+                 field("Close-out line, yuan", "closeOutLine", yuanText(account.lines.closeOut),
+                       "inputmode=decimal required"),
+             "Draw the lines") +
         "<h2>Send a message</h2>" +
         form("sandbox/message",
              owner + choice("Kind", "source", {{"100", "System notice"}, {"200", "Activity"}}) +
@@ -191,9 +200,9 @@ Answer faults(Service &service, const Call &call)
     return page(
         call, "Faults",
         "<p class=\"hint\">The next calls of a path go wrong. A path may end in * to cover all that begin "
-        "so. "
-        "drop-before, status and refuse keep the work of the call from being done; the others let it be done."
-        "</p>" +
+        "so. drop-before, status and refuse keep the work of the call from being done, delay-before lets it "
+        "wait; "
+        "with the others it is done at once, and the delay holds its answer back.</p>" +
             table("Waiting", {"Path", "Kind", "Calls left", "Delay"}, rows) +
             form("sandbox/add-fault",
                  choice("Kind", "kind", kinds) + field("Path", "path", "entrust/createBuy", "required") +

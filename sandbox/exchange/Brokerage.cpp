@@ -28,6 +28,11 @@ void settle(Books &books, const std::string &key, std::int64_t wanted, const std
         throw std::runtime_error(complaint);
 }
 
+std::string lineKey(const std::string &line, UserId user)
+{
+    return line + " line of user " + std::to_string(user);
+}
+
 std::optional<std::int64_t> orderIdOf(const std::string &number)
 {
     const auto value = parseShares(number);
@@ -42,6 +47,7 @@ struct Brokerage::Parts {
         : database(options.databasePath), books(database), clock(theClock),
           market(options.seed, options.marketHours), exchange(market, books)
     {
+        database.check();
         Transaction transaction(database);
         settle(books, "seed", static_cast<std::int64_t>(options.seed),
                "the database was made with another seed; give that seed, or another database");
@@ -257,7 +263,26 @@ AccountSummary Brokerage::accountSummary(UserId user)
 {
     const std::lock_guard lock(m_parts->mutex);
     const Millis now = m_parts->catchUp();
-    return summaryOf(m_parts->books.account(user).value_or(Account{}), m_parts->holdings(user, now));
+    AccountSummary summary =
+        summaryOf(m_parts->books.account(user).value_or(Account{}), m_parts->holdings(user, now));
+    summary.lines = {m_parts->books.setting(lineKey("warning", user)).value_or(0),
+                     m_parts->books.setting(lineKey("close-out", user)).value_or(0)};
+    return summary;
+}
+
+Outcome<LossLines> Brokerage::setLossLines(UserId user, LossLines lines)
+{
+    const std::lock_guard lock(m_parts->mutex);
+    const Millis now = m_parts->catchUp();
+    if (!m_parts->books.account(user))
+        return Refusal{Rule::Account, "交易账户不存在"};
+    if (lines.closeOut > lines.warn)
+        return Refusal{Rule::Cash, "平仓线不得高于警告线"};
+    m_parts->change(now, [&] {
+        m_parts->books.setSetting(lineKey("warning", user), lines.warn);
+        m_parts->books.setSetting(lineKey("close-out", user), lines.closeOut);
+    });
+    return lines;
 }
 
 Cents Brokerage::usableMoney(UserId user)

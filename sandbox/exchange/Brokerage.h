@@ -72,6 +72,8 @@ public:
     void createDemoAccount(UserId user);
 
     AccountSummary accountSummary(UserId user);
+    /** Draws the lines of an account; the close-out line is not above the warning line. */
+    Outcome<LossLines> setLossLines(UserId user, LossLines lines);
     /** Cents that may be used for buying, 0 without an account. */
     Cents usableMoney(UserId user);
     /** By stock code; empty without an account. */

@@ -26,6 +26,14 @@ std::string Call::need(std::string_view name, const std::string &title) const
     return value;
 }
 
+std::int64_t Call::identifier(std::string_view name, const std::string &title) const
+{
+    const std::string value = need(name, title);
+    std::int64_t id = 0;
+    const auto [rest, error] = std::from_chars(value.data(), value.data() + value.size(), id);
+    return error == std::errc() && rest == value.data() + value.size() ? id : 0;
+}
+
 int Call::number(std::string_view name, int otherwise, int least, int most) const
 {
     const std::string value = text(name);

@@ -2,6 +2,7 @@
 
 #include "http/Form.h"
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -32,6 +33,9 @@ struct Call {
 
     /// As text(), and throws Refusal when the field is missing or blank; `title` is its name for the user.
     std::string need(std::string_view name, const std::string &title) const;
+
+    /// The field as the identifier of a record: as need(), and 0, which no record has, when it is no number.
+    [[nodiscard]] std::int64_t identifier(std::string_view name, const std::string &title) const;
 
     /// The field as a whole number, brought between `least` and `most`; `otherwise` when missing, Refusal
     /// when it is no number.

@@ -16,10 +16,16 @@ bool covers(const std::string &pattern, const std::string &path)
 
 const std::vector<std::string> &faultNames()
 {
-    static const std::vector<std::string> names{"delay",    "drop-before", "drop-after",
-                                                "status",   "garbage",     "content-type",
-                                                "truncate", "refuse",      "duplicate-push"};
+    static const std::vector<std::string> names{"delay",  "delay-before",  "drop-before",  "drop-after",
+                                                "status", "garbage",       "content-type", "truncate",
+                                                "refuse", "duplicate-push"};
     return names;
+}
+
+bool worksAtOnce(FaultKind kind)
+{
+    return kind != FaultKind::DelayBefore && kind != FaultKind::DropBefore && kind != FaultKind::Status &&
+           kind != FaultKind::Refuse;
 }
 
 std::optional<FaultKind> faultKind(const std::string &name)

@@ -8,9 +8,11 @@
 
 namespace sandbox::http {
 
-/// What goes wrong with a call. Except for DropBefore, Status and Refuse the work of the call is done.
+/// What goes wrong with a call. Each kind may be late as well: the work of the call is done at once and its
+/// answer held back, except for DelayBefore, DropBefore, Status and Refuse.
 enum class FaultKind {
     Delay,         ///< nothing but the delay
+    DelayBefore,   ///< the call is accepted late
     DropBefore,    ///< the connection is reset before the call is accepted
     DropAfter,     ///< the work is done and the connection reset instead of an answer
     Status,        ///< an HTTP error status
@@ -29,6 +31,9 @@ struct Fault {
     int status = 500;
     std::string message = "系统繁忙，请稍后再试";
 };
+
+/// True when the work of the call is done as soon as it comes.
+[[nodiscard]] bool worksAtOnce(FaultKind kind);
 
 [[nodiscard]] std::optional<FaultKind> faultKind(const std::string &name);
 [[nodiscard]] std::string faultName(FaultKind kind);

@@ -52,17 +52,11 @@ Json emptyCommissions(Service &, const identity::User &, const Call &call)
 
 void addFundRoutes(Router &router, Service &service)
 {
-    using Handler = Json (*)(Service &, const identity::User &, const Call &);
-    const auto add = [&](const char *method, const std::string &path, Handler handler) {
-        router.json(method, path, [&service, handler](const Call &call) {
-            return handler(service, signedIn(service, call), call);
-        });
+    const auto add = [&](const char *method, const std::string &path, UserHandler handler) {
+        addUserRoute(router, service, method, path, std::move(handler));
     };
     const auto refuse = [&](const char *method, const std::string &path, const char *message) {
-        router.json(method, path, [&service, message](const Call &call) -> Json {
-            static_cast<void>(signedIn(service, call));
-            throw Refusal(message);
-        });
+        add(method, path, [message](auto &&...) -> Json { throw Refusal(message); });
     };
     add("GET", "trade/recharge", rechargeInfo);
     add("GET", "trade/show_withdraw", withdrawInfo);

@@ -5,13 +5,22 @@
 namespace sandbox::http {
 namespace {
 
-Json userIndex(Service &service, const Call &call)
+/// How an account stands to its lines: normal, at the warning line, at the close-out line.
+std::string accountStatus(const AccountSummary &account)
 {
-    const identity::User user = signedIn(service, call);
+    const auto fellTo = [&](Cents line) { return line > 0 && account.totalAsset <= line; };
+    if (fellTo(account.lines.closeOut))
+        return "2";
+    return fellTo(account.lines.warn) ? "1" : "0";
+}
+
+Json userIndex(Service &service, const identity::User &user, const Call &)
+{
     const AccountSummary account = service.brokerage.accountSummary(user.id);
+    const std::string status = accountStatus(account);
     const Json asset{{"id", std::to_string(user.id)},
                      {"nick", user.nick},
-                     {"accountStatus", "0"},
+                     {"accountStatus", status},
                      {"availableMoney", yuanText(account.available)},
                      {"frozenMoney", yuanText(account.frozen)},
                      {"stockValue", yuanText(account.stockValue)},
@@ -20,7 +29,7 @@ Json userIndex(Service &service, const Call &call)
                      {"borrowMoney", "0.00"},
                      {"profitMoney", yuanText(account.profit)},
                      {"profitRate", account.profitRate}};
-    return success({{"userAccountStatus", "0"}, {"asset", asset}});
+    return success({{"userAccountStatus", status}, {"asset", asset}});
 }
 
 struct RecentLoan {
@@ -52,11 +61,11 @@ Json recentLoanList()
     return success(std::move(list));
 }
 
-Json safeMoney(Service &service, const Call &call)
+Json safeMoney(Service &service, const identity::User &user, const Call &)
 {
-    const AccountSummary account = service.brokerage.accountSummary(signedIn(service, call).id);
+    const AccountSummary account = service.brokerage.accountSummary(user.id);
     return success({{"totalSafeMoney", "0.00"},
-                    {"warnLine", "0.00"},
+                    {"warnLine", yuanText(account.lines.warn)},
                     {"debtMoney", "0.00"},
                     {"closeSafeMoney", "0.00"},
                     {"asset", yuanText(account.totalAsset)},
@@ -64,11 +73,11 @@ Json safeMoney(Service &service, const Call &call)
                     {"closeList", Json::array()}});
 }
 
-Json warn(Service &service, const Call &call)
+Json warn(Service &service, const identity::User &user, const Call &)
 {
-    const AccountSummary account = service.brokerage.accountSummary(signedIn(service, call).id);
-    return success({{"warnLine", "0.00"},
-                    {"closeOutLine", "0.00"},
+    const AccountSummary account = service.brokerage.accountSummary(user.id);
+    return success({{"warnLine", yuanText(account.lines.warn)},
+                    {"closeOutLine", yuanText(account.lines.closeOut)},
                     {"totalMoney", yuanText(account.totalAsset)},
                     {"loans", Json::array()}});
 }
@@ -77,12 +86,11 @@ Json warn(Service &service, const Call &call)
 
 void addHomeRoutes(Router &router, Service &service)
 {
-    router.json("GET", "userIndex", [&service](const Call &call) { return userIndex(service, call); });
+    addUserRoute(router, service, "GET", "userIndex", userIndex);
     router.json("GET", "loanOverview", [](const Call &) { return loanOverview(); });
     router.json("GET", "recentLoans", [](const Call &) { return recentLoanList(); });
-    router.json("GET", "safeMoney2Supplement",
-                [&service](const Call &call) { return safeMoney(service, call); });
-    router.json("GET", "warn", [&service](const Call &call) { return warn(service, call); });
+    addUserRoute(router, service, "GET", "safeMoney2Supplement", safeMoney);
+    addUserRoute(router, service, "GET", "warn", warn);
 }
 
 } // namespace sandbox::http

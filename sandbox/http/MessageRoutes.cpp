@@ -1,8 +1,6 @@
 #include "http/Routes.h"
 #include "http/Shapes.h"
 
-#include <charconv>
-
 namespace sandbox::http {
 namespace {
 
@@ -19,9 +17,8 @@ messages::Show show(const Call &call)
     }
 }
 
-Json list(Service &service, const Call &call)
+Json list(Service &service, const identity::User &user, const Call &call)
 {
-    const identity::User user = signedIn(service, call);
     const int page = call.number("pageIndex", 1, 1, 100'000);
     const auto found = service.messages.list(user.id, call.need("source", "消息来源"), show(call), page,
                                              call.number("pageSize", 20, 1, 100));
@@ -31,20 +28,16 @@ Json list(Service &service, const Call &call)
     return success({{"data", std::move(rows)}, {"hasNext", found.hasNext}, {"page", page}});
 }
 
-Json mark(Service &service, const Call &call)
+Json mark(Service &service, const identity::User &user, const Call &call)
 {
-    const identity::User user = signedIn(service, call);
-    const std::string text = call.need("msgId", "消息编号");
-    std::int64_t id = 0;
-    const auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), id);
-    if (error != std::errc() || rest != text.data() + text.size() || !service.messages.markRead(user.id, id))
+    if (!service.messages.markRead(user.id, call.identifier("msgId", "消息编号")))
         throw Refusal("消息不存在");
     return success();
 }
 
-Json count(Service &service, const Call &call)
+Json count(Service &service, const identity::User &user, const Call &)
 {
-    return success(service.messages.unread(signedIn(service, call).id));
+    return success(service.messages.unread(user.id));
 }
 
 Answer pushStream(Service &service, const Call &call)
@@ -65,9 +58,9 @@ Answer pushStream(Service &service, const Call &call)
 
 void addMessageRoutes(Router &router, Service &service)
 {
-    router.json("GET", "msg/list", [&service](const Call &call) { return list(service, call); });
-    router.json("PUT", "msg/mark", [&service](const Call &call) { return mark(service, call); });
-    router.json("GET", "msg/count", [&service](const Call &call) { return count(service, call); });
+    addUserRoute(router, service, "GET", "msg/list", list);
+    addUserRoute(router, service, "PUT", "msg/mark", mark);
+    addUserRoute(router, service, "GET", "msg/count", count);
     router.page("GET", "sandbox/push", [&service](const Call &call) { return pushStream(service, call); });
 }
 

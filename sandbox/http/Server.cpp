@@ -186,15 +186,22 @@ void Server::answer(const httplib::Request &request, const Call &call, httplib::
     const std::optional<Fault> fault = m_faults.take(call.path);
     if (!fault)
         return write(request, m_router.dispatch(call), response);
+    Answer done;
+    if (worksAtOnce(fault->kind))
+        done = m_router.dispatch(call);
     wait(fault->delay);
-    if (fault->kind == FaultKind::DropBefore)
+    switch (fault->kind) {
+    case FaultKind::DropBefore:
         return Connections::reset(request.ssl);
-    if (fault->kind == FaultKind::Status || fault->kind == FaultKind::Refuse)
-        return write(request,
-                     Router::enveloped(failure(fault->message),
-                                       fault->kind == FaultKind::Status ? fault->status : 200),
-                     response);
-    spoil(request, *fault, m_router.dispatch(call), response);
+    case FaultKind::Status:
+        return write(request, Router::enveloped(failure(fault->message), fault->status), response);
+    case FaultKind::Refuse:
+        return write(request, Router::enveloped(failure(fault->message)), response);
+    case FaultKind::DelayBefore:
+        return write(request, m_router.dispatch(call), response);
+    default:
+        return spoil(request, *fault, std::move(done), response);
+    }
 }
 
 void Server::spoil(const httplib::Request &request, const Fault &fault, Answer answer,

@@ -12,6 +12,14 @@ identity::User signedIn(Service &service, const Call &call)
     return *user;
 }
 
+void addUserRoute(Router &router, Service &service, const std::string &method, const std::string &path,
+                  UserHandler handler)
+{
+    router.json(method, path, [&service, handler = std::move(handler)](const Call &call) {
+        return handler(service, signedIn(service, call), call);
+    });
+}
+
 void requireTradePassword(Service &service, const Call &call, const identity::User &user,
                           std::string_view field)
 {

@@ -29,6 +29,11 @@ struct Service {
 /// The user of the call's token; throws Refusal when there is none.
 [[nodiscard]] identity::User signedIn(Service &service, const Call &call);
 
+/// Adds a route that answers signed-in users only.
+using UserHandler = std::function<Json(Service &, const identity::User &, const Call &)>;
+void addUserRoute(Router &router, Service &service, const std::string &method, const std::string &path,
+                  UserHandler handler);
+
 /// Passes when the call carries the right trade password in `field`, or none was needed. Throws Refusal with
 /// code 12000 when one is needed in this session, 12002 when it is wrong, and without a code when none is set
 /// or it is locked.

@@ -1,8 +1,6 @@
 #include "http/Routes.h"
 #include "http/Shapes.h"
 
-#include <charconv>
-
 namespace sandbox::http {
 namespace {
 
@@ -66,19 +64,9 @@ Json createSell(Service &service, const identity::User &user, const Call &call)
     return create(service, user, call, Side::Sell);
 }
 
-std::int64_t orderId(const Call &call)
-{
-    const std::string text = call.need("id", "委托编号");
-    std::int64_t id = 0;
-    const auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), id);
-    if (error != std::errc() || rest != text.data() + text.size())
-        throw Refusal("委托不存在");
-    return id;
-}
-
 Json queryEntrustNo(Service &service, const identity::User &user, const Call &call)
 {
-    const auto order = service.brokerage.order(user.id, orderId(call));
+    const auto order = service.brokerage.order(user.id, call.identifier("id", "委托编号"));
     if (!order)
         throw Refusal("委托不存在");
     return success({{"id", std::to_string(order->id)}, {"entrustNo", entrustNo(order->id)}});
@@ -95,7 +83,7 @@ Json createCancel(Service &service, const identity::User &user, const Call &call
 /// wait for.
 Json queryWithDrawStatus(Service &service, const identity::User &user, const Call &call)
 {
-    const auto progress = service.brokerage.cancelProgress(user.id, orderId(call));
+    const auto progress = service.brokerage.cancelProgress(user.id, call.identifier("id", "委托编号"));
     if (!progress)
         throw Refusal("委托不存在");
     if (*progress == CancelProgress::NotAsked)
@@ -124,21 +112,19 @@ Json detailsToday(Service &service, const identity::User &user, const Call &call
     return success(std::move(list));
 }
 
-/// Without a loan there is no line to fall below.
-Json warnInfo(Service &, const identity::User &, const Call &)
+Json warnInfo(Service &service, const identity::User &user, const Call &)
 {
-    return success({{"warnLine", "0.00"}, {"closeOutLine", "0.00"}});
+    const AccountSummary account = service.brokerage.accountSummary(user.id);
+    return success(
+        {{"warnLine", yuanText(account.lines.warn)}, {"closeOutLine", yuanText(account.lines.closeOut)}});
 }
 
 } // namespace
 
 void addTradingRoutes(Router &router, Service &service)
 {
-    const auto add = [&](const char *method, const std::string &path,
-                         Json (*handler)(Service &, const identity::User &, const Call &)) {
-        router.json(method, path, [&service, handler](const Call &call) {
-            return handler(service, signedIn(service, call), call);
-        });
+    const auto add = [&](const char *method, const std::string &path, UserHandler handler) {
+        addUserRoute(router, service, method, path, std::move(handler));
     };
     add("GET", "zorvanePage", zorvanePage);
     add("GET", "buyPage", buyPage);

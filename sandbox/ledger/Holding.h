@@ -38,6 +38,12 @@ struct Holding {
     Millis updatedAt = 0;
 };
 
+/** The total asset at which the user is warned, and at which positions are closed. 0: no such line. */
+struct LossLines {
+    Cents warn = 0;
+    Cents closeOut = 0;
+};
+
 /** A user's account at one moment. totalMoney = available + frozen; totalAsset = totalMoney + stockValue. */
 struct AccountSummary {
     Cents available = 0;
@@ -48,6 +54,7 @@ struct AccountSummary {
     Cents totalAsset = 0;
     Cents profit = 0;       ///< sum over the holdings
     std::string profitRate; ///< profit / cost of the holdings in percent, two decimals
+    LossLines lines;
 };
 
 /** The figures of a position at a price. */

@@ -87,6 +87,13 @@ Database::Database(const std::string &path)
     execute("PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL; PRAGMA foreign_keys = ON;");
 }
 
+void Database::check()
+{
+    Statement findings(*this, "PRAGMA quick_check(1)");
+    if (!findings.step() || findings.text(0) != "ok")
+        throw StoreError("the database is damaged");
+}
+
 void Database::execute(std::string_view sql)
 {
     if (sqlite3_exec(m_handle.get(), std::string(sql).c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)

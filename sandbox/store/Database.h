@@ -79,6 +79,8 @@ class Database {
 public:
     explicit Database(const std::string &path);
 
+    /** Throws when the file's structure is damaged anywhere. */
+    void check();
     /** Runs one or more statements without parameters. */
     void execute(std::string_view sql);
     /** The row identifier of the last insert. */

@@ -59,7 +59,8 @@ void QuoteAge::forget()
 void QuoteAge::update()
 {
     // A clock that was set back makes no age below zero.
-    const Reading reading = read(milliseconds(std::max<qint64>(Platform::current().runLoop.now() - *since, 0)));
+    const Reading reading =
+        read(milliseconds(std::max<qint64>(Platform::current().runLoop.now() - *since, 0)));
     say(reading.text);
     if (running)
         next.startOnce(reading.holds, [this] { update(); });

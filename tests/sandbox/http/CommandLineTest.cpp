@@ -126,6 +126,27 @@ TEST(CommandLine, AFileThatIsNoDatabaseIsNamedAndLeftAlone)
     EXPECT_EQ(std::string(std::istreambuf_iterator<char>(stream), {}), content);
 }
 
+TEST(CommandLine, ADatabaseThatIsDamagedInItsMiddleIsNamedAtTheStart)
+{
+    const TemporaryFolder folder;
+    const std::vector<std::string> arguments{"--data-dir", folder.path().string(), "--port", "0", "--quiet"};
+    {
+        Process process(arguments);
+        static_cast<void>(process.ready());
+        process.signal(SIGTERM);
+        EXPECT_EQ(process.wait(), 0);
+    }
+    std::fstream file(folder.path() / "sandbox.db", std::ios::in | std::ios::out | std::ios::binary);
+    file.seekp(4096 * 3);
+    file << std::string(4096 * 8, '\xa5');
+    file.close();
+    Process process(arguments);
+    EXPECT_EQ(process.wait(), 2);
+    const std::string text = process.complained();
+    EXPECT_NE(text.find("sandbox.db"), std::string::npos) << text;
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 1) << text;
+}
+
 TEST(CommandLine, AnUsedPortAndAnUsedFolderAreToldApart)
 {
     const TemporaryFolder folder;

@@ -1,7 +1,10 @@
 #include "RunningSandbox.h"
+#include "console/Html.h"
 
 namespace sandbox::test {
 namespace {
+
+using console::dateTime;
 
 class Console : public testing::Test {
 protected:
@@ -46,6 +49,9 @@ TEST_F(Console, ItsFormsActOnTheMarketAndTheUsers)
     EXPECT_EQ(running.service().brokerage.now(), before + 60'000);
     submit("sandbox/clock", {{"action", "tomorrow"}});
     EXPECT_GT(running.service().brokerage.now(), before + 60'000);
+    const std::string later = dateTime(running.service().brokerage.now() + 90 * 60'000).replace(10, 1, "T");
+    EXPECT_NE(submit("sandbox/clock", {{"action", "to"}, {"time", later}}).find("frozen"), std::string::npos);
+    EXPECT_EQ(dateTime(running.service().brokerage.now()).replace(10, 1, "T"), later);
 
     const std::string stock = client.get("holding").at("data").at(0).at("stockCode");
     const std::string upper =
@@ -68,6 +74,28 @@ TEST_F(Console, ItsFormsActOnTheMarketAndTheUsers)
     EXPECT_EQ(client.get("msg/count").at("data"), unread + 1);
 }
 
+TEST_F(Console, DrawnLossLinesReachTheWarningsAndTheStateOfTheAccount)
+{
+    const auto state = [&] { return client.get("userIndex").at("data").at("userAccountStatus"); };
+    EXPECT_EQ(state(), "0");
+    EXPECT_EQ(client.get("warnInfo").at("data"), (Json{{"warnLine", "0.00"}, {"closeOutLine", "0.00"}}));
+    submit("sandbox/lines", {{"user", "1"}, {"warnLine", "900000"}, {"closeOutLine", "1000.5"}});
+    EXPECT_EQ(client.get("warnInfo").at("data"),
+              (Json{{"warnLine", "900000.00"}, {"closeOutLine", "1000.50"}}));
+    EXPECT_EQ(client.get("warn").at("data").at("warnLine"), "900000.00");
+    EXPECT_EQ(state(), "1");
+    running.restart();
+    const std::string token = client.token;
+    client = running.client();
+    client.token = token;
+    EXPECT_EQ(state(), "1");
+    submit("sandbox/lines", {{"user", "1"}, {"warnLine", "900000"}, {"closeOutLine", "800000"}});
+    EXPECT_EQ(state(), "2");
+    EXPECT_NE(
+        submit("sandbox/lines", {{"user", "1"}, {"warnLine", "1"}, {"closeOutLine", "2"}}).find("note bad"),
+        std::string::npos);
+}
+
 TEST_F(Console, ABadEntryComesBackAsANoteAndChangesNothing)
 {
     const Cents cash = running.service().brokerage.usableMoney(1);
@@ -75,7 +103,11 @@ TEST_F(Console, ABadEntryComesBackAsANoteAndChangesNothing)
               std::string::npos);
     EXPECT_NE(submit("sandbox/deposit", {{"user", "77"}, {"amount", "5"}}).find("note bad"),
               std::string::npos);
-    EXPECT_NE(submit("sandbox/clock", {{"action", "backwards"}}).find("note bad"), std::string::npos);
+    for (const Fields &clock :
+         {Fields{{"action", "backwards"}}, Fields{{"action", "to"}, {"time", "2020-01-01T10:00"}},
+          Fields{{"action", "to"}, {"time", "2999-01-01T10:00"}},
+          Fields{{"action", "to"}, {"time", "2027-02-30T10:00"}}, Fields{{"action", "to"}}})
+        EXPECT_NE(submit("sandbox/clock", clock).find("note bad"), std::string::npos);
     EXPECT_NE(submit("sandbox/price", {{"stockCode", "nope"}, {"price", "1"}}).find("note bad"),
               std::string::npos);
     EXPECT_EQ(running.service().brokerage.usableMoney(1), cash);

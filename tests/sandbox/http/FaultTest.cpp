@@ -26,6 +26,18 @@ protected:
 
     std::size_t openOrders() { return client.get("callBackPage").at("data").size(); }
 
+    /// How many orders there are while the answer of one is outstanding.
+    std::size_t openOrdersMeanwhile()
+    {
+        Client other = running.client();
+        other.token = client.token;
+        std::thread late([this] { EXPECT_TRUE(succeeded(Json::parse(buy()->body))); });
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        const std::size_t open = other.get("callBackPage").at("data").size();
+        late.join();
+        return open;
+    }
+
     RunningSandbox running;
     Client client = running.signedIn();
     std::string stock = client.get("holding").at("data").at(0).at("stockCode");
@@ -33,20 +45,27 @@ protected:
         client.get("timelyInfo/timelyOrderForm?stockCode=" + stock).at("data").at("lowerLimit");
 };
 
-TEST_F(Fault, DroppedBeforeAcceptanceLeavesNoOrder)
+TEST_F(Fault, WhatIsDroppedBeforeAcceptanceIsNotInTheBooksAndWhatIsDroppedAfterItIs)
 {
-    add("drop-before", "entrust/createBuy");
-    EXPECT_FALSE(buy());
+    add("drop-before", "entrust/createBuy", {{"count", "25"}});
+    for (int i = 0; i < 25; ++i)
+        EXPECT_FALSE(buy());
     EXPECT_EQ(openOrders(), 0u);
+    add("drop-after", "entrust/*", {{"count", "25"}, {"delay", "5"}});
+    for (int i = 0; i < 25; ++i)
+        EXPECT_FALSE(buy());
     EXPECT_TRUE(buy());
-    EXPECT_EQ(openOrders(), 1u);
+    const Json users = client.get("sandbox/state").at("data").at("users");
+    EXPECT_EQ(users.at(0).at("orders").size(), 26u);
 }
 
-TEST_F(Fault, DroppedAfterAcceptanceLeavesTheOrderAndNoAnswer)
+TEST_F(Fault, ALateAnswerIsOfAnOrderThatWasTakenAtOnceUnlessItsAcceptanceIsLate)
 {
-    add("drop-after", "entrust/*");
-    EXPECT_FALSE(buy());
-    EXPECT_EQ(openOrders(), 1u);
+    add("delay", "entrust/createBuy", {{"delay", "700"}});
+    EXPECT_EQ(openOrdersMeanwhile(), 1u);
+    add("delay-before", "entrust/createBuy", {{"delay", "700"}});
+    EXPECT_EQ(openOrdersMeanwhile(), 1u);
+    EXPECT_EQ(openOrders(), 2u);
 }
 
 TEST_F(Fault, AnswersAreSpoiltAsAsked)
