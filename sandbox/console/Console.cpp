@@ -86,10 +86,11 @@ std::string orderTable(Service &service, UserId user)
     std::vector<std::vector<std::string>> rows;
     for (const Order &order : service.brokerage.ordersToday(user, 0)) {
         const std::string number = owner + hidden("entrustNo", entrustNo(order.id));
-        std::string actions = form("sandbox/push-order", number, "Push");
+        const std::string subject = "order " + entrustNo(order.id);
+        std::string actions = form("sandbox/push-order", number, "Push", subject);
         if (isOpen(order.status))
-            actions += form("sandbox/reject", number, "Reject");
-        rows.push_back({entrustNo(order.id), dateTime(order.createdAt), escape(order.stockCode),
+            actions += form("sandbox/reject", number, "Reject", subject);
+        rows.push_back({entrustNo(order.id), clockTime(order.createdAt), escape(order.stockCode),
                         order.side == Side::Buy ? "buy" : "sell", yuanText(order.price),
                         std::to_string(order.shares), std::to_string(order.filled), statusName(order.status),
                         "<div class=\"row\">" + actions + "</div>"});
@@ -102,7 +103,7 @@ std::string dealTable(Service &service, UserId user)
 {
     std::vector<std::vector<std::string>> rows;
     for (const Deal &deal : service.brokerage.dealsToday(user, 0))
-        rows.push_back({std::to_string(deal.id), dateTime(deal.time), entrustNo(deal.orderId),
+        rows.push_back({std::to_string(deal.id), clockTime(deal.time), entrustNo(deal.orderId),
                         escape(deal.stockCode), yuanText(deal.price), std::to_string(deal.shares),
                         yuanText(deal.commission), yuanText(deal.stampTax), yuanText(deal.transferFee)});
     return table(
@@ -144,18 +145,45 @@ Answer userBooks(Service &service, const Call &call)
     return page(call, user->cell + " " + user->nick, body);
 }
 
+std::string phaseName(Phase phase)
+{
+    switch (phase) {
+    case Phase::Closed:
+        return "closed";
+    case Phase::OpeningAuction:
+        return "opening auction";
+    case Phase::OpeningLocked:
+        return "opening auction, no cancels";
+    case Phase::BeforeContinuous:
+        return "before continuous trading";
+    case Phase::Continuous:
+        return "continuous trading";
+    case Phase::Lunch:
+        return "lunch";
+    case Phase::ClosingAuction:
+        return "closing auction, no cancels";
+    }
+    return {};
+}
+
+std::string speedName(int percent)
+{
+    if (percent == 0)
+        return "frozen";
+    return percent == 100 ? "in real time" : std::to_string(percent / 100) + " times as fast";
+}
+
 std::string clockSection(Service &service)
 {
-    const ClockState clock = service.clock.state();
     const auto button = [](const std::string &action, const std::string &text) {
         return form("sandbox/clock", hidden("action", action), text);
     };
     return "<p>It is <b>" + dateTime(service.brokerage.now()) + "</b>, trading day " +
-           std::to_string(service.brokerage.tradingDay()) + ", " +
-           (clock.speedPercent == 0 ? "frozen" : "speed " + std::to_string(clock.speedPercent) + " %") +
-           ".</p><div class=\"row\">" + button("freeze", "Freeze") + button("run", "Real time") +
-           button("fast", "60 times") + button("second", "+1 second") + button("minute", "+1 minute") +
-           button("close", "To 14:57") + button("tomorrow", "To the next trading day") + "</div>" +
+           std::to_string(service.brokerage.tradingDay()) + ": " + phaseName(service.brokerage.phase()) +
+           ". The clock is " + speedName(service.clock.state().speedPercent) + ".</p><div class=\"row\">" +
+           button("freeze", "Freeze") + button("run", "Real time") + button("fast", "60 times") +
+           button("second", "+1 second") + button("minute", "+1 minute") + button("close", "To 14:57") +
+           button("tomorrow", "To the next trading day") + "</div>" +
            form("sandbox/clock",
                 hidden("action", "to") + field("Date and time, Shanghai", "time",
                                                dateTime(service.brokerage.now()).replace(10, 1, "T"),
@@ -163,21 +191,32 @@ std::string clockSection(Service &service)
                 "Go there");
 }
 
+std::string quoteTable(Service &service, const std::string &code)
+{
+    if (code.empty())
+        return {};
+    const auto quote = service.brokerage.quote(code);
+    if (!quote)
+        return "<p class=\"note bad\">There is no such stock.</p>";
+    return table(
+        quote->name + " " + quote->code, {"Last", "Previous close", "Limit up", "Limit down", "Bid", "Ask"},
+        {{yuanText(quote->last), yuanText(quote->previousClose), yuanText(quote->upperLimit),
+          yuanText(quote->lowerLimit), yuanText(quote->bids[0].price), yuanText(quote->asks[0].price)}});
+}
+
+std::string codeField(const Call &call, const std::string &name)
+{
+    return field("Stock code", name, call.text("code"), "inputmode=numeric maxlength=6 required");
+}
+
 Answer market(Service &service, const Call &call)
 {
-    std::string quoted;
-    if (const std::string code = call.text("code"); !code.empty())
-        if (const auto quote = service.brokerage.quote(code))
-            quoted = table(quote->name + " " + quote->code,
-                           {"Last", "Previous close", "Limit up", "Limit down", "Bid", "Ask"},
-                           {{yuanText(quote->last), yuanText(quote->previousClose),
-                             yuanText(quote->upperLimit), yuanText(quote->lowerLimit),
-                             yuanText(quote->bids[0].price), yuanText(quote->asks[0].price)}});
-    const std::string code =
-        field("Stock code", "stockCode", call.text("code"), "inputmode=numeric maxlength=6 required");
+    const std::string code = codeField(call, "stockCode");
     return page(
-        call, "Market",
-        "<h2>Clock</h2>" + clockSection(service) + "<h2>Prices</h2>" + quoted +
+        call, "Clock and prices",
+        "<h2>Clock</h2>" + clockSection(service) + "<h2>Prices</h2>" +
+            quoteTable(service, call.text("code")) +
+            question("sandbox/market", codeField(call, "code"), "Look it up") +
             form("sandbox/price", code + field("Price, yuan", "price", "", "inputmode=decimal required"),
                  "Move the price") +
             form("sandbox/seal",

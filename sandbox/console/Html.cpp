@@ -6,10 +6,11 @@
 namespace sandbox::console {
 namespace {
 
-constexpr std::array<std::pair<const char *, const char *>, 4> navigation{{{"sandbox/", "SMS inbox"},
-                                                                           {"sandbox/users", "Users"},
-                                                                           {"sandbox/market", "Market"},
-                                                                           {"sandbox/faults", "Faults"}}};
+constexpr std::array<std::pair<const char *, const char *>, 4> navigation{
+    {{"sandbox/", "SMS inbox"},
+     {"sandbox/users", "Users"},
+     {"sandbox/market", "Clock and prices"},
+     {"sandbox/faults", "Faults"}}};
 
 std::string links(const std::string &current)
 {
@@ -18,6 +19,17 @@ std::string links(const std::string &current)
         result += std::string("<a href=\"/") + path + "\"" +
                   (current == path ? " aria-current=\"page\"" : "") + ">" + title + "</a>";
     return result;
+}
+
+std::string written(Millis time, const char *format)
+{
+    constexpr Millis shanghai = 8 * 3600 * 1000;
+    const std::time_t seconds = (time + shanghai) / 1000;
+    std::tm parts{};
+    gmtime_r(&seconds, &parts);
+    std::array<char, 32> text{};
+    std::strftime(text.data(), text.size(), format, &parts);
+    return text.data();
 }
 
 } // namespace
@@ -67,19 +79,19 @@ std::string queryEncode(std::string_view text)
 
 std::string dateTime(Millis time)
 {
-    constexpr Millis shanghai = 8 * 3600 * 1000;
-    const std::time_t seconds = (time + shanghai) / 1000;
-    std::tm parts{};
-    gmtime_r(&seconds, &parts);
-    std::array<char, 32> text{};
-    std::strftime(text.data(), text.size(), "%Y-%m-%d %H:%M:%S", &parts);
-    return text.data();
+    return written(time, "%Y-%m-%d %H:%M:%S");
+}
+
+std::string clockTime(Millis time)
+{
+    return written(time, "%H:%M:%S");
 }
 
 std::string table(const std::string &caption, const std::vector<std::string> &columns,
                   const std::vector<std::vector<std::string>> &rows)
 {
-    std::string html = "<div class=\"scroll\"><table><caption>" + escape(caption) + "</caption><thead><tr>";
+    std::string html = "<div class=\"scroll\" role=\"region\" tabindex=\"0\" aria-label=\"" +
+                       escape(caption) + "\"><table><caption>" + escape(caption) + "</caption><thead><tr>";
     for (const std::string &column : columns)
         html += "<th scope=\"col\">" + escape(column) + "</th>";
     html += "</tr></thead><tbody>";
@@ -116,9 +128,17 @@ std::string hidden(const std::string &name, const std::string &value)
     return "<input type=\"hidden\" name=\"" + name + "\" value=\"" + escape(value) + "\">";
 }
 
-std::string form(const std::string &action, const std::string &fields, const std::string &button)
+std::string form(const std::string &action, const std::string &fields, const std::string &button,
+                 const std::string &subject)
 {
     return "<form method=\"post\" action=\"/" + action + "\">" + fields + "<button>" + escape(button) +
+           (subject.empty() ? "" : "<span class=\"unseen\"> " + escape(subject) + "</span>") +
+           "</button></form>";
+}
+
+std::string question(const std::string &path, const std::string &fields, const std::string &button)
+{
+    return "<form method=\"get\" action=\"/" + path + "\">" + fields + "<button>" + escape(button) +
            "</button></form>";
 }
 

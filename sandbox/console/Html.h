@@ -19,6 +19,9 @@ namespace sandbox::console {
 /// "2026-01-05 09:30:00" on the market's clock (UTC+8).
 [[nodiscard]] std::string dateTime(Millis time);
 
+/// The time of day alone, "09:30:00".
+[[nodiscard]] std::string clockTime(Millis time);
+
 /// A table; the cells are HTML already.
 [[nodiscard]] std::string table(const std::string &caption, const std::vector<std::string> &columns,
                                 const std::vector<std::vector<std::string>> &rows);
@@ -33,9 +36,14 @@ namespace sandbox::console {
 
 [[nodiscard]] std::string hidden(const std::string &name, const std::string &value);
 
-/// A form that posts to `action` with one button.
+/// A form that posts to `action` with one button. `subject` completes the button's name for those who do not
+/// see the row it stands in.
 [[nodiscard]] std::string form(const std::string &action, const std::string &fields,
-                               const std::string &button);
+                               const std::string &button, const std::string &subject = {});
+
+/// A form that leads to `path` with its fields in the query.
+[[nodiscard]] std::string question(const std::string &path, const std::string &fields,
+                                   const std::string &button);
 
 /// A whole page with the console's navigation. The call tells which page it is and carries the note of the
 /// last action.

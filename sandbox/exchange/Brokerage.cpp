@@ -479,6 +479,11 @@ Millis Brokerage::nextTradingDay() const
     return calendar.opens(calendar.dayOf(now()) + 1);
 }
 
+Phase Brokerage::phase() const
+{
+    return m_parts->market.calendar().phase(now());
+}
+
 int Brokerage::tradingDay() const
 {
     const Calendar &calendar = m_parts->market.calendar();

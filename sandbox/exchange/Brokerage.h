@@ -3,6 +3,7 @@
 #include "exchange/Outcome.h"
 #include "ledger/Holding.h"
 #include "ledger/Order.h"
+#include "market/Calendar.h"
 #include "market/Clock.h"
 #include "market/Quote.h"
 #include "market/StockList.h"
@@ -124,6 +125,8 @@ public:
     bool jumpClock(Millis time);
     /** Begin of the next trading day (its opening auction with market hours). */
     Millis nextTradingDay() const;
+    /** What the exchange does now. */
+    Phase phase() const;
     /** The running trading day, 20260105. */
     int tradingDay() const;
 
