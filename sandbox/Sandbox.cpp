@@ -121,9 +121,12 @@ struct Sandbox::Parts {
           users(directory.database(), realNow),
           sms(directory.database(), realNow,
               [print](const identity::Sms &sent) { print("SMS " + sent.cell + ": " + sent.code); }),
-          messages(directory.database(), realNow), service{clock, brokerage, users,
-                                                           sms,   sessions,  messages,
-                                                           push,  faults,    options.dataDir / "images"},
+          resets(directory.database(), realNow),
+          messages(directory.database(), realNow), service{clock,    brokerage,
+                                                           users,    sms,
+                                                           sessions, resets,
+                                                           messages, push,
+                                                           faults,   options.dataDir / "images"},
           server(certificate, router, faults, options.quiet ? http::Server::Log{} : http::Server::Log{print})
     {
         const auto demo = users.byCell(demoCell);
@@ -159,6 +162,7 @@ struct Sandbox::Parts {
     identity::Users users;
     identity::SmsCodes sms;
     identity::Sessions sessions;
+    identity::Resets resets;
     messages::Messages messages;
     messages::PushHub push;
     http::Faults faults;

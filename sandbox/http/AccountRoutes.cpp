@@ -157,8 +157,8 @@ Json sendResetCode(Service &service, const Call &call)
 {
     const User user = signedIn(service, call);
     requireResettable(user);
+    service.resets.setStep(call.token, ResetStep::None);
     service.sms.send(user.cell, purpose::passwordReset);
-    service.sessions.setResetStep(call.token, ResetStep::None);
     Json envelope = success({{"bizCode", purpose::passwordReset}, {"cell", user.cell}});
     envelope["bizCode"] = purpose::passwordReset;
     return envelope;
@@ -172,7 +172,7 @@ Json verifyResetCode(Service &service, const Call &call)
         throw Refusal("交易码异常");
     if (!service.sms.take(code, purpose::passwordReset, user.cell))
         throw Refusal(wrongCode);
-    service.sessions.setResetStep(call.token, ResetStep::CodeVerified);
+    service.resets.setStep(call.token, ResetStep::CodeVerified);
     return success();
 }
 
@@ -180,11 +180,15 @@ Json verifyIdentity(Service &service, const Call &call)
 {
     const User user = signedIn(service, call);
     const std::string number = call.need("idCard", "身份证号");
-    if (service.sessions.resetStep(call.token) == ResetStep::None)
+    if (service.resets.step(call.token) == ResetStep::None)
         throw Refusal("请先验证手机验证码");
-    if (!service.users.isIdentity(user.id, number))
-        throw Refusal("证件号码与实名认证时不一致");
-    service.sessions.setResetStep(call.token, ResetStep::IdentityVerified);
+    if (!service.users.isIdentity(user.id, number)) {
+        const int left = service.resets.countWrongIdentity(call.token);
+        if (left == 0)
+            throw Refusal("证件号码错误次数过多，请重新验证手机");
+        throw Refusal("证件号码与实名认证时不一致，还可以输入" + std::to_string(left) + "次");
+    }
+    service.resets.setStep(call.token, ResetStep::IdentityVerified);
     return success();
 }
 
@@ -192,10 +196,10 @@ Json updatePassword(Service &service, const Call &call)
 {
     const User user = signedIn(service, call);
     const std::string password = newPassword(call);
-    if (service.sessions.resetStep(call.token) != ResetStep::IdentityVerified)
+    if (service.resets.step(call.token) != ResetStep::IdentityVerified)
         throw Refusal("请先完成身份验证");
     service.users.setTradePassword(user.id, password);
-    service.sessions.setResetStep(call.token, ResetStep::None);
+    service.resets.setStep(call.token, ResetStep::None);
     return success();
 }
 

@@ -3,6 +3,7 @@
 #include "exchange/Brokerage.h"
 #include "http/Faults.h"
 #include "http/Router.h"
+#include "identity/Resets.h"
 #include "identity/Sessions.h"
 #include "identity/SmsCodes.h"
 #include "identity/Users.h"
@@ -20,6 +21,7 @@ struct Service {
     identity::Users &users;
     identity::SmsCodes &sms;
     identity::Sessions &sessions;
+    identity::Resets &resets;
     messages::Messages &messages;
     messages::PushHub &push;
     Faults &faults;

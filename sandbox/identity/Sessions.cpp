@@ -16,18 +16,6 @@ void Sessions::setPasswordGiven(const std::string &token)
     m_sessions[digest(token)].passwordGiven = true;
 }
 
-ResetStep Sessions::resetStep(const std::string &token)
-{
-    const std::scoped_lock lock(m_mutex);
-    return m_sessions[digest(token)].reset;
-}
-
-void Sessions::setResetStep(const std::string &token, ResetStep step)
-{
-    const std::scoped_lock lock(m_mutex);
-    m_sessions[digest(token)].reset = step;
-}
-
 std::optional<PendingCard> Sessions::pendingCard(const std::string &token)
 {
     const std::scoped_lock lock(m_mutex);

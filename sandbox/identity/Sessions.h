@@ -6,9 +6,6 @@
 
 namespace sandbox::identity {
 
-/// How far the reset of a trade password has come in a session.
-enum class ResetStep { None, CodeVerified, IdentityVerified };
-
 /// A bank card whose phone number has not been verified yet.
 struct PendingCard {
     std::string orderId;
@@ -24,9 +21,6 @@ public:
     bool passwordGiven(const std::string &token);
     void setPasswordGiven(const std::string &token);
 
-    ResetStep resetStep(const std::string &token);
-    void setResetStep(const std::string &token, ResetStep step);
-
     /// The card that was last offered with this token.
     std::optional<PendingCard> pendingCard(const std::string &token);
     void setPendingCard(const std::string &token, std::optional<PendingCard> card);
@@ -34,7 +28,6 @@ public:
 private:
     struct Session {
         bool passwordGiven = false;
-        ResetStep reset = ResetStep::None;
         std::optional<PendingCard> card;
     };
     std::mutex m_mutex;

@@ -60,6 +60,14 @@ std::string newInviteCode()
     return code;
 }
 
+/// The last place of an identity number may be a small or a capital X.
+std::string withCapitalX(std::string identityNumber)
+{
+    if (!identityNumber.empty() && identityNumber.back() == 'x')
+        identityNumber.back() = 'X';
+    return identityNumber;
+}
+
 } // namespace
 
 int User::nextStep() const
@@ -152,7 +160,7 @@ void Users::setNick(UserId id, const std::string &nick)
 
 void Users::setRealName(UserId id, const std::string &name, const std::string &identityNumber)
 {
-    const std::string hash = hashSecret(identityNumber);
+    const std::string hash = hashSecret(withCapitalX(identityNumber));
     const std::scoped_lock lock(m_mutex);
     Statement(m_database, "UPDATE user SET real_name = ?, identity_hash = ? WHERE id = ?")
         .bind(name, hash, id)
@@ -164,7 +172,7 @@ bool Users::isIdentity(UserId id, const std::string &identityNumber)
     const std::scoped_lock lock(m_mutex);
     Statement statement(m_database, "SELECT identity_hash FROM user WHERE id = ?");
     statement.bind(id);
-    return statement.step() && matchesSecret(identityNumber, statement.text(0));
+    return statement.step() && matchesSecret(withCapitalX(identityNumber), statement.text(0));
 }
 
 void Users::setCard(UserId id, const BankCard &card)

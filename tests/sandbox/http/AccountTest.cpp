@@ -103,6 +103,37 @@ TEST(Account, AForgottenTradePasswordIsResetStepByStepAndInNoOtherOrder)
     EXPECT_EQ(running.service().users.checkTradePassword(user, "654321"), identity::PasswordCheck::Right);
 }
 
+TEST(Account, AResetGoesOnAfterARestartAndEndsWithTheFifthWrongIdentityNumber)
+{
+    RunningSandbox running;
+    Client client = running.signedIn();
+    client.post("user/update_password_sms");
+    client.post("user/update_verify", {{"bizCode", "1003"}, {"userInput", running.codeFor("13800138000")}});
+    const std::string token = client.token;
+    running.restart();
+    Client again = running.client();
+    again.token = token;
+    Client other = running.signedIn();
+    const Fields wrong{{"idCard", "110101199003070029"}};
+    EXPECT_EQ(message(other.post("user/verify_id_card", wrong)), "请先验证手机验证码");
+    EXPECT_EQ(message(again.post("user/verify_id_card", wrong)), "证件号码与实名认证时不一致，还可以输入4次");
+    for (int attempt = 2; attempt < 5; ++attempt)
+        again.post("user/verify_id_card", wrong);
+    EXPECT_EQ(message(again.post("user/verify_id_card", wrong)), "证件号码错误次数过多，请重新验证手机");
+    EXPECT_EQ(message(again.post("user/verify_id_card", {{"idCard", "110101199003070011"}})),
+              "请先验证手机验证码");
+}
+
+TEST(Account, AnIdentityNumberMayEndInASmallX)
+{
+    RunningSandbox running;
+    Client client = running.signedIn("13912345678");
+    client.post("user/set_real_name", {{"realName", "李小雨"}, {"idCard", "11010119900307123x"}});
+    const UserId user = running.service().users.byCell("13912345678")->id;
+    EXPECT_TRUE(running.service().users.isIdentity(user, "11010119900307123X"));
+    EXPECT_FALSE(running.service().users.isIdentity(user, "110101199003071230"));
+}
+
 TEST(Account, APictureIsKeptAndAnythingElseRefused)
 {
     RunningSandbox running;

@@ -1,5 +1,6 @@
 #include "identity/SmsCodes.h"
 
+#include "identity/Resets.h"
 #include "identity/Rules.h"
 #include "identity/Users.h"
 
@@ -67,6 +68,21 @@ TEST(Users, FiveWrongTradePasswordsLockItForFifteenMinutes)
     EXPECT_EQ(users.triesLeft(user), 4);
     EXPECT_EQ(users.checkTradePassword(user, "123456"), PasswordCheck::Right);
     EXPECT_EQ(users.triesLeft(user), 5);
+}
+
+TEST(Resets, AResetEndsAQuarterOfAnHourAfterItsLastStep)
+{
+    Millis now = 1'000'000'000;
+    Resets resets(":memory:", [&now] { return now; });
+    resets.setStep("t0ken", ResetStep::CodeVerified);
+    now += 14 * 60 * 1000;
+    EXPECT_EQ(resets.step("t0ken"), ResetStep::CodeVerified);
+    EXPECT_EQ(resets.step("other"), ResetStep::None);
+    resets.setStep("t0ken", ResetStep::IdentityVerified);
+    now += 14 * 60 * 1000;
+    EXPECT_EQ(resets.step("t0ken"), ResetStep::IdentityVerified);
+    now += 60 * 1000;
+    EXPECT_EQ(resets.step("t0ken"), ResetStep::None);
 }
 
 TEST(Users, OnlyTheTwentyNewestTokensAreValid)
