@@ -9,7 +9,8 @@ FocusScope {
 
     property string text
     property string placeholder
-    property int lit: text.length
+    /// Whether each of the six dots is lit.
+    required property list<bool> lit
     property bool deep: false
     readonly property Tones tones: Theme.tones(deep)
 
@@ -66,7 +67,7 @@ FocusScope {
                 width: 14
                 height: 14
                 radius: 7
-                visible: cell.index < row.lit
+                visible: row.lit[cell.index] ?? false
                 color: row.tones.textPrimary
             }
             Rectangle {

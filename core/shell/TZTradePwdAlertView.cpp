@@ -1,34 +1,18 @@
 #include "core/shell/TZTradePwdAlertView.h"
 
 #include "core/shell/KRWindow.h"
-#include "core/util/Amount.h"
-
-#include <utility>
 
 using namespace std::chrono_literals;
 
 namespace {
-constexpr qsizetype passwordLength = 6;
 constexpr std::chrono::milliseconds fadeIn = 250ms;
 constexpr std::chrono::milliseconds fadeOut = 200ms;
-
-QString cleaned(const QString &text)
-{
-    QString digits = clearSpaceAndWrap(text);
-    digits.removeIf([](QChar c) { return c < u'0' || c > u'9'; });
-    return digits.left(passwordLength);
-}
 } // namespace
 
 TZTradePwdAlertView::TZTradePwdAlertView(const QObject &promptOwner, TZTradePwdAlertDelegate &promptDelegate)
     : owner(&promptOwner), delegate(promptDelegate)
 {
     connect(&promptOwner, &QObject::destroyed, this, [this] { removeFromWindow(); });
-}
-
-TZTradePwdAlertView::~TZTradePwdAlertView()
-{
-    wipe();
 }
 
 TZTradePwdAlertView *TZTradePwdAlertView::showAlertView(KRWindow &window, const QObject &owner,
@@ -55,8 +39,8 @@ void TZTradePwdAlertView::hideAlertView(Animation animation)
 void TZTradePwdAlertView::setInputTextField(const QString &text)
 {
     if (shown) {
-        digits = cleaned(text);
-        if (digits.size() == passwordLength) {
+        input.setText(text);
+        if (input.isComplete()) {
             hideAlertView(Animation::Fade);
             ending.startOnce(1s, [this] { sendTradePwd(); });
         }
@@ -74,23 +58,18 @@ void TZTradePwdAlertView::closeBtnClick()
 {
     if (!shown)
         return;
-    wipe();
+    input.wipe();
+    Q_EMIT inputChanged();
     removeFromWindow();
 }
 
 void TZTradePwdAlertView::sendTradePwd()
 {
-    QString password = std::exchange(digits, {});
+    QString password = input.text();
+    input.wipe();
     Q_EMIT inputChanged();
     removeFromWindow();
     if (owner)
         delegate.checkTradePwd(password);
     password.fill(u'\0');
-}
-
-void TZTradePwdAlertView::wipe()
-{
-    digits.fill(u'\0');
-    digits.clear();
-    Q_EMIT inputChanged();
 }

@@ -2,6 +2,7 @@
 
 #include "core/platform/Timer.h"
 #include "core/shell/KRDialog.h"
+#include "core/shell/TradePasswordDigits.h"
 
 #include <QPointer>
 
@@ -22,8 +23,8 @@ class TZTradePwdAlertView : public KRDialog {
     Q_OBJECT
     /// The digits typed so far, 0 to 6 of them. What is written is cleaned first.
     Q_PROPERTY(QString inputTextField READ inputTextField WRITE setInputTextField NOTIFY inputChanged)
-    /// How many of the six dots are lit.
-    Q_PROPERTY(int btns READ btns NOTIFY inputChanged)
+    /// The six dots, `aBtn` to `fBtn`: whether each is lit.
+    Q_PROPERTY(QList<bool> btns READ btns NOTIFY inputChanged)
     Q_PROPERTY(bool shown READ isShown NOTIFY shownChanged)
     /// Milliseconds of the running fade: 250 in, 200 out.
     Q_PROPERTY(int fadeDuration READ fadeDuration NOTIFY shownChanged)
@@ -34,15 +35,20 @@ public:
     /// screen.
     static TZTradePwdAlertView *showAlertView(KRWindow &window, const QObject &owner,
                                               TZTradePwdAlertDelegate &delegate);
-    ~TZTradePwdAlertView() override;
 
     /// Fades out and is gone, no password handed over. Kept on purpose: without an animation it only ends
     /// editing.
     void hideAlertView(Animation animation);
 
-    QString inputTextField() const { return digits; }
+    QString inputTextField() const { return input.text(); }
     void setInputTextField(const QString &text);
-    int btns() const { return static_cast<int>(digits.size()); }
+    bool aBtn() const { return input.isLit(0); }
+    bool bBtn() const { return input.isLit(1); }
+    bool cBtn() const { return input.isLit(2); }
+    bool dBtn() const { return input.isLit(3); }
+    bool eBtn() const { return input.isLit(4); }
+    bool fBtn() const { return input.isLit(5); }
+    QList<bool> btns() const { return {aBtn(), bBtn(), cBtn(), dBtn(), eBtn(), fBtn()}; }
     bool isShown() const { return shown; }
     int fadeDuration() const;
 
@@ -57,11 +63,10 @@ Q_SIGNALS:
 private:
     TZTradePwdAlertView(const QObject &owner, TZTradePwdAlertDelegate &delegate);
     void sendTradePwd();
-    void wipe();
 
     QPointer<const QObject> owner;
     TZTradePwdAlertDelegate &delegate;
-    QString digits;
+    TradePasswordDigits input;
     Timer ending;
     bool shown = true;
 };

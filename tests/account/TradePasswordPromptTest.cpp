@@ -31,11 +31,11 @@ TEST_F(TradePasswordPromptTest, SixDigitsHideItAndAreHandedOverASecondLater)
 {
     EXPECT_EQ(prompt->fadeDuration(), 250);
     prompt->setInputTextField(QStringLiteral("12 34 5"));
-    EXPECT_EQ(prompt->btns(), 5);
+    EXPECT_EQ(prompt->btns(), (QList<bool>{true, true, true, true, true, false}));
     EXPECT_TRUE(prompt->isShown());
     prompt->setInputTextField(QStringLiteral("12 34 56 7"));
     EXPECT_EQ(prompt->inputTextField(), QStringLiteral("123456"));
-    EXPECT_EQ(prompt->btns(), 6);
+    EXPECT_FALSE(prompt->btns().contains(false));
     EXPECT_FALSE(prompt->isShown());
     EXPECT_EQ(prompt->fadeDuration(), 200);
     runLoop.advance(999ms);
@@ -126,5 +126,5 @@ TEST_F(TradePasswordPromptTest, ANewPromptIsEmpty)
 {
     prompt->setInputTextField(QStringLiteral("123456"));
     runLoop.advance(1s);
-    EXPECT_EQ(TZTradePwdAlertView::showAlertView(window, *asker, *asker)->btns(), 0);
+    EXPECT_EQ(TZTradePwdAlertView::showAlertView(window, *asker, *asker)->btns(), QList<bool>(6, false));
 }
