@@ -1,6 +1,9 @@
 #include "app/AppRouter.h"
 
 #include "account/screens/TZCheckCellController.h"
+#include "account/screens/TZModifyNicknameController.h"
+#include "account/screens/TZPersonalController.h"
+#include "account/screens/TZSetPasswordController.h"
 #include "core/shell/KRNavigationController.h"
 #include "core/shell/KRSideMenu.h"
 #include "core/shell/KRWindow.h"
@@ -21,17 +24,32 @@ std::unique_ptr<TZPlainPageController> plainPage(const QString &title, const QSt
     return std::make_unique<TZPlainPageController>(title, text);
 }
 
+std::unique_ptr<KRBaseController> nicknameStep()
+{
+    auto nickname = std::make_unique<TZModifyNicknameController>();
+    nickname->isSetNickname = true;
+    nickname->isFirstShow = true;
+    return nickname;
+}
+
+std::unique_ptr<KRBaseController> passwordStep()
+{
+    auto password = std::make_unique<TZSetPasswordController>();
+    password->isFirstShow = true;
+    return password;
+}
+
 /// The first step that the account still lacks, by the "next_step" of the recharge information; with none
 /// lacking, the recharge itself.
-std::unique_ptr<TZPlainPageController> rechargeStep(qint64 nextStep)
+std::unique_ptr<KRBaseController> rechargeStep(qint64 nextStep)
 {
     switch (nextStep) {
     case 1:
         return plainPage(QStringLiteral("手机验证"), QStringLiteral("在这里验证您的手机号码。"));
     case 2:
-        return plainPage(QStringLiteral("设置昵称"), QStringLiteral("在这里设置您的昵称。"));
+        return nicknameStep();
     case 3:
-        return plainPage(QStringLiteral("设置交易密码"), QStringLiteral("在这里设置六位数字的交易密码。"));
+        return passwordStep();
     case 4:
         return plainPage(QStringLiteral("开通资金托管账户"), QStringLiteral("在这里开通您的资金托管账户。"));
     case 5:
@@ -124,8 +142,7 @@ void AppRouter::openFundRecords(KRBaseController &from)
 
 void AppRouter::openPersonal(KRBaseController &from)
 {
-    from.navigationController()->push(
-        plainPage(QStringLiteral("个人资料"), QStringLiteral("在这里查看和修改您的个人资料。")));
+    from.navigationController()->push(std::make_unique<TZPersonalController>());
 }
 
 void AppRouter::openWarning(KRBaseController &from)

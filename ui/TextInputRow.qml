@@ -18,6 +18,8 @@ FocusScope {
     property alias echoMode: field.echoMode
     property alias readOnly: field.readOnly
     property alias field: field
+    /// Whether an input method is still making up what was typed.
+    readonly property bool composing: field.preeditText !== ""
     default property alias trailing: trailingSlot.data
     readonly property Tones tones: Theme.tones(deep)
 
@@ -85,7 +87,7 @@ FocusScope {
 
         Text {
             anchors.fill: parent
-            visible: field.length === 0 && field.preeditText === ""
+            visible: field.length === 0 && !row.composing
             text: row.placeholder
             font: field.font
             color: row.tones.placeholder

@@ -4,7 +4,6 @@
 #include "account/screens/TZRegisterController.h"
 #include "core/net/ToolPolicy.h"
 #include "core/session/TZUserTool.h"
-#include "core/shell/KRNavigationController.h"
 #include "core/util/Service.h"
 
 TZCheckCellController::TZCheckCellController(Router &appRouter) : router(appRouter) {}
@@ -22,30 +21,28 @@ bool TZCheckCellController::nextStepLit() const
 
 void TZCheckCellController::viewDidLoad()
 {
-    TZSignInController::viewDidLoad();
+    TZFormController::viewDidLoad();
     setTitle(QStringLiteral("手机登录"));
     createNavLeftItemWithTitle({}, QStringLiteral("common_close_gray"), {}, {});
 }
 
 void TZCheckCellController::leftItemClick()
 {
-    closeSignIn();
+    closeSignIn(*this);
 }
 
 void TZCheckCellController::clickNextStepBtn()
 {
-    if (sending)
+    if (isSending())
         return;
     if (Service::whetherAnEmptyString(number))
         return Service::showErrorWithMsg(QStringLiteral("请输入手机号"));
     if (!Service::determineThePhoneNumberFormat(number))
         return Service::showErrorWithMsg(QStringLiteral("手机号格式不正确，请重新输入"));
-    sending = true;
     const auto started = [this, cell = number](const Operation &, const QVariantMap &answer) {
         openNextStep(cell, answer);
     };
-    const Operation start = TZUserTool::checkCellWithCell(number, Success{this, started}, Failure{});
-    connect(start.get(), &RequestOperation::finished, this, [this] { sending = false; });
+    waitFor(TZUserTool::checkCellWithCell(number, Success{this, started}, Failure{}));
 }
 
 void TZCheckCellController::openNextStep(const QString &cell, const QVariantMap &answer)
@@ -54,7 +51,7 @@ void TZCheckCellController::openNextStep(const QString &cell, const QVariantMap 
     if (!ToolPolicy::succeeded(answer))
         return;
     const QString bizCode = TZSmsCodeController::bizCodeOf(answer);
-    std::unique_ptr<TZSmsCodeController> next;
+    std::unique_ptr<TZSignInCodeController> next;
     if (bizCode == u"1001")
         next = std::make_unique<TZRegisterController>(router);
     else if (bizCode == u"1002")
@@ -66,5 +63,5 @@ void TZCheckCellController::openNextStep(const QString &cell, const QVariantMap 
     }
     next->requestData = {{QStringLiteral("bizCode"), bizCode}, {QStringLiteral("cell"), cell}};
     next->setToSomeController(toSomeController);
-    navigationController()->push(std::move(next));
+    pushNext(std::move(next));
 }

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "account/screens/TZSignInController.h"
+#include "account/screens/TZFormController.h"
+#include "account/screens/TZSignInStep.h"
 
 #include <QVariantMap>
 
 /// The sign-in entry: takes the mobile number and has a code sent to it; the answer says whether login or
 /// registration follows.
-class TZCheckCellController : public TZSignInController {
+class TZCheckCellController : public TZFormController, public TZSignInStep {
     Q_OBJECT
     Q_PROPERTY(QString cell READ cell WRITE setCell NOTIFY cellChanged)
     Q_PROPERTY(bool nextStepLit READ nextStepLit NOTIFY cellChanged)
@@ -30,5 +31,4 @@ private:
 
     Router &router;
     QString number;
-    bool sending = false;
 };

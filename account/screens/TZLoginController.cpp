@@ -2,12 +2,12 @@
 
 void TZLoginController::viewDidLoad()
 {
-    TZSmsCodeController::viewDidLoad();
+    TZSignInCodeController::viewDidLoad();
     setTitle(QStringLiteral("登录"));
 }
 
 void TZLoginController::clickNextStepBtn()
 {
     if (checkInput())
-        verify({}, [this] { finishSignIn(); });
+        verify({}, [this] { finishSignIn(*this); });
 }

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "account/screens/TZSmsCodeController.h"
+#include "account/screens/TZSignInCodeController.h"
 
 /// The code of a number that is registered.
-class TZLoginController : public TZSmsCodeController {
+class TZLoginController : public TZSignInCodeController {
     Q_OBJECT
 public:
     void viewDidLoad() override;

@@ -2,7 +2,6 @@
 
 #include "account/screens/TZRegisterFinishController.h"
 #include "core/net/ToolPolicy.h"
-#include "core/shell/KRNavigationController.h"
 #include "core/shell/TZWebModel.h"
 #include "core/util/Service.h"
 
@@ -19,13 +18,13 @@ void TZRegisterController::setInviteCode(const QString &code)
 
 void TZRegisterController::viewDidLoad()
 {
-    TZSmsCodeController::viewDidLoad();
+    TZSignInCodeController::viewDidLoad();
     setTitle(QStringLiteral("注册"));
 }
 
 void TZRegisterController::viewWillDisappear()
 {
-    TZSmsCodeController::viewWillDisappear();
+    TZSignInCodeController::viewWillDisappear();
     pendingStep.stop();
 }
 
@@ -43,7 +42,7 @@ void TZRegisterController::clickAgreementBtn()
 bool TZRegisterController::isComplete() const
 {
     const bool onlyBlanks = !invitation.isEmpty() && Service::whetherAnEmptyString(invitation);
-    return TZSmsCodeController::isComplete() && !onlyBlanks;
+    return TZSignInCodeController::isComplete() && !onlyBlanks;
 }
 
 void TZRegisterController::todoSomething()
@@ -57,5 +56,5 @@ void TZRegisterController::registerFinishController()
     hidenWaitngView();
     auto finish = std::make_unique<TZRegisterFinishController>();
     finish->setToSomeController(toSomeController);
-    navigationController()->push(std::move(finish));
+    pushNext(std::move(finish));
 }

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "account/screens/TZSmsCodeController.h"
+#include "account/screens/TZSignInCodeController.h"
 
 /// The code of a new number, with an invitation code that may be left out; the nickname follows.
-class TZRegisterController : public TZSmsCodeController {
+class TZRegisterController : public TZSignInCodeController {
     Q_OBJECT
     Q_PROPERTY(QString inviteCode READ inviteCode WRITE setInviteCode NOTIFY inviteCodeChanged)
 public:

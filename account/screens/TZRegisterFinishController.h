@@ -1,27 +1,20 @@
 #pragma once
 
-#include "account/screens/TZSignInController.h"
+#include "account/screens/TZNicknameController.h"
+#include "account/screens/TZSignInStep.h"
 
 /// The last step of a registration: the nickname. The user is signed in already; closing leaves the nickname
 /// unset.
-class TZRegisterFinishController : public TZSignInController {
+class TZRegisterFinishController : public TZNicknameController, public TZSignInStep {
     Q_OBJECT
-    Q_PROPERTY(QString nick READ nick NOTIFY nickChanged)
 public:
     TZRegisterFinishController() = default;
 
-    QString nick() const { return nickname; }
-
     void viewDidLoad() override;
-    void leftItemClick() override;
+    void leftItemClick() override { closeSignIn(*this); }
     void backButtonClicked() override { leftItemClick(); }
-    Q_INVOKABLE void textFiledEditChanged(const QString &text);
-    Q_INVOKABLE void clickNextStepBtn();
+    Q_INVOKABLE void clickNextStepBtn() { saveNick(); }
 
-Q_SIGNALS:
-    void nickChanged();
-
-private:
-    QString nickname;
-    bool sending = false;
+protected:
+    void nickSaved() override { finishSignIn(*this); }
 };

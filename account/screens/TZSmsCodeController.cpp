@@ -2,7 +2,6 @@
 
 #include "account/screens/TypedText.h"
 #include "core/net/ToolPolicy.h"
-#include "core/session/TZUserTool.h"
 #include "core/util/Service.h"
 #include "core/util/Text.h"
 
@@ -11,8 +10,6 @@ using namespace std::chrono_literals;
 namespace {
 constexpr qsizetype codeLength = 6;
 const QString bizCodeKey = QStringLiteral("bizCode");
-const QString cellKey = QStringLiteral("cell");
-const QString wrongNumber = QStringLiteral("手机号格式不正确，请重新输入");
 } // namespace
 
 QString TZSmsCodeController::bizCodeOf(const QVariantMap &answer)
@@ -23,43 +20,34 @@ QString TZSmsCodeController::bizCodeOf(const QVariantMap &answer)
                         : code);
 }
 
-QString TZSmsCodeController::headerText() const
+QString TZSmsCodeController::sentTo(const QString &cell)
 {
     return QStringLiteral("已发送短信验证码至%1，请在输入框内填写验证码")
-        .arg(Service::encryptionPhoneNumber(cell()));
+        .arg(Service::encryptionPhoneNumber(cell));
 }
 
 void TZSmsCodeController::viewDidLoad()
 {
-    TZSignInController::viewDidLoad();
+    TZFormController::viewDidLoad();
     setShowBackButton(true);
-    sms.justBeginTimer();
 }
 
 void TZSmsCodeController::sendSms(const OwnedAction &complete)
 {
     using TimeButton = TZSmsCell::TimeButton;
     sms.changeTimeButtonStyleWithIndex(TimeButton::Waiting, sms.title());
-    const auto makeReady = [this] { sms.changeTimeButtonStyleWithIndex(TimeButton::Ready, sms.title()); };
-    if (!Service::determineThePhoneNumberFormat(cell())) {
-        makeReady();
-        return Service::showErrorWithMsg(wrongNumber);
-    }
-    const Operation start =
-        TZUserTool::checkCellWithCell(cell(),
-                                      Success{this,
-                                              [this, complete](const Operation &, const QVariantMap &answer) {
-                                                  if (!ToolPolicy::succeeded(answer))
-                                                      return;
-                                                  const QString renewed = bizCodeOf(answer);
-                                                  if (!Service::whetherAnEmptyString(renewed))
-                                                      requestData.insert(bizCodeKey, renewed);
-                                                  complete();
-                                              }},
-                                      Failure{});
-    connect(start.get(), &RequestOperation::finished, this, [this, makeReady] {
+    const auto sent = [this, complete](const Operation &, const QVariantMap &answer) {
+        if (!ToolPolicy::succeeded(answer))
+            return;
+        const QString renewed = bizCodeOf(answer);
+        if (!Service::whetherAnEmptyString(renewed))
+            requestData.insert(bizCodeKey, renewed);
+        complete();
+    };
+    const Operation asked = askForCode(Success{this, sent}, Failure{});
+    connect(asked.get(), &RequestOperation::finished, this, [this] {
         if (!sms.isCounting())
-            makeReady();
+            sms.changeTimeButtonStyleWithIndex(TimeButton::Ready, sms.title());
     });
 }
 
@@ -90,44 +78,28 @@ bool TZSmsCodeController::isComplete() const
     return Service::removeSpacesFromString(codeText).size() == codeLength;
 }
 
+QString TZSmsCodeController::inputProblem() const
+{
+    if (Service::whetherAnEmptyString(codeText))
+        return QStringLiteral("请输入手机验证码");
+    if (!Service::isRightFormatPhoneCaptcha(codeText))
+        return QStringLiteral("手机验证码格式不正确，请重新输入");
+    if (Service::whetherAnEmptyString(bizCode()))
+        return QStringLiteral("交易码异常");
+    return {};
+}
+
 bool TZSmsCodeController::checkInput() const
 {
-    const auto fail = [](const QString &problem) {
+    const QString problem = inputProblem();
+    if (!problem.isEmpty())
         Service::showErrorWithMsg(problem);
-        return false;
-    };
-    if (Service::whetherAnEmptyString(cell()))
-        return fail(QStringLiteral("请输入手机号"));
-    if (Service::whetherAnEmptyString(codeText))
-        return fail(QStringLiteral("请输入手机验证码"));
-    if (!Service::determineThePhoneNumberFormat(cell()))
-        return fail(wrongNumber);
-    if (!Service::isRightFormatPhoneCaptcha(codeText))
-        return fail(QStringLiteral("手机验证码格式不正确，请重新输入"));
-    if (Service::whetherAnEmptyString(bizCode()))
-        return fail(QStringLiteral("交易码异常"));
-    return true;
+    return problem.isEmpty();
 }
 
-void TZSmsCodeController::verify(const QVariantMap &extra, std::function<void()> verified)
+QVariantMap TZSmsCodeController::verification() const
 {
-    if (verifying)
-        return;
-    verifying = true;
-    QVariantMap param = extra;
-    param.insert(bizCodeKey, bizCode());
-    param.insert(QStringLiteral("userInput"), codeText);
-    const Operation operation = TZUserTool::verifyCodeWithParam(
-        param,
-        Success{this,
-                [verified = std::move(verified)](const Operation &, const QVariantMap &) { verified(); }},
-        Failure{});
-    connect(operation.get(), &RequestOperation::finished, this, [this] { verifying = false; });
-}
-
-QString TZSmsCodeController::cell() const
-{
-    return requestData.value(cellKey).toString();
+    return {{bizCodeKey, bizCode()}, {QStringLiteral("userInput"), codeText}};
 }
 
 QString TZSmsCodeController::bizCode() const

@@ -1,7 +1,7 @@
 import QtQuick
 import Zorvane.Ui
 
-/// The fields of a sign-in step on one rounded surface.
+/// The fields of a step on one rounded surface.
 Rectangle {
     default property alias rows: column.data
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Zorvane.Ui
 
-/// The button of a sign-in step. It can be pressed while it is grey: the screen then says what is missing.
+/// The button of a step. It can be pressed while it is grey: the screen then says what is missing.
 PrimaryButton {
     property bool lit: true
 

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Zorvane.Account
 
-SignInPage {
+StepPage {
     id: page
 
     required controller

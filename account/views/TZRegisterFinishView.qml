@@ -1,10 +1,9 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Zorvane.Ui
 import Zorvane.Account
 
-SignInPage {
+StepPage {
     id: page
 
     required controller
@@ -14,14 +13,11 @@ SignInPage {
     caption: "昵称最多十个汉字"
 
     FormCard {
-        TextInputRow {
-            deep: true
+        NicknameRow {
+            controller: page.finish
             focus: true
-            line: false
             icon: "register_nick"
             placeholder: "请输入昵称"
-            text: page.finish.nick
-            onEdited: value => page.finish.textFiledEditChanged(value)
             onAccepted: page.finish.clickNextStepBtn()
         }
     }

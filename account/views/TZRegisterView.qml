@@ -4,7 +4,7 @@ import QtQuick
 import Zorvane.Ui
 import Zorvane.Account
 
-SignInPage {
+StepPage {
     id: page
 
     required controller

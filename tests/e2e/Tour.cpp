@@ -6,7 +6,9 @@ using namespace std::chrono_literals;
 
 namespace {
 const QString cell = QStringLiteral("13800138000");
+const QString newcomer = QStringLiteral("13912345678");
 const QString tradePassword = QStringLiteral("123456");
+const QString identityNumber = QStringLiteral("110101199003070011");
 const QString placed = QStringLiteral("委托挂单成功");
 } // namespace
 
@@ -33,7 +35,12 @@ QList<Tour::Step> Tour::steps()
         {QStringLiteral("entrusts and deals"), [this] { return readEntrustsAndDeals(); }},
         {QStringLiteral("detail"), [this] { return readDetail(); }},
         {QStringLiteral("my account"), [this] { return openMyAccount(); }},
+        {QStringLiteral("nickname changed"), [this] { return changeNickname(); }},
+        {QStringLiteral("trade password reset"), [this] { return resetTradePassword(); }},
         {QStringLiteral("signed out"), [this] { return logOut(); }},
+        {QStringLiteral("newcomer"), [this] { return registerNewcomer(); }},
+        {QStringLiteral("first nickname"), [this] { return chooseFirstNickname(); }},
+        {QStringLiteral("first trade password"), [this] { return setFirstPassword(); }},
     };
 }
 
@@ -72,10 +79,7 @@ bool Tour::askForSignIn()
 
 bool Tour::sendCode()
 {
-    return hand.type(QStringLiteral("请输入手机号"), cell) && hand.press(QStringLiteral("下一步")) &&
-           hand.waitFor(QStringLiteral("请输入短信验证码")) &&
-           hand.waitForPart(QStringLiteral("138****8000")) &&
-           Hand::wait([this] { return !sandbox.codeFor(cell).isEmpty(); });
+    return askForCode(cell) && hand.waitForPart(QStringLiteral("138****8000"));
 }
 
 bool Tour::signInWithCode()
@@ -150,14 +154,77 @@ bool Tour::readDetail()
 
 bool Tour::openMyAccount()
 {
-    return hand.press(QStringLiteral("关闭")) && back() && back() && hand.press(QStringLiteral("菜单")) &&
-           hand.pressPart(QStringLiteral("我的账户")) && hand.waitForPart(QStringLiteral("可用余额"));
+    return hand.press(QStringLiteral("关闭")) && back() && back() && openAccountOfMenu();
+}
+
+bool Tour::changeNickname()
+{
+    return hand.pressPart(QStringLiteral("体验用户")) && hand.pressPart(QStringLiteral("昵称")) &&
+           hand.type(QStringLiteral("请输入新昵称"), QStringLiteral("Laoshiren11")) &&
+           hand.press(QStringLiteral("保存设置")) && hand.waitFor(QStringLiteral("昵称 Laoshiren1")) &&
+           hand.waitFor(QStringLiteral("设置成功"));
+}
+
+bool Tour::resetTradePassword()
+{
+    const QString field = QStringLiteral("交易密码");
+    const QString lastCode = sandbox.codeFor(cell);
+    return hand.pressPart(QStringLiteral("重置")) && hand.waitForPart(QStringLiteral("已发送短信验证码")) &&
+           Hand::wait([&] { return sandbox.codeFor(cell) != lastCode; }) &&
+           hand.type(QStringLiteral("请输入短信验证码"), sandbox.codeFor(cell)) &&
+           hand.press(QStringLiteral("下一步")) &&
+           hand.type(QStringLiteral("请输入实名认证时的证件号码"), QStringLiteral("110101199003070029")) &&
+           hand.press(QStringLiteral("下一步")) && hand.waitForPart(QStringLiteral("不一致")) &&
+           hand.type(QStringLiteral("请输入实名认证时的证件号码"), identityNumber) &&
+           hand.press(QStringLiteral("下一步")) && hand.waitFor(QStringLiteral("重置密码")) &&
+           hand.type(field, QStringLiteral("654321")) && hand.waitFor(QStringLiteral("确认重置密码")) &&
+           hand.type(field, QStringLiteral("654322")) && hand.waitForPart(QStringLiteral("不一致")) &&
+           hand.type(field, QStringLiteral("654321")) && hand.waitFor(QStringLiteral("设置成功")) &&
+           hand.waitFor(QStringLiteral("我的账户"));
 }
 
 bool Tour::logOut()
 {
     return hand.press(QStringLiteral("更多")) && hand.press(QStringLiteral("退出登录")) &&
            hand.press(QStringLiteral("确定")) && hand.waitForPart(QStringLiteral("位用户在操盘"));
+}
+
+bool Tour::registerNewcomer()
+{
+    return hand.pressPart(QStringLiteral("炒股 佣金")) && askForCode(newcomer) &&
+           hand.type(QStringLiteral("请输入短信验证码"), sandbox.codeFor(newcomer)) &&
+           hand.press(QStringLiteral("立即注册")) && hand.waitFor(QStringLiteral("请输入昵称")) &&
+           hand.press(QStringLiteral("关闭")) && openAccountOfMenu();
+}
+
+bool Tour::chooseFirstNickname()
+{
+    return hand.press(QStringLiteral(" 充值")) && hand.waitFor(QStringLiteral("设置昵称")) &&
+           hand.type(QStringLiteral("请输入新昵称"), QStringLiteral("Xiaoyu")) &&
+           hand.press(QStringLiteral("保存设置")) && hand.waitForPart(QStringLiteral("Xiaoyu "));
+}
+
+bool Tour::setFirstPassword()
+{
+    const QString field = QStringLiteral("交易密码");
+    return hand.press(QStringLiteral(" 充值")) && hand.waitFor(QStringLiteral("输入交易密码")) &&
+           hand.press(QStringLiteral("关闭")) && hand.press(QStringLiteral("取消")) &&
+           hand.type(field, QStringLiteral("246810")) && hand.waitFor(QStringLiteral("设置交易密码")) &&
+           hand.type(field, QStringLiteral("246810")) && hand.waitFor(QStringLiteral("设置成功")) &&
+           hand.press(QStringLiteral(" 充值")) && hand.waitFor(QStringLiteral("开通资金托管账户"));
+}
+
+bool Tour::askForCode(const QString &number)
+{
+    return hand.type(QStringLiteral("请输入手机号"), number) && hand.press(QStringLiteral("下一步")) &&
+           hand.waitFor(QStringLiteral("请输入短信验证码")) &&
+           Hand::wait([&] { return !sandbox.codeFor(number).isEmpty(); });
+}
+
+bool Tour::openAccountOfMenu()
+{
+    return hand.press(QStringLiteral("菜单")) && hand.pressPart(QStringLiteral("我的账户")) &&
+           hand.waitForPart(QStringLiteral("可用余额"));
 }
 
 bool Tour::enterTradePassword()

@@ -37,9 +37,16 @@ private:
     bool readEntrustsAndDeals();
     bool readDetail();
     bool openMyAccount();
+    bool changeNickname();
+    bool resetTradePassword();
     bool logOut();
+    bool registerNewcomer();
+    bool chooseFirstNickname();
+    bool setFirstPassword();
 
     bool enterTradePassword();
+    bool askForCode(const QString &number);
+    bool openAccountOfMenu();
     bool back();
     /// The demo user in the sandbox's books.
     QVariantMap user() const;

@@ -1,7 +1,13 @@
 #include "account/screens/TZCheckCellController.h"
+#include "account/screens/TZEnsurePasswordController.h"
 #include "account/screens/TZLoginController.h"
+#include "account/screens/TZModifyNicknameController.h"
+#include "account/screens/TZPersonalController.h"
 #include "account/screens/TZRegisterController.h"
 #include "account/screens/TZRegisterFinishController.h"
+#include "account/screens/TZSetPasswordController.h"
+#include "account/screens/TZVerifyIDController.h"
+#include "account/screens/TZVerifyPhoneController.h"
 #include "app/AppRouter.h"
 #include "core/shell/AppDelegate.h"
 #include "core/shell/KRNavigationController.h"
@@ -28,6 +34,7 @@
 
 #include <QDeadlineTimer>
 #include <QGuiApplication>
+#include <QInputMethodEvent>
 #include <QQmlApplicationEngine>
 
 using namespace std::chrono_literals;
@@ -138,6 +145,39 @@ TEST_F(ViewsTest, SignIn)
     look(std::make_unique<TZLoginController>());
     look(std::make_unique<TZRegisterController>(router));
     look(std::make_unique<TZRegisterFinishController>());
+}
+
+TEST_F(ViewsTest, PersonalPageNicknameAndTradePassword)
+{
+    look(std::make_unique<TZPersonalController>());
+    look(std::make_unique<TZModifyNicknameController>());
+    look(std::make_unique<TZVerifyPhoneController>());
+    look(std::make_unique<TZVerifyIDController>());
+    look(std::make_unique<TZSetPasswordController>());
+    look(std::make_unique<TZEnsurePasswordController>());
+}
+
+TEST_F(ViewsTest, ANicknameIsCutWhenTheInputMethodHasEnded)
+{
+    auto nickname = std::make_unique<TZModifyNicknameController>();
+    const TZModifyNicknameController *const screen = nickname.get();
+    window.present(std::move(nickname));
+    pass();
+    const auto compose = [](const QString &commit, const QString &marked) {
+        QInputMethodEvent event(marked, {});
+        event.setCommitString(commit);
+        QCoreApplication::sendEvent(QGuiApplication::focusObject(), &event);
+    };
+    compose({}, QStringLiteral("yi'er'san'si'wu'liu"));
+    EXPECT_EQ(screen->nick(), QString());
+    compose(QStringLiteral("一二三四五六七八九十百千"), QStringLiteral("wan"));
+    EXPECT_EQ(screen->nick(), QStringLiteral("一二三四五六七八九十百千"));
+    compose({}, {});
+    EXPECT_EQ(screen->nick(), QStringLiteral("一二三四五六七八九十"));
+    EXPECT_EQ(QGuiApplication::focusObject()->property("text").toString(), screen->nick());
+    compose(QStringLiteral("万"), {});
+    EXPECT_EQ(screen->nick(), QStringLiteral("一二三四五六七八九十"));
+    EXPECT_EQ(QGuiApplication::focusObject()->property("text").toString(), screen->nick());
 }
 
 TEST_F(ViewsTest, Home)

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Zorvane.Ui
 
-/// The frame of the sign-in steps: a heading, what is to be done, the form. Scrolls when the window is short.
+/// The frame of the account's steps: a heading, what is to be done, the form. Scrolls when the window is short.
 PageFrame {
     id: page
 

@@ -1,0 +1,57 @@
+#include "account/screens/TZPersonalController.h"
+
+#include "account/screens/TZModifyNicknameController.h"
+#include "account/screens/TZVerifyPhoneController.h"
+#include "core/session/TZUserModel.h"
+#include "core/session/TZUserTool.h"
+#include "core/util/Service.h"
+
+QString TZPersonalController::nick() const
+{
+    return TZUserModel::stored().nick;
+}
+
+QString TZPersonalController::cell() const
+{
+    return Service::encryptionPhoneNumber(TZUserModel::stored().cell);
+}
+
+QString TZPersonalController::name() const
+{
+    const QString name = TZUserModel::stored().name;
+    return name.isEmpty() ? QStringLiteral("未实名") : Service::encryptionName(name);
+}
+
+QString TZPersonalController::nickValue() const
+{
+    return nick().isEmpty() ? QStringLiteral("未设置") : nick();
+}
+
+void TZPersonalController::viewDidLoad()
+{
+    TZFormController::viewDidLoad();
+    changeGrayBgColor();
+    setTitle(QStringLiteral("个人资料"));
+    setShowBackButton(true);
+}
+
+void TZPersonalController::viewWillAppear()
+{
+    TZFormController::viewWillAppear();
+    Q_EMIT userChanged();
+}
+
+void TZPersonalController::nickRowClick()
+{
+    pushNext(std::make_unique<TZModifyNicknameController>());
+}
+
+void TZPersonalController::tradePwdRowClick()
+{
+    if (isSending())
+        return;
+    const auto allowed = [this](const Operation &, const QVariantMap &) {
+        pushNext(std::make_unique<TZVerifyPhoneController>());
+    };
+    waitFor(TZUserTool::canUpdataPasswordWithParam({}, Success{this, allowed}, Failure{}));
+}

@@ -1,0 +1,39 @@
+import QtQuick
+import Zorvane.Ui
+
+/// Whose page it is: the picture, the nickname, the number.
+Rectangle {
+    id: card
+
+    required property string nick
+    required property string cell
+
+    width: parent ? parent.width : 0
+    height: column.height + 2 * Theme.spacingHuge
+    color: Theme.deep.page
+
+    Column {
+        id: column
+        y: Theme.spacingHuge
+        width: parent.width - 2 * Theme.margin
+        anchors.horizontalCenter: parent.horizontalCenter
+        spacing: Theme.spacingSmall
+
+        Icon {
+            anchors.horizontalCenter: parent.horizontalCenter
+            name: "account_avatar"
+            size: 72
+        }
+        Text {
+            width: parent.width
+            visible: text !== ""
+            text: card.nick
+            font: Theme.heading
+            color: Theme.deep.textPrimary
+            horizontalAlignment: Text.AlignHCenter
+            elide: Text.ElideRight
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+        }
+    }
+}

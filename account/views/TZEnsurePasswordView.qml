@@ -1,0 +1,5 @@
+import Zorvane.Account
+
+PasswordPage {
+    required controller
+}
