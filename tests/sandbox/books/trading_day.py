@@ -133,7 +133,8 @@ class Day:
         assert self.demo.cancel(modest)["success"]
         self.at("9:15:01")
         assert self.demo.status(modest) == recompute.CANCELLED and self.demo.money() == (200_000_00, 0)
-        eager = [trader.place("Buy", self.main, upper, 200) for trader in (self.demo, self.rich)]
+        wants = ((self.demo, 200), (self.rich, 900_000))
+        eager = [trader.place("Buy", self.main, upper, shares) for trader, shares in wants]
         modest = self.demo.place("Buy", self.main, lower, 100)
 
         self.at("9:20")
@@ -143,8 +144,9 @@ class Day:
         assert self.demo.status(late) == recompute.ACCEPTED, "nothing trades before 9:25"
         self.at("9:25")
         price = self.price(self.main, "match")
-        for trader, number, shares in ((self.demo, eager[0], 200), (self.rich, eager[1], 200), (self.demo, late, 100)):
-            assert [(p, s) for p, s, _ in trader.deals(number)] == [(price, shares)], "one price for all"
+        for trader, number, shares in ((self.demo, eager[0], 200), (self.rich, eager[1], 900_000),
+                                       (self.demo, late, 100)):
+            assert [(p, s) for p, s, _ in trader.deals(number)] == [(price, shares)], "one price, in full"
         assert self.demo.status(modest) == recompute.ACCEPTED
         self.modest = modest
 

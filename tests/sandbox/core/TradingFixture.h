@@ -1,35 +1,16 @@
 #pragma once
 
+#include "TemporaryFolder.h"
 #include "exchange/Brokerage.h"
 #include "ledger/Invariants.h"
 #include "market/Calendar.h"
 #include "store/Database.h"
 
-#include <filesystem>
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>
-#include <unistd.h>
 
 namespace sandbox {
-
-/** A directory of its own for one test, gone with it. */
-class TemporaryDirectory {
-public:
-    TemporaryDirectory()
-    {
-        std::string pattern = (std::filesystem::temp_directory_path() / "sandbox-test-XXXXXX").string();
-        m_path = mkdtemp(pattern.data());
-    }
-    ~TemporaryDirectory() { std::filesystem::remove_all(m_path); }
-    TemporaryDirectory(const TemporaryDirectory &) = delete;
-    TemporaryDirectory &operator=(const TemporaryDirectory &) = delete;
-
-    std::string file(const std::string &name) const { return m_path / name; }
-
-private:
-    std::filesystem::path m_path;
-};
 
 constexpr Millis shanghai(int daysSince1970, int hour, int minute, int second = 0)
 {
@@ -48,7 +29,7 @@ protected:
     {
         m_books.reset();
         m_brokerage.reset();
-        m_directory = std::make_unique<TemporaryDirectory>();
+        m_directory = std::make_unique<test::TemporaryFolder>();
         m_real = begin;
         m_marketHours = marketHours;
         reopen();
@@ -71,7 +52,7 @@ protected:
     }
 
     Brokerage &brokerage() { return *m_brokerage; }
-    std::string databasePath() const { return m_directory->file("sandbox.sqlite"); }
+    std::string databasePath() const { return (m_directory->path() / "sandbox.sqlite").string(); }
     void pass(Millis duration)
     {
         m_real += duration;
@@ -119,7 +100,7 @@ protected:
     }
 
 private:
-    std::unique_ptr<TemporaryDirectory> m_directory;
+    std::unique_ptr<test::TemporaryFolder> m_directory;
     Millis m_real = 0;
     bool m_marketHours = false;
     std::unique_ptr<Clock> m_clock;

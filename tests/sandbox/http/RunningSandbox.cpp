@@ -1,7 +1,5 @@
 #include "RunningSandbox.h"
 
-#include <cstdlib>
-
 namespace sandbox::test {
 namespace {
 
@@ -11,20 +9,6 @@ Json envelope(const httplib::Result &result)
 }
 
 } // namespace
-
-TemporaryFolder::TemporaryFolder()
-{
-    std::string name = (std::filesystem::temp_directory_path() / "zorvane-XXXXXX").string();
-    if (!::mkdtemp(name.data()))
-        throw std::runtime_error("no temporary folder");
-    m_path = name;
-}
-
-TemporaryFolder::~TemporaryFolder()
-{
-    std::error_code ignored;
-    std::filesystem::remove_all(m_path, ignored);
-}
 
 Client::Client(int port, const std::filesystem::path &authority)
     : m_client(std::make_unique<httplib::SSLClient>("127.0.0.1", port))

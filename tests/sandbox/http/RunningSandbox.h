@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Sandbox.h"
+#include "TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 #include <httplib.h>
@@ -9,19 +10,6 @@ namespace sandbox::test {
 
 using http::Json;
 using Fields = httplib::Params;
-
-/// A folder of its own for one test, removed at the end.
-class TemporaryFolder {
-public:
-    TemporaryFolder();
-    ~TemporaryFolder();
-    TemporaryFolder(const TemporaryFolder &) = delete;
-    TemporaryFolder &operator=(const TemporaryFolder &) = delete;
-    [[nodiscard]] const std::filesystem::path &path() const { return m_path; }
-
-private:
-    std::filesystem::path m_path;
-};
 
 /// A client that trusts one authority and sends a token once it has one.
 class Client {

@@ -84,29 +84,6 @@ TEST_F(Trading, ANewcomerBuysAtTheAskAndTheBooksShowIt)
     EXPECT_FALSE(succeeded(order("Sell", stock, ask, 100)));
 }
 
-TEST_F(Trading, AnOrderBelowTheMarketWaitsFreezesMoneyAndIsCancelled)
-{
-    const std::string stock = anyStock();
-    const std::string low = quote(stock).at("lowerLimit");
-    const Json placed = order("Buy", stock, low, 200, "123456");
-    ASSERT_TRUE(succeeded(placed)) << placed;
-    const std::string id = placed.at("data").at("id");
-    const Json open = client.get("callBackPage").at("data");
-    ASSERT_EQ(open.size(), 1u);
-    EXPECT_EQ(open[0].at("id"), id);
-    EXPECT_GE(cents(client.get("zorvanePage").at("data").at("frozenMoney")), cents(low) * 200);
-
-    EXPECT_FALSE(succeeded(client.post("entrust/queryWithDrawStatus", {{"id", id}})));
-    const std::string number = open[0].at("entrustNo");
-    ASSERT_TRUE(succeeded(client.post("entrust/createCancel", {{"tradeEntrustNo", number}})));
-    EXPECT_EQ(client.post("entrust/queryWithDrawStatus", {{"id", id}}).at("data"), false);
-    running.service().brokerage.stepClock(5000);
-    EXPECT_EQ(client.post("entrust/queryWithDrawStatus", {{"id", id}}).at("data"), true);
-    EXPECT_EQ(entrust(id).at("status"), "6");
-    EXPECT_EQ(client.get("zorvanePage").at("data").at("frozenMoney"), "0.00");
-    EXPECT_TRUE(client.get("callBackPage").at("data").empty());
-}
-
 TEST_F(Trading, OneRightPasswordServesTheSessionAndAnotherSignInNeedsItsOwn)
 {
     const std::string stock = anyStock();
@@ -128,33 +105,6 @@ TEST_F(Trading, FiveWrongPasswordsLockTradingWithAMessageInsteadOfTheCode)
     EXPECT_EQ(code(order("Buy", stock, "10.00", 100, "123456")), "");
 }
 
-TEST_F(Trading, RefusalsNameTheirRuleAndChangeNothing)
-{
-    const std::string stock = anyStock();
-    ASSERT_TRUE(succeeded(order("Buy", stock, quote(stock).at("lowerLimit"), 100, "123456")));
-    const Json before = client.get("zorvanePage").at("data");
-    struct Case {
-        const char *side, *stock, *price;
-        int shares;
-    };
-    const std::string upper = quote(stock).at("upperLimit");
-    const std::string beyond = yuanText(cents(upper) + 1);
-    for (const Case &wrong :
-         {Case{"Buy", stock.c_str(), upper.c_str(), 150}, Case{"Buy", stock.c_str(), upper.c_str(), 0},
-          Case{"Buy", stock.c_str(), beyond.c_str(), 100}, Case{"Buy", stock.c_str(), "1.005", 100},
-          Case{"Buy", stock.c_str(), "abc", 100}, Case{"Buy", "999999", "10.00", 100},
-          Case{"Buy", stock.c_str(), upper.c_str(), 900'000},
-          Case{"Sell", stock.c_str(), upper.c_str(), 100}}) {
-        const Json refused = order(wrong.side, wrong.stock, wrong.price, wrong.shares);
-        EXPECT_FALSE(succeeded(refused)) << wrong.price << " " << wrong.shares;
-        EXPECT_FALSE(message(refused).empty());
-        EXPECT_EQ(code(refused), "");
-    }
-    EXPECT_EQ(client.get("zorvanePage").at("data").at("availableMoney"), before.at("availableMoney"));
-    EXPECT_EQ(client.get("entrustsToday").at("data").size(),
-              client.get("sandbox/state").at("data").at("users").at(0).at("orders").size());
-}
-
 TEST_F(Trading, NobodySeesOrCancelsTheOrdersOfAnother)
 {
     const std::string stock = anyStock();
@@ -167,25 +117,6 @@ TEST_F(Trading, NobodySeesOrCancelsTheOrdersOfAnother)
     EXPECT_FALSE(succeeded(stranger.post("entrust/queryWithDrawStatus", {{"id", id}})));
     EXPECT_FALSE(succeeded(stranger.post("entrust/queryEntrustNo", {{"id", id}})));
     EXPECT_EQ(client.get("callBackPage").at("data").size(), 1u);
-}
-
-TEST_F(Trading, TheBooksOutliveARestart)
-{
-    const std::string stock = anyStock();
-    ASSERT_TRUE(
-        succeeded(order("Buy", stock, quote(stock).at("sellPankou").at(0).at("price"), 100, "123456")));
-    ASSERT_TRUE(succeeded(order("Buy", stock, quote(stock).at("lowerLimit"), 300)));
-    const std::vector<std::string> pages{"zorvanePage",   "holding",      "callBackPage",
-                                         "entrustsToday", "detailsToday", "msg/count"};
-    std::vector<Json> before;
-    for (const std::string &path : pages)
-        before.push_back(client.get(path).at("data"));
-    const std::string token = client.token;
-    running.restart();
-    client = running.client();
-    client.token = token;
-    for (std::size_t i = 0; i < pages.size(); ++i)
-        EXPECT_EQ(client.get(pages[i]).at("data"), before[i]) << pages[i];
 }
 
 } // namespace
