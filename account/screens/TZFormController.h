@@ -15,7 +15,8 @@ protected:
     bool isSending() const { return sending; }
     /// Counts as sending until `operation` has ended, whatever came of it.
     void waitFor(const Operation &operation);
-    /// Pushes `next` while this screen is on top: an answer that comes after the user went back leads nowhere.
+    /// Pushes `next` while this screen is on top: an answer that comes after the user went back leads
+    /// nowhere.
     void pushNext(std::unique_ptr<KRBaseController> next);
 
 private:

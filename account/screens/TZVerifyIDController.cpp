@@ -37,8 +37,8 @@ void TZVerifyIDController::nextBtnClick()
     const auto verified = [this, sent = number](const Operation &, const QVariantMap &) {
         openSetPassword(sent);
     };
-    waitFor(TZUserTool::updatePwdToVerifyIDWithParam({{idCardKey, number}}, Success{this, verified},
-                                                     Failure{}));
+    waitFor(
+        TZUserTool::updatePwdToVerifyIDWithParam({{idCardKey, number}}, Success{this, verified}, Failure{}));
 }
 
 void TZVerifyIDController::openSetPassword(const QString &verifiedNumber)

@@ -95,7 +95,7 @@ std::string movePrice(Service &service, const Call &call)
 {
     const Cents price =
         http::accepted(service.brokerage.movePrice(call.text("stockCode"), amount(call, "price")));
-    return "The price of " + call.text("stockCode") + " is " + yuanText(price) + ".";
+    return "The price of " + call.text("stockCode") + " is " + yuanText(price) + " as soon as it trades.";
 }
 
 std::string sealBoard(Service &service, const Call &call)
@@ -105,7 +105,7 @@ std::string sealBoard(Service &service, const Call &call)
                         : seal == "down" ? Brokerage::Seal::LimitDown
                                          : Brokerage::Seal::None;
     const Cents price = http::accepted(service.brokerage.sealBoard(call.text("stockCode"), wanted));
-    return "The price of " + call.text("stockCode") + " is " + yuanText(price) + ".";
+    return "The price of " + call.text("stockCode") + " is " + yuanText(price) + " as soon as it trades.";
 }
 
 std::string deposit(Service &service, const Call &call)

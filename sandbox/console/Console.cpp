@@ -224,7 +224,12 @@ Answer market(Service &service, const Call &call)
                      choice(
                          "Board", "seal",
                          {{"up", "Sealed at limit up"}, {"down", "Sealed at limit down"}, {"none", "Free"}}),
-                 "Set the board"));
+                 "Set the board") +
+            "<h2>Not simulated</h2><p class=\"hint\">Orders do not move the price. There are no dividends, "
+            "no new "
+            "listings, no Beijing exchange, no trading at the closing price after hours, no delayed quotes. "
+            "A "
+            "suspended company stays suspended.</p>");
 }
 
 Answer faults(Service &service, const Call &call)

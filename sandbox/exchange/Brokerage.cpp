@@ -126,9 +126,11 @@ struct Brokerage::Parts {
             return Refusal{Rule::UnknownStock, "证券代码不存在"};
         if (stock->suspended)
             return Refusal{Rule::Suspended, "该股票已停牌"};
-        const int day = market.calendar().dayOf(now);
-        const int moment = market.calendar().momentOf(day, now);
-        if (moment < 0 || market.calendar().phase(now) == Phase::Closed)
+        const Calendar &calendar = market.calendar();
+        const int day = calendar.dayOf(now);
+        // What was traded before a break or an auction keeps its price.
+        const int moment = calendar.momentOf(day, now) + (calendar.phase(now) == Phase::Continuous ? 0 : 1);
+        if (moment == calendar.momentCount())
             return Refusal{Rule::Session, "当前休市，价格不变"};
         const Cents shift =
             kind == PriceMove::Kind::Shift ? price - market.prices().unmovedPrice(*stock, day, moment) : 0;
@@ -138,7 +140,7 @@ struct Brokerage::Parts {
             market.prices().add(move);
             exchange.rematch(stockCode, now);
         });
-        return market.spot(*stock, now).price;
+        return market.prices().spotAt(*stock, day, moment).price;
     }
 
     Outcome<Order> find(UserId user, const std::string &number)

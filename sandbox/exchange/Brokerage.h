@@ -107,8 +107,8 @@ public:
     /** Book and latest price; nothing for an unknown code. */
     std::optional<Quote> quote(const std::string &stockCode);
     std::optional<StockDetail> stockDetail(const std::string &stockCode);
-    /** From now to the end of the day the price goes on from here, clamped to the day's limits. Answers the
-     * price it has. */
+    /** From now, or from the next trading moment in a break or an auction, to the end of the day the price
+     * goes on from here, clamped to the day's limits. Answers the price it then has. */
     Outcome<Cents> movePrice(const std::string &stockCode, Cents price);
     enum class Seal { LimitUp, LimitDown, None };
     /** Holds the price at a limit, with nothing displayed on the other side, to the end of the day; None lets

@@ -12,8 +12,9 @@ constexpr int triesOfIdentity = 5;
 
 Resets::Resets(const std::string &databasePath, RealNow now) : m_database(databasePath), m_now(std::move(now))
 {
-    m_database.execute("CREATE TABLE IF NOT EXISTS password_reset (token_hash TEXT PRIMARY KEY, "
-                       "step INTEGER NOT NULL, wrong_identities INTEGER NOT NULL, stepped_at INTEGER NOT NULL)");
+    m_database.execute(
+        "CREATE TABLE IF NOT EXISTS password_reset (token_hash TEXT PRIMARY KEY, "
+        "step INTEGER NOT NULL, wrong_identities INTEGER NOT NULL, stepped_at INTEGER NOT NULL)");
 }
 
 ResetStep Resets::step(const std::string &token)

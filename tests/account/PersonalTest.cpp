@@ -59,10 +59,7 @@ protected:
                               [this](const QVariant &) { observed.append(state()); });
     }
 
-    template <typename Screen> Screen *push()
-    {
-        return push(std::make_unique<Screen>());
-    }
+    template <typename Screen> Screen *push() { return push(std::make_unique<Screen>()); }
     template <typename Screen> Screen *push(std::unique_ptr<Screen> screen)
     {
         Screen *const pushed = screen.get();
@@ -163,7 +160,8 @@ TEST_F(PersonalTest, AForgottenPasswordIsResetFromThePersonalPage)
     EXPECT_EQ(http.pending(update).fields(), sent);
     observed.clear();
     http.answer(update, succeeded());
-    EXPECT_EQ(observed, QStringList(QStringLiteral("6"))) << "told while the stack still stands, no banner yet";
+    EXPECT_EQ(observed, QStringList(QStringLiteral("6")))
+        << "told while the stack still stands, no banner yet";
     EXPECT_EQ(stack->depth(), 1);
     runLoop.advance(500ms);
     EXPECT_EQ(banners(), QStringList(QStringLiteral("设置成功")));
@@ -185,8 +183,7 @@ TEST_F(PersonalTest, TheFirstPasswordIsSetInAStackOfItsOwn)
     EXPECT_EQ(ensure->title(), QStringLiteral("设置交易密码"));
     observed.clear();
     ensure->setInput(password);
-    EXPECT_EQ(http.pending(setPassword).fields(),
-              (QVariantMap{{QStringLiteral("password"), password}}));
+    EXPECT_EQ(http.pending(setPassword).fields(), (QVariantMap{{QStringLiteral("password"), password}}));
     http.answer(setPassword, succeeded());
     EXPECT_EQ(window.presented()->count(), 1);
     EXPECT_TRUE(observed.isEmpty());

@@ -75,7 +75,7 @@ class Day:
         self.rich = Trader(sandbox, token)
         sandbox.console("deposit", user=2, amount="20000000")
         held = {h["stockCode"][:2]: h["stockCode"] for h in sandbox.get("holding", self.demo.token)["data"]}
-        self.main, self.chinext, self.star = held["60"], held["30"], held["68"]
+        self.main, self.sealed, self.chinext, self.star = (held[board] for board in ("60", "00", "30", "68"))
 
     def find_trading_day(self):
         """Goes on to 9:10 of the next day that is neither in a weekend nor a holiday."""
@@ -125,6 +125,7 @@ class Day:
             assert self.price(stock, "lowerLimit") == half_up(close * (100 - percent), 100), stock
 
     def opening_auction(self):
+        self.sandbox.console("seal", stockCode=self.sealed, seal="up")
         self.at("9:15")
         lower, upper = self.price(self.main, "lowerLimit"), self.price(self.main, "upperLimit")
         modest = self.demo.place("Buy", self.main, lower, 100)
@@ -149,17 +150,23 @@ class Day:
             assert [(p, s) for p, s, _ in trader.deals(number)] == [(price, shares)], "one price, in full"
         assert self.demo.status(modest) == recompute.ACCEPTED
         self.modest = modest
+        quote = self.quote(self.sealed)
+        assert quote["match"] == quote["upperLimit"] and self.level(self.sealed, "sell") == (0, 0), "opens sealed"
 
     def before_continuous_trading(self):
         self.at("9:26")
         assert self.demo.cancel(self.modest)["success"]
         held = self.rich.place("Buy", self.main, self.level(self.main, "sell", 3)[0], 100)
+        price = self.price(self.star, "match")
+        self.sandbox.console("price", stockCode=self.star, price=yuan(price + 9))
         self.at("9:29:59")
+        assert self.price(self.star, "match") == price, "the auction's price stands until trading goes on"
         assert not self.demo.cancelled(self.modest), "taken, but not worked on before 9:30"
         assert self.rich.status(held) == recompute.HELD
         self.at("9:30")
         assert self.demo.cancelled(self.modest) and self.demo.status(self.modest) == recompute.CANCELLED
         assert self.rich.status(held) != recompute.HELD
+        assert self.price(self.star, "match") == price + 9
 
     def refusals(self):
         self.at("10:00")
