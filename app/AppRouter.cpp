@@ -103,7 +103,7 @@ void AppRouter::openRealTrading(KRBaseController &from)
     from.navigationController()->push(std::make_unique<TZRealTradingController>(*this));
 }
 
-void AppRouter::openStockCapital(KRBaseController &from)
+void AppRouter::openStockCapital(KRBaseController &from, const TZUserIndexModel &)
 {
     from.navigationController()->push(
         plainPage(QStringLiteral("我要配资"), QStringLiteral("在这里选择适合您的配资方案。")));

@@ -18,7 +18,7 @@ public:
     void setupSideMenuController() override;
 
     void openRealTrading(KRBaseController &from) override;
-    void openStockCapital(KRBaseController &from) override;
+    void openStockCapital(KRBaseController &from, const TZUserIndexModel &userIndexModel) override;
     void openMessages(KRBaseController &from) override;
     void openWeb(KRBaseController &from, const TZWebModel &model) override;
     void openRechargeGate(KRBaseController &from) override;

@@ -17,7 +17,7 @@ TextInputRow {
     onEdited: value => controller.textFiledEditChanged(value)
 
     SecondaryButton {
-        width: 112
+        width: Math.max(112, implicitWidth)
         small: true
         deep: true
         text: row.controller.smsCell.title

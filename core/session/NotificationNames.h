@@ -9,4 +9,6 @@ inline const QString refreshAccount = QStringLiteral("refreshAccount");
 inline const QString reachabilityChanged = QStringLiteral("kNetworkReachabilityChangedNotification");
 inline const QString remoteMsg = QStringLiteral("remote_msg");
 inline const QString remoteStock = QStringLiteral("remote_stock");
+/// DisplaySettings has changed.
+inline const QString displayChanged = QStringLiteral("displayChanged");
 } // namespace NotificationNames

@@ -32,7 +32,8 @@ public:
     virtual void setupSideMenuController() = 0;
 
     virtual void openRealTrading(KRBaseController &from) = 0;
-    virtual void openStockCapital(KRBaseController &from) = 0;
+    /// The financing offers, told the state of the account; empty where it is not known.
+    virtual void openStockCapital(KRBaseController &from, const TZUserIndexModel &userIndexModel) = 0;
     virtual void openMessages(KRBaseController &from) = 0;
     virtual void openWeb(KRBaseController &from, const TZWebModel &model) = 0;
     /// Reads the recharge information and opens the first unfinished step of the account, or the recharge

@@ -2,6 +2,7 @@
 
 #include "core/util/Service.h"
 #include "core/util/Text.h"
+#include "home/screens/AmountsSwitch.h"
 
 namespace {
 int trendOf(double figure)
@@ -15,12 +16,14 @@ QString filled(const QString &format, const QString &value)
 }
 } // namespace
 
-void TZHomeHeaderView::setModels(const TZUserIndexModel &index, const TZUserIndexAssetModel &asset)
+void TZHomeHeaderView::setModels(const TZUserIndexModel &index, const TZUserIndexAssetModel &asset,
+                                 const AmountsSwitch &amounts)
 {
-    totalAsset = labelAmount(asset.totalAsset);
-    profitTrend = trendOf(doubleValue(asset.profitMoney));
-    profit = (profitTrend > 0 ? QStringLiteral("+") : QString()) + asset.profitMoney;
-    midProfit = filled(QStringLiteral("%1元"), asset.profitMoney);
+    const int sign = trendOf(doubleValue(asset.profitMoney));
+    totalAsset = amounts.shown(labelAmount(asset.totalAsset));
+    profitTrend = amounts.isHidden() ? 0 : sign;
+    profit = amounts.shown((sign > 0 ? QStringLiteral("+") : QString()) + asset.profitMoney);
+    midProfit = amounts.shown(filled(QStringLiteral("%1元"), asset.profitMoney));
     midRate = filled(QStringLiteral("%1%"), asset.profitRate);
     setRate(asset.profitRate);
     setStatus(index.userAccountStatus);

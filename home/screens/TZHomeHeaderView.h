@@ -3,6 +3,8 @@
 #include "core/util/Amount.h"
 #include "home/api/TZUserIndexModel.h"
 
+class AmountsSwitch;
+
 /// The asset summary of a signed-in user, as its view draws it.
 class TZHomeHeaderView {
     Q_GADGET
@@ -23,7 +25,9 @@ class TZHomeHeaderView {
     Q_PROPERTY(QString midProfit MEMBER midProfit)
     Q_PROPERTY(QString midRate MEMBER midRate)
 public:
-    void setModels(const TZUserIndexModel &index, const TZUserIndexAssetModel &asset);
+    /// The rates are shown also while the amounts are hidden.
+    void setModels(const TZUserIndexModel &index, const TZUserIndexAssetModel &asset,
+                   const AmountsSwitch &amounts);
 
     UnitText assetTitle = setAttributeWithText(QStringLiteral("总资产（元）"));
     QString totalAsset;

@@ -40,6 +40,7 @@ void TZHomeViewController::viewDidLoad()
     showMessageButton(noMessage);
     Platform::current().notifications.observe(this, NotificationNames::refreshHome,
                                               [this](const QVariant &) { refreshHomeData(); });
+    connect(&amountsSwitch, &AmountsSwitch::changed, this, &TZHomeViewController::showHeader);
 }
 
 void TZHomeViewController::viewWillAppear()
@@ -142,9 +143,17 @@ void TZHomeViewController::showHome(const QVariantMap &answer)
     const QVariantMap data = answer.value(dataKey).toMap();
     userIndexModel = fromDictionary<TZUserIndexModel>(data);
     userIndexAssetModel = fromDictionary<TZUserIndexAssetModel>(data.value(QStringLiteral("asset")));
-    loginView.setModels(userIndexModel, userIndexAssetModel);
-    Q_EMIT headerChanged();
+    assetKnown = true;
+    showHeader();
     endRefreshing();
+}
+
+void TZHomeViewController::showHeader()
+{
+    if (!assetKnown)
+        return;
+    loginView.setModels(userIndexModel, userIndexAssetModel, amountsSwitch);
+    Q_EMIT headerChanged();
 }
 
 void TZHomeViewController::showOverview(const QVariantMap &answer)
@@ -211,7 +220,7 @@ void TZHomeViewController::whenSignedIn(std::function<void()> action)
 
 void TZHomeViewController::toStockCapitalController()
 {
-    router.openStockCapital(*this);
+    router.openStockCapital(*this, userIndexModel);
 }
 
 void TZHomeViewController::toRealTradingController()

@@ -7,6 +7,7 @@
 #include "core/util/RowListModel.h"
 #include "home/api/TZLoanOverviewModel.h"
 #include "home/api/TZUserIndexModel.h"
+#include "home/screens/AmountsSwitch.h"
 #include "home/screens/TZBoardcastCell.h"
 #include "home/screens/TZHomeHeaderView.h"
 
@@ -21,6 +22,7 @@ class TZHomeViewController : public TZBaseTableViewController {
     Q_PROPERTY(UnitText overviewTitle READ overviewTitle NOTIFY overviewChanged)
     Q_PROPERTY(QString overviewAmount READ overviewAmount NOTIFY overviewChanged)
     Q_PROPERTY(TZHomeHeaderView header READ header NOTIFY headerChanged)
+    Q_PROPERTY(AmountsSwitch *amounts READ amounts CONSTANT)
     Q_PROPERTY(QString custodyText READ custodyText CONSTANT)
     /// Rows of TZBoardcastCell, and the one the ticker stands at, -1 before the first.
     Q_PROPERTY(GadgetListModel *boardcastArr READ boardcastArr CONSTANT)
@@ -35,6 +37,7 @@ public:
     UnitText overviewTitle() const;
     QString overviewAmount() const;
     TZHomeHeaderView header() const { return loginView; }
+    AmountsSwitch *amounts() { return &amountsSwitch; }
     QString custodyText() const { return QStringLiteral("账户托管至新浪支付"); }
     RowListModel<TZBoardcastCell> *boardcastArr() { return &boardcasts; }
     int selectedBoardcast() const { return selected; }
@@ -67,6 +70,7 @@ protected:
 private:
     void setFace(Face face);
     void showHome(const QVariantMap &answer);
+    void showHeader();
     void showOverview(const QVariantMap &answer);
     void beginBroadcast();
     void stopBroadcast();
@@ -84,6 +88,7 @@ private:
     TZUserIndexAssetModel userIndexAssetModel;
     TZLoanOverviewModel loanOverviewModel;
     TZHomeHeaderView loginView;
+    AmountsSwitch amountsSwitch;
     RowListModel<TZBoardcastCell> boardcasts;
     Timer boardcastTimer;
     int boardcastNum = 0;
@@ -91,5 +96,6 @@ private:
     bool broadcastDue = true;
     bool appeared = false;
     bool overviewKnown = false;
+    bool assetKnown = false;
     Face shownFace = Face::None;
 };

@@ -59,6 +59,33 @@ void TZMoreViewController::didSelectRow(int row)
     }
 }
 
+void TZMoreViewController::setPalette(int palette)
+{
+    DisplaySettings display = DisplaySettings::stored();
+    display.palette = static_cast<DisplaySettings::Palette>(palette);
+    store(display);
+}
+
+void TZMoreViewController::setTrendColours(int trendColours)
+{
+    DisplaySettings display = DisplaySettings::stored();
+    display.trendColours = static_cast<DisplaySettings::TrendColours>(trendColours);
+    store(display);
+}
+
+void TZMoreViewController::setTextSize(int textSize)
+{
+    DisplaySettings display = DisplaySettings::stored();
+    display.textSize = static_cast<DisplaySettings::TextSize>(textSize);
+    store(display);
+}
+
+void TZMoreViewController::store(const DisplaySettings &display)
+{
+    display.store();
+    Q_EMIT displayChanged();
+}
+
 void TZMoreViewController::clickLogoutBtn()
 {
     showAlert(AlertTag::Logout, {QStringLiteral("提示"), QStringLiteral("确定要退出当前账号？"),
@@ -84,7 +111,10 @@ void TZMoreViewController::alertConfirmed(AlertTag tag)
 
 void TZMoreViewController::logout()
 {
+    const DisplaySettings display = DisplaySettings::stored();
     Service::logout();
+    // How the device shows the client is nothing of the user's.
+    display.store();
     setupSideMenuController();
 }
 

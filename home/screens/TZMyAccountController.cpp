@@ -11,7 +11,6 @@
 #include "core/shell/TZInfoAlertView.h"
 #include "core/util/Text.h"
 #include "home/api/TZHomeTool.h"
-#include "home/api/TZUserIndexModel.h"
 #include "home/screens/TZMoreViewController.h"
 
 using namespace std::chrono_literals;
@@ -34,7 +33,8 @@ void TZMyAccountController::viewDidLoad()
     changeGrayBgColor();
     setTitle(QStringLiteral("我的账户"));
     createNavLeftItemWithTitle({}, QStringLiteral("home_left"), {}, QStringLiteral("icon_more"));
-    showAssets({});
+    showAssets();
+    connect(&amountsSwitch, &AmountsSwitch::changed, this, &TZMyAccountController::showAssets);
     Platform::current().notifications.observe(this, NotificationNames::refreshAccount,
                                               [this](const QVariant &) { getHomeDataWithRequest(); });
 }
@@ -52,7 +52,9 @@ void TZMyAccountController::getHomeDataWithRequest()
         {},
         Success{this,
                 [this](const Operation &, const QVariantMap &answer) {
-                    showAssets(answer.value(QStringLiteral("data")).toMap().value(QStringLiteral("asset")));
+                    assetModel = fromDictionary<TZUserIndexAssetModel>(
+                        answer.value(QStringLiteral("data")).toMap().value(QStringLiteral("asset")));
+                    showAssets();
                 }},
         Failure{});
     if (!operation)
@@ -102,11 +104,11 @@ void TZMyAccountController::seeFundRecords()
     router.openFundRecords(*this);
 }
 
-void TZMyAccountController::showAssets(const QVariant &asset)
+void TZMyAccountController::showAssets()
 {
-    const auto model = fromDictionary<TZUserIndexAssetModel>(asset);
-    rows.setRows({{QStringLiteral("可用余额"), model.availableMoney, true},
-                  {QStringLiteral("  冻结资金"), model.frozenMoney, false},
-                  {QStringLiteral(" 借款总额"), model.borrowMoney, false},
-                  {QStringLiteral("持仓市值"), model.stockValue, false}});
+    const auto value = [this](const QString &amount) { return amountsSwitch.shown(amount); };
+    rows.setRows({{QStringLiteral("可用余额"), value(assetModel.availableMoney), true},
+                  {QStringLiteral("  冻结资金"), value(assetModel.frozenMoney), false},
+                  {QStringLiteral(" 借款总额"), value(assetModel.borrowMoney), false},
+                  {QStringLiteral("持仓市值"), value(assetModel.stockValue), false}});
 }

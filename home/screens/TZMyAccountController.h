@@ -3,10 +3,12 @@
 #include "core/shell/Router.h"
 #include "core/shell/TZBaseTableViewController.h"
 #include "core/util/RowListModel.h"
+#include "home/api/TZUserIndexModel.h"
+#include "home/screens/AmountsSwitch.h"
 
 #include <QVariantMap>
 
-/// A row of my account: what it is, and the figure as the service sends it.
+/// A row of my account: what it is, and the figure as the service sends it unless amounts are hidden.
 struct AccountRow {
     Q_GADGET
     Q_PROPERTY(QString title MEMBER title)
@@ -25,6 +27,8 @@ class TZMyAccountController : public TZBaseTableViewController {
     Q_PROPERTY(QString cell READ cell NOTIFY accountChanged)
     /// Rows of AccountRow.
     Q_PROPERTY(GadgetListModel *assetRows READ assetRows CONSTANT)
+    Q_PROPERTY(QString assetsTitle READ assetsTitle CONSTANT)
+    Q_PROPERTY(AmountsSwitch *amounts READ amounts CONSTANT)
     Q_PROPERTY(QString recordsTitle READ recordsTitle CONSTANT)
     Q_PROPERTY(QString withdrawalsTitle READ withdrawalsTitle CONSTANT)
     Q_PROPERTY(QString rechargeTitle READ rechargeTitle CONSTANT)
@@ -34,6 +38,8 @@ public:
     QString nick() const;
     QString cell() const;
     RowListModel<AccountRow> *assetRows() { return &rows; }
+    QString assetsTitle() const { return QStringLiteral("账户资产"); }
+    AmountsSwitch *amounts() { return &amountsSwitch; }
     QString recordsTitle() const { return QStringLiteral("充值提现记录"); }
     QString withdrawalsTitle() const { return QStringLiteral(" 提现"); }
     QString rechargeTitle() const { return QStringLiteral(" 充值"); }
@@ -57,8 +63,10 @@ protected:
     void refreshData() override { getHomeDataWithRequest(); }
 
 private:
-    void showAssets(const QVariant &asset);
+    void showAssets();
 
     Router &router;
+    TZUserIndexAssetModel assetModel;
+    AmountsSwitch amountsSwitch;
     RowListModel<AccountRow> rows;
 };

@@ -10,7 +10,7 @@ Tappable {
 
     deep: true
     ringInset: 2
-    implicitHeight: 96
+    implicitHeight: Theme.scaled(96)
     text: nick + " " + cell
     background: Rectangle {
         color: title.pressed ? title.tones.surfacePressed : title.tones.page

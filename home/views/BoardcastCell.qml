@@ -6,7 +6,11 @@ Item {
     id: cell
 
     required property string text
+    readonly property real above: ListView.view.contentY
+    readonly property real below: above + ListView.view.height
 
+    // Rows that are clipped away are not spoken either.
+    visible: y + height > above && y < below
     Accessible.role: Accessible.ListItem
     Accessible.name: text
 

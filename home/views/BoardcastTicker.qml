@@ -9,7 +9,7 @@ Rectangle {
 
     property alias model: list.model
     property alias currentIndex: list.currentIndex
-    readonly property int rowHeight: 44
+    readonly property int rowHeight: Theme.scaled(44)
 
     implicitHeight: 5 * rowHeight + 2 * Theme.spacingSmall
     opacity: list.count > 0 ? 1 : 0

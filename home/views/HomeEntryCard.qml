@@ -10,7 +10,7 @@ Tappable {
 
     deep: true
     ringRadius: Theme.radiusLarge
-    implicitHeight: 132
+    implicitHeight: Theme.scaled(132)
     Accessible.name: text + " " + caption
     background: Rectangle {
         radius: Theme.radiusLarge

@@ -8,6 +8,8 @@ Item {
     required property string picture
     required property unitText title
     property string amount
+    /// Stands beside the title.
+    property alias titleButton: buttonSlot.data
     default property alias details: column.data
 
     implicitHeight: column.height + 2 * Theme.spacingHuge
@@ -26,10 +28,20 @@ Item {
         y: Math.max(Theme.spacingHuge, Math.round((parent.height - height) * 0.38))
         spacing: Theme.spacingSmall
 
-        UnitText {
-            anchors.horizontalCenter: parent.horizontalCenter
-            value: hero.title
-            color: Theme.deep.textSecondary
+        Item {
+            width: parent.width
+            height: Math.max(title.height, buttonSlot.childrenRect.height)
+
+            UnitText {
+                id: title
+                anchors.centerIn: parent
+                value: hero.title
+                color: Theme.deep.textSecondary
+            }
+            Item {
+                id: buttonSlot
+                anchors { left: title.right; top: parent.top }
+            }
         }
         AmountText {
             width: parent.width

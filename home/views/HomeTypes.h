@@ -1,5 +1,6 @@
 #pragma once
 
+#include "home/screens/AmountsSwitch.h"
 #include "home/screens/TZHomeHeaderView.h"
 #include "home/screens/TZHomeViewController.h"
 #include "home/screens/TZMessageDetailController.h"
@@ -8,6 +9,10 @@
 #include "ui/ViewType.h"
 
 // The classes that this area's views know.
+struct AmountsSwitchForViews {
+    Q_GADGET
+    ZV_VIEW_TYPE(AmountsSwitch)
+};
 struct TZHomeHeaderViewForViews {
     Q_GADGET
     QML_FOREIGN(TZHomeHeaderView)

@@ -17,45 +17,50 @@ Item {
         picture: "home_glow"
         title: cell.header.assetTitle
         amount: cell.header.totalAsset
+        titleButton: IconButton {
+            deep: true
+            image: cell.home.amounts.hidden ? "eye_closed_deep" : "eye_open_deep"
+            text: cell.home.amounts.title
+            onClicked: cell.home.amounts.toggle()
+        }
 
-        Row {
+        Rectangle {
             anchors.horizontalCenter: parent.horizontalCenter
-            height: Theme.touchTarget
-            spacing: Theme.spacing
+            width: Math.min(profitLine.implicitWidth + 2 * Theme.spacingLarge, parent.width)
+            height: Math.max(profitLine.height + Theme.spacingSmall, Theme.scaled(36))
+            radius: height / 2
+            color: Theme.deep.surface
 
             Row {
-                anchors.verticalCenter: parent.verticalCenter
-                Accessible.role: Accessible.StaticText
-                Accessible.name: prefix.text + profit.text
+                id: profitLine
+                anchors.centerIn: parent
+                spacing: Theme.spacing
 
-                Text {
-                    id: prefix
-                    text: cell.header.profitPrefix
-                    font: Theme.body
-                    color: Theme.profitLabel
-                    Accessible.ignored: true
-                }
-                AmountText {
-                    id: profit
-                    width: Math.min(implicitWidth, cell.width / 2)
-                    deep: true
-                    trend: cell.header.profitTrend
-                    text: cell.header.profit
-                    font: Theme.bodyBold
-                    Accessible.ignored: true
-                }
-            }
-            Rectangle {
-                anchors.verticalCenter: parent.verticalCenter
-                width: rate.implicitWidth + 2 * Theme.spacing
-                height: rate.implicitHeight + Theme.spacingSmall
-                visible: rate.text !== ""
-                radius: height / 2
-                color: Theme.deep.surface
+                Row {
+                    anchors.verticalCenter: parent.verticalCenter
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: prefix.text + profit.text
 
+                    Text {
+                        id: prefix
+                        text: cell.header.profitPrefix
+                        font: Theme.body
+                        color: Theme.profitLabel
+                        Accessible.ignored: true
+                    }
+                    AmountText {
+                        id: profit
+                        width: Math.min(implicitWidth, cell.width / 2)
+                        deep: true
+                        trend: cell.header.profitTrend
+                        text: cell.header.profit
+                        font: Theme.bodyBold
+                        Accessible.ignored: true
+                    }
+                }
                 Text {
-                    id: rate
-                    anchors.centerIn: parent
+                    anchors.verticalCenter: parent.verticalCenter
+                    visible: text !== ""
                     text: cell.header.rate
                     font: Theme.bodyBold
                     color: Theme.trend(cell.header.rateTrend, true)

@@ -27,7 +27,7 @@ Tappable {
         Text {
             anchors.verticalCenter: parent.verticalCenter
             text: badge.text
-            font: Theme.label
+            font: Theme.badge
             color: Theme.textOnAccent
             Accessible.ignored: true
         }

@@ -97,7 +97,8 @@ PageFrame {
         }
         PrimaryButton {
             width: shareButton.visible ? shareButton.width : buttons.width
-            fill: Theme.rise
+            fill: Theme.toHome
+            font: Theme.badge
             text: page.message.homeTitle
             onClicked: page.message.backToHome()
         }

@@ -26,14 +26,43 @@ PageFrame {
             picture: image
             onClicked: page.more.didSelectRow(index)
         }
-        footerContent: Item {
-            height: Theme.buttonHeight + 2 * Theme.spacingHuge
-
+        footerContent: Column {
+            SectionHeader {
+                text: page.more.displayTitle
+            }
+            ChoiceRow {
+                title: page.more.paletteTitle
+                choices: page.more.palettes
+                chosen: page.more.palette
+                onPicked: index => page.more.palette = index
+            }
+            ChoiceRow {
+                title: page.more.trendColoursTitle
+                choices: page.more.trendColourPairs
+                chosen: page.more.trendColours
+                onPicked: index => page.more.trendColours = index
+            }
+            ChoiceRow {
+                title: page.more.textSizeTitle
+                choices: page.more.textSizes
+                chosen: page.more.textSize
+                line: false
+                onPicked: index => page.more.textSize = index
+            }
+            Item {
+                width: 1
+                height: Theme.spacingHuge
+            }
             PrimaryButton {
-                anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter; margins: Theme.margin }
-                fill: Theme.rise
+                x: Theme.margin
+                width: parent.width - 2 * Theme.margin
+                fill: Theme.leave
                 text: page.more.logoutTitle
                 onClicked: page.more.clickLogoutBtn()
+            }
+            Item {
+                width: 1
+                height: Theme.spacingHuge
             }
         }
     }

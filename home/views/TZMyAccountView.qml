@@ -23,9 +23,16 @@ PageFrame {
                 cell: page.account.cell
                 onClicked: page.account.seePersonalInfo()
             }
-            Item {
-                width: 1
-                height: Theme.spacing
+            SectionHeader {
+                implicitHeight: Theme.touchTarget
+                text: page.account.assetsTitle
+
+                IconButton {
+                    anchors { right: parent.right; rightMargin: Theme.spacingTiny; verticalCenter: parent.verticalCenter }
+                    image: page.account.amounts.hidden ? "eye_closed" : "eye_open"
+                    text: page.account.amounts.title
+                    onClicked: page.account.amounts.toggle()
+                }
             }
         }
         delegate: AccountAssetRow {

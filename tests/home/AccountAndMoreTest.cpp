@@ -60,6 +60,47 @@ TEST_F(AccountTest, ItShowsTheFiguresAsTheServiceWritesThemAndReadsThemAgainWhen
     EXPECT_EQ(values().constFirst(), QStringLiteral("可用余额1000.5"));
 }
 
+TEST_F(AccountTest, HiddenAmountsAreHiddenOnEveryScreenAndAfterAStart)
+{
+    account->amounts()->toggle();
+    http.answer(QStringLiteral("userIndex"),
+                succeeded(QVariantMap{{"asset", QVariantMap{{"availableMoney", "1000.5"}}}}));
+    EXPECT_EQ(values().constFirst(), QStringLiteral("可用余额****"));
+    AmountsSwitch another;
+    EXPECT_TRUE(another.isHidden());
+    another.toggle();
+    EXPECT_EQ(values().constFirst(), QStringLiteral("可用余额1000.5"));
+}
+
+TEST_F(AccountTest, HowTheClientLooksIsKeptBeyondTheUser)
+{
+    TZMoreViewController *const screen = more();
+    EXPECT_EQ(screen->palettes().at(screen->palette()), QStringLiteral("跟随系统"));
+    EXPECT_EQ(screen->trendColourPairs().at(screen->trendColours()), QStringLiteral("红涨绿跌"));
+    EXPECT_EQ(screen->textSizes().at(screen->textSize()), QStringLiteral("标准"));
+    screen->setPalette(2);
+    screen->setTrendColours(1);
+    screen->setTextSize(1);
+    EXPECT_EQ(DisplaySettings::stored().palette, DisplaySettings::Palette::Dark);
+    screen->clickLogoutBtn();
+    alert()->rightBtnClick();
+    EXPECT_FALSE(settings.values.contains(SettingsKeys::user));
+    EXPECT_EQ(DisplaySettings::stored().palette, DisplaySettings::Palette::Dark);
+    EXPECT_EQ(DisplaySettings::stored().trendColours, DisplaySettings::TrendColours::GreenRises);
+    EXPECT_EQ(DisplaySettings::stored().textSize, DisplaySettings::TextSize::Large);
+}
+
+TEST_F(AccountTest, GarbledDisplaySettingsAreTheStandard)
+{
+    for (const QVariant &garbage :
+         {QVariant(7), QVariant(QVariantMap{{"palette", 9}, {"trendColours", -1}, {"textSize", "x"}})}) {
+        settings.setValue(QStringLiteral("display"), garbage);
+        EXPECT_EQ(DisplaySettings::stored().palette, DisplaySettings::Palette::System);
+        EXPECT_EQ(DisplaySettings::stored().trendColours, DisplaySettings::TrendColours::RedRises);
+        EXPECT_EQ(DisplaySettings::stored().textSize, DisplaySettings::TextSize::Standard);
+    }
+}
+
 TEST_F(AccountTest, TheAvailableBalanceExplainsItself)
 {
     account->clickAvailableBtn();

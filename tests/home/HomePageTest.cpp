@@ -126,6 +126,7 @@ TEST_F(HomePageTest, TheTickerRunsOnlyWhileThePageIsSeenAndReadsAfreshOnReturn)
     cover->dismiss();
     http.answer(loanOverview, overview());
     EXPECT_EQ(http.countOf(recentLoans), 2);
+    http.answer(recentLoans, loans(5));
     EXPECT_EQ(runLoop.activeTimers(), 1);
     home->refreshHomeData();
     http.answer(loanOverview, overview());
@@ -182,7 +183,8 @@ TEST_F(HomePageTest, RatesAreSignedByTheFigureThatIsShown)
     };
     for (const auto &[rate, shown, trend] : cases) {
         TZHomeHeaderView header;
-        header.setModels({}, fromDictionary<TZUserIndexAssetModel>(QVariantMap{{"profitRate", rate}}));
+        header.setModels({}, fromDictionary<TZUserIndexAssetModel>(QVariantMap{{"profitRate", rate}}),
+                         AmountsSwitch());
         EXPECT_EQ(header.rate, shown) << rate.toStdString();
         EXPECT_EQ(header.rateTrend, trend) << rate.toStdString();
     }
@@ -196,10 +198,33 @@ TEST_F(HomePageTest, TheProfitCarriesAPlusOnlyAboveZero)
     } cases[] = {{"0.01", "+0.01"}, {"0", "0"}, {"-3.20", "-3.20"}, {"", ""}};
     for (const auto &[money, shown] : cases) {
         TZHomeHeaderView header;
-        header.setModels({}, fromDictionary<TZUserIndexAssetModel>(QVariantMap{{"profitMoney", money}}));
+        header.setModels({}, fromDictionary<TZUserIndexAssetModel>(QVariantMap{{"profitMoney", money}}),
+                         AmountsSwitch());
         EXPECT_EQ(header.profit, shown);
         EXPECT_EQ(header.midProfit, money + QStringLiteral("元"));
     }
+}
+
+TEST_F(HomePageTest, TheAmountsHideAndComeBackAtOnceButTheRatesStay)
+{
+    signIn();
+    show();
+    http.answer(userIndex, assets(QStringLiteral("0"), QStringLiteral("88.50"), QStringLiteral("1.234")));
+    const auto texts = [this] {
+        const TZHomeHeaderView header = home->header();
+        return QStringList{header.totalAsset, header.profit, header.midProfit, header.rate, header.midRate};
+    };
+    const QStringList shown = texts();
+    const QString hidden = QStringLiteral("****");
+    home->amounts()->toggle();
+    EXPECT_EQ(texts(), (QStringList{hidden, hidden, hidden, shown.at(3), shown.at(4)}));
+    EXPECT_EQ(home->header().profitTrend, 0) << "nor does the colour tell a gain";
+    EXPECT_EQ(home->amounts()->title(), QStringLiteral("显示金额"));
+    home->refreshHomeData();
+    http.answer(userIndex, assets(QStringLiteral("0"), QStringLiteral("99.50"), QStringLiteral("1.234")));
+    EXPECT_EQ(texts().constFirst(), hidden);
+    home->amounts()->toggle();
+    EXPECT_EQ(home->header().profit, QStringLiteral("+99.50"));
 }
 
 TEST_F(HomePageTest, TheBadgeFollowsTheStateOfTheAccountAndIgnoresUnknownOnes)
@@ -212,7 +237,7 @@ TEST_F(HomePageTest, TheBadgeFollowsTheStateOfTheAccountAndIgnoresUnknownOnes)
                  {"3", "  风险", true},  {"-1", "  风险", true}, {"0", "", true}};
     TZHomeHeaderView header;
     for (const auto &[status, title, atRisk] : cases) {
-        header.setModels({status}, {});
+        header.setModels({status}, {}, AmountsSwitch());
         EXPECT_EQ(header.statusTitle, title) << status.toStdString();
         if (!title.isEmpty()) {
             EXPECT_EQ(header.atRisk, atRisk) << status.toStdString();

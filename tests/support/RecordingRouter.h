@@ -19,7 +19,10 @@ public:
     void showCommissions(KRBaseController &) override { calls.append(QStringLiteral("showCommissions")); }
     void setupSideMenuController() override { calls.append(QStringLiteral("setupSideMenuController")); }
     void openRealTrading(KRBaseController &) override { calls.append(QStringLiteral("openRealTrading")); }
-    void openStockCapital(KRBaseController &) override { calls.append(QStringLiteral("openStockCapital")); }
+    void openStockCapital(KRBaseController &, const TZUserIndexModel &) override
+    {
+        calls.append(QStringLiteral("openStockCapital"));
+    }
     void openMessages(KRBaseController &) override { calls.append(QStringLiteral("openMessages")); }
     void openWeb(KRBaseController &, const TZWebModel &model) override
     {

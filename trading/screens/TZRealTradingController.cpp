@@ -9,6 +9,7 @@
 #include "core/util/Amount.h"
 #include "core/util/Service.h"
 #include "core/util/Text.h"
+#include "home/api/TZUserIndexModel.h"
 #include "trading/api/TZTradeTool.h"
 #include "trading/screens/TZBuyAndSellController.h"
 #include "trading/screens/TZChooseSellStockController.h"
@@ -147,7 +148,7 @@ void TZRealTradingController::goToStockCapital()
     stack->setProperty("animated", false);
     stack->pop();
     stack->setProperty("animated", animated);
-    router.openStockCapital(*stack->root());
+    router.openStockCapital(*stack->root(), {});
 }
 
 void TZRealTradingController::selectHolding(int row)

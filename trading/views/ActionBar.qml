@@ -24,7 +24,7 @@ Row {
             required property string image
 
             width: bar.width / 4
-            height: 76
+            height: Theme.scaled(76)
             deep: true
             ringInset: 4
             text: title

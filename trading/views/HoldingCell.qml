@@ -20,7 +20,7 @@ Tappable {
     required property string sentence
     readonly property real columnWidth: (width - 2 * Theme.margin) / 4
 
-    implicitHeight: 64
+    implicitHeight: Theme.scaled(64)
     deep: true
     ringInset: 2
     text: sentence

@@ -10,7 +10,7 @@ Row {
     readonly property list<string> titles: ["名称", "成本/现价", "持仓/可用", "盈亏"]
 
     width: parent ? parent.width : 0
-    height: 32
+    height: Theme.scaled(32)
     leftPadding: Theme.margin
     rightPadding: Theme.margin
 

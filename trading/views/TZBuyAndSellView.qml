@@ -153,7 +153,7 @@ PageFrame {
                 handicapView: page.screen.sellHandicapView
                 buySide: false
                 name: "卖盘"
-                rowHeight: Math.max(30, page.levelHeight)
+                rowHeight: Math.max(Theme.scaled(30), page.levelHeight)
                 opacity: page.quoteOpacity
             }
             Hairline {
@@ -165,7 +165,7 @@ PageFrame {
                 handicapView: page.screen.buyHandicapView
                 buySide: true
                 name: "买盘"
-                rowHeight: Math.max(30, page.levelHeight)
+                rowHeight: Math.max(Theme.scaled(30), page.levelHeight)
                 opacity: page.quoteOpacity
             }
         }

@@ -17,7 +17,7 @@ Tappable {
     required property bool waiting
     required property string sentence
 
-    implicitHeight: 68
+    implicitHeight: Theme.scaled(68)
     deep: true
     ringInset: 2
     text: sentence

@@ -17,7 +17,7 @@ Item {
 
     signal cancelled
 
-    implicitHeight: 76
+    implicitHeight: Theme.scaled(76)
     Accessible.role: Accessible.ListItem
     Accessible.name: sentence
 
