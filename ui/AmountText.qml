@@ -9,7 +9,7 @@ Text {
     font: Theme.amount
     color: Theme.trend(trend, deep)
     fontSizeMode: Text.HorizontalFit
-    minimumPixelSize: 11
+    minimumPixelSize: Theme.smallestText
     Accessible.role: Accessible.StaticText
     Accessible.name: text
 }

@@ -33,7 +33,7 @@ Rectangle {
         text: banner.content
         font: Theme.body
         fontSizeMode: Text.Fit
-        minimumPixelSize: 11
+        minimumPixelSize: Theme.smallestText
         height: parent.height
         color: Theme.textOnAccent
         verticalAlignment: Text.AlignVCenter

@@ -15,7 +15,7 @@ Tappable {
     contentItem: Text {
         text: control.text
         font: control.strong ? Theme.title : Theme.body
-        color: control.strong ? Theme.accent : Theme.textSecondary
+        color: control.strong ? control.tones.accent : Theme.textSecondary
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight

@@ -22,7 +22,7 @@ FocusScope {
     }
 
     implicitWidth: Math.min(6 * 48, parent ? parent.width : 6 * 48)
-    implicitHeight: 48
+    implicitHeight: Theme.buttonHeight
     onTextChanged: showText()
     // The row speaks for its field: Qt gives a password field no name, and a field that is none would speak its text.
     Accessible.role: Accessible.EditableText
@@ -49,7 +49,7 @@ FocusScope {
         radius: Theme.radius
         color: row.tones.surface
         border.width: field.activeFocus ? Theme.focusRingWidth : Theme.hairlineWidth
-        border.color: field.activeFocus ? Theme.focusRing : row.tones.hairline
+        border.color: field.activeFocus ? row.tones.focusRing : row.tones.hairline
     }
     Repeater {
         model: 6

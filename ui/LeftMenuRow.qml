@@ -8,7 +8,7 @@ Tappable {
     required property string bottomLabel
     required property string iconView
 
-    implicitHeight: 72
+    implicitHeight: Theme.scaled(72)
     deep: true
     ringInset: 4
     text: topLabel

@@ -32,13 +32,13 @@ Item {
             width: parent.width
             text: panel.hint
             font: Theme.label
-            color: Theme.link
+            color: Theme.reloadHint
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
         }
         SecondaryButton {
             anchors.horizontalCenter: parent.horizontalCenter
-            width: 144
+            width: Math.max(144, implicitWidth)
             deep: panel.deep
             text: "重新加载"
             onClicked: panel.noNet.clickReloadBtn()

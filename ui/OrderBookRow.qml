@@ -13,7 +13,7 @@ Tappable {
     property bool buySide: true
 
     implicitWidth: parent ? parent.width : 0
-    implicitHeight: 32
+    implicitHeight: Theme.scaled(32)
     ringInset: 1
     deep: true
     text: title + " " + price + " " + volume

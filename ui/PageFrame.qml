@@ -22,23 +22,45 @@ FocusScope {
     Keys.onEscapePressed: event => event.accepted = page.goBack()
     Keys.onBackPressed: event => event.accepted = page.goBack()
 
+    readonly property bool leftLeads: leaves(controller.leftItemImage) || controller.leftItemTitle !== ""
+    /// Whether there is a way back that is open now.
+    readonly property bool canGoBack: (controller.showBackButton || leftLeads || leaves(controller.rightItemImage))
+                                      && controller.canBeLeft
+
     function leaves(image: string): bool {
         return image === "common_back_gray" || image === "common_close_gray"
     }
 
-    /// Whether there is a way back.
+    /// Says whether it went.
     function goBack(): bool {
+        if (!canGoBack)
+            return false
         if (controller.showBackButton)
             controller.backButtonClicked()
-        else if (leaves(controller.leftItemImage) || controller.leftItemTitle !== "")
+        else if (leftLeads)
             controller.leftItemClick()
-        else if (leaves(controller.rightItemImage))
-            controller.rightItemClick()
         else
-            return false
+            controller.rightItemClick()
         return true
     }
 
+    /// Takes the keyboard from the field in `area` that has it, or will have it when the page is in front again.
+    function endEditing(area: Item): bool {
+        return Array.from(area.children).some(child => {
+            const chosen = child.focus || !(child instanceof FocusScope)
+            if (!chosen || !(child.focus && child instanceof TextInput))
+                return chosen && endEditing(child)
+            child.focus = false
+            return true
+        })
+    }
+
+    Connections {
+        target: page.controller
+        function onEditingEnded() {
+            page.endEditing(page)
+        }
+    }
     Rectangle {
         anchors.fill: parent
         color: page.colour

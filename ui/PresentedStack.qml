@@ -1,29 +1,36 @@
 import QtQuick
 
-/// A stack that slides up over the window.
+/// A stack that slides up over the window, and down again when it is `leaving`.
 NavigationStack {
     id: stack
 
+    required property bool leaving
+    /// Whether it covers what is under it.
+    readonly property bool covers: inPlace && !leaving
     property bool inPlace: false
 
-    signal settled
     signal gone
 
-    ready: inPlace
+    ready: covers
     Component.onCompleted: slide.start()
-    Component.onDestruction: if (inPlace) gone()
+    onLeavingChanged: {
+        if (leaving)
+            slide.restart()
+    }
 
     NumberAnimation {
         id: slide
         target: stack
         property: "y"
-        from: stack.height
-        to: 0
+        from: stack.leaving ? stack.y : stack.height
+        to: stack.leaving ? stack.height : 0
         duration: Theme.motion
-        easing.type: Easing.OutCubic
+        easing.type: stack.leaving ? Easing.InCubic : Easing.OutCubic
         onFinished: {
-            stack.inPlace = true
-            stack.settled()
+            if (stack.leaving)
+                stack.gone()
+            else
+                stack.inPlace = true
         }
     }
 }

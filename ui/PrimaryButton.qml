@@ -7,6 +7,7 @@ Tappable {
     property color fill: Theme.accent
 
     implicitHeight: Theme.buttonHeight
+    font: Theme.title
     leftPadding: Theme.spacingLarge
     rightPadding: Theme.spacingLarge
     background: Rectangle {
@@ -15,7 +16,7 @@ Tappable {
     }
     contentItem: Text {
         text: control.text
-        font: Theme.title
+        font: control.font
         color: Theme.textOnAccent
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter

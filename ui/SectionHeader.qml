@@ -10,7 +10,7 @@ Item {
     property int trailingTrend: 0
 
     implicitWidth: parent ? parent.width : 0
-    implicitHeight: 36
+    implicitHeight: Theme.scaled(36)
     Accessible.role: Accessible.Heading
     Accessible.name: trailing === "" ? text : text + " " + trailing
 

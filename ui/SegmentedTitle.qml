@@ -22,7 +22,7 @@ Row {
             required property string modelData
             readonly property bool current: segments.currentIndex === index
 
-            width: 96
+            width: Theme.scaled(96)
             height: Theme.touchTarget
             deep: true
             text: modelData

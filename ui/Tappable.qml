@@ -37,6 +37,6 @@ T.AbstractButton {
         radius: control.ringRadius - control.ringInset
         color: Theme.transparent
         border.width: Theme.focusRingWidth
-        border.color: Theme.focusRing
+        border.color: control.tones.focusRing
     }
 }

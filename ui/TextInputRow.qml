@@ -120,6 +120,6 @@ FocusScope {
         anchors.leftMargin: field.activeFocus ? 0 : Theme.margin
         visible: row.line || field.activeFocus
         height: field.activeFocus ? Theme.focusRingWidth : Theme.hairlineWidth
-        color: field.activeFocus ? Theme.focusRing : row.tones.hairline
+        color: field.activeFocus ? row.tones.focusRing : row.tones.hairline
     }
 }

@@ -6,6 +6,8 @@ FocusScope {
     id: indicator
 
     required property string status
+    /// Whether a button leads out.
+    property bool wayOut: false
 
     signal back
 
@@ -13,7 +15,9 @@ FocusScope {
     Accessible.name: status
     Keys.onPressed: event => {
         event.accepted = true
-        if ((event.key === Qt.Key_Escape || event.key === Qt.Key_Back) && !event.isAutoRepeat)
+        if (event.key === Qt.Key_Tab && wayOut)
+            backButton.forceActiveFocus(Qt.TabFocusReason)
+        else if ((event.key === Qt.Key_Escape || event.key === Qt.Key_Back) && !event.isAutoRepeat)
             back()
     }
 
@@ -25,22 +29,37 @@ FocusScope {
     }
     Rectangle {
         anchors.centerIn: parent
-        width: Math.max(112, label.implicitWidth + 2 * Theme.spacingHuge)
-        height: 104
+        width: Math.max(112, column.implicitWidth + 2 * Theme.spacingHuge)
+        height: column.height + 2 * Theme.spacingLarge
         radius: Theme.radiusLarge
         color: Theme.indicatorPanel
 
-        Spinner {
-            anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; topMargin: 22 }
-            size: 32
-        }
-        Text {
-            id: label
-            anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom; bottomMargin: Theme.spacingLarge }
-            text: indicator.status
-            font: Theme.label
-            color: Theme.textOnAccent
-            Accessible.ignored: true
+        Column {
+            id: column
+            anchors.centerIn: parent
+            spacing: Theme.spacing
+
+            Spinner {
+                anchors.horizontalCenter: parent.horizontalCenter
+                size: 32
+            }
+            Text {
+                anchors.horizontalCenter: parent.horizontalCenter
+                text: indicator.status
+                font: Theme.label
+                color: Theme.textOnAccent
+                Accessible.ignored: true
+            }
+            SecondaryButton {
+                id: backButton
+                anchors.horizontalCenter: parent.horizontalCenter
+                visible: indicator.wayOut
+                onVisibleChanged: focus = false
+                small: true
+                deep: true
+                text: "返回"
+                onClicked: indicator.back()
+            }
         }
     }
 }

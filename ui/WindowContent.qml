@@ -10,32 +10,53 @@ FocusScope {
 
     required property KRWindow window
     required property OverlayHost overlays
-    /// How many presented stacks have slid into place and cover what is under them.
-    property int settled: 0
+    /// The row of the presented stack that covers what is under it, -1 while the root is seen.
+    property int cover: -1
 
     function endEditing(field) {
         if (field)
             field.focus = false
     }
 
+    function stacks(): list<Item> {
+        return Array.from({ length: presented.count }, (_, row) => presented.itemAt(row))
+    }
+
     /// What the waiting indicator covers.
     function covered(): Item {
         return dialogs.count > 0 ? dialogs.itemAt(dialogs.count - 1)
-             : presented.count > 0 ? presented.itemAt(presented.count - 1) : rootView
+                                 : stacks().reverse().find(stack => stack && !stack.leaving) ?? rootView
     }
 
-    /// Goes back as Esc would if the keyboard were in `area`.
-    function goBack(area: Item): bool {
-        const dialog = area as DialogLoader
-        if (dialog) {
-            dialog.dialog.cancel()
-            return true
+    /// The dialog or page that has the keyboard when `area` has it; null when it has neither.
+    function answering(area: Item): Item {
+        if (area instanceof DialogLoader || area instanceof PageFrame)
+            return area
+        for (const child of Array.from(area.children)) {
+            const found = child.focus || !(child instanceof FocusScope) ? answering(child) : null
+            if (found)
+                return found
         }
-        const page = area as PageFrame
-        if (page)
-            return page.goBack()
-        return Array.from(area.children).some(
-            child => (child.focus || !(child instanceof FocusScope)) && goBack(child))
+        return null
+    }
+
+    /// Whether Esc would lead out of what the waiting indicator covers.
+    function canGoBack(): bool {
+        const area = answering(covered())
+        return area instanceof DialogLoader || ((area as PageFrame)?.canGoBack ?? false)
+    }
+
+    function goBack() {
+        const area = answering(covered())
+        const dialog = area as DialogLoader
+        if (dialog)
+            dialog.dialog.cancel()
+        else
+            (area as PageFrame)?.goBack()
+    }
+
+    function uncover() {
+        cover = stacks().reduce((highest, stack, row) => stack && stack.covers ? row : highest, -1)
     }
 
     function focusTop() {
@@ -45,7 +66,10 @@ FocusScope {
     }
 
     focus: true
-    Component.onCompleted: focusTop()
+    Component.onCompleted: {
+        window.animated = true
+        focusTop()
+    }
 
     FocusGuard {
         id: guard
@@ -60,7 +84,7 @@ FocusScope {
     RootLoader {
         id: rootView
         anchors.fill: parent
-        visible: main.settled === 0
+        visible: main.cover < 0
         root: main.window.root
     }
     Repeater {
@@ -68,7 +92,10 @@ FocusScope {
         model: main.window.presented
         onItemAdded: main.focusTop()
         onItemRemoved: (index, item) => (item as PresentedStack).close()
-        onCountChanged: main.focusTop()
+        onCountChanged: {
+            main.uncover()
+            main.focusTop()
+        }
 
         PresentedStack {
             required property int index
@@ -77,9 +104,10 @@ FocusScope {
             width: main.width
             height: main.height
             navigation: item
-            visible: index >= main.settled - 1
-            onSettled: main.settled += 1
-            onGone: main.settled -= 1
+            visible: index >= main.cover
+            onCoversChanged: main.uncover()
+            onLeavingChanged: main.focusTop()
+            onGone: main.window.transitionFinished(item)
         }
     }
     Repeater {
@@ -102,7 +130,8 @@ FocusScope {
         visible: main.overlays.waiting
         status: main.overlays.waitingStatus
         onVisibleChanged: main.focusTop()
-        onBack: main.goBack(main.covered())
+        wayOut: main.overlays.waitingLong && main.canGoBack()
+        onBack: main.goBack()
     }
     Repeater {
         model: main.overlays.banners

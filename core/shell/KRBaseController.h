@@ -19,6 +19,8 @@ class KRBaseController : public QObject {
     Q_PROPERTY(QString rightItemImage READ rightItemImage NOTIFY barChanged)
     Q_PROPERTY(bool showBackButton READ showBackButton WRITE setShowBackButton NOTIFY barChanged)
     Q_PROPERTY(bool isNeedGesture READ isNeedGesture WRITE setIsNeedGesture NOTIFY barChanged)
+    /// False while what is going on must be seen to its end on this screen.
+    Q_PROPERTY(bool canBeLeft READ canBeLeft NOTIFY barChanged)
     Q_PROPERTY(Background background READ background NOTIFY backgroundChanged)
 public:
     enum class Background { Blue, Gray };
@@ -39,6 +41,7 @@ public:
     void setShowBackButton(bool show);
     bool isNeedGesture() const { return gesture; }
     void setIsNeedGesture(bool need);
+    virtual bool canBeLeft() const { return true; }
     Background background() const { return backgroundColour; }
 
     void createNavLeftItemWithTitle(const QString &title, const QString &andImage,
@@ -72,6 +75,8 @@ public:
 Q_SIGNALS:
     void titleChanged();
     void barChanged();
+    /// What is being edited on this screen no longer is.
+    void editingEnded();
     void backgroundChanged();
 
 protected:

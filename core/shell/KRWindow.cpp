@@ -26,28 +26,62 @@ void setAppeared(QObject *item, bool appeared)
 
 void ObjectListModel::append(QObject *item)
 {
-    beginInsertRows({}, count(), count());
+    const int row = rowCount();
+    beginInsertRows({}, row, row);
     items.append(item);
     endInsertRows();
     Q_EMIT countChanged();
 }
 
-void ObjectListModel::removeAt(int row)
+void ObjectListModel::leave(QObject *item)
 {
+    going.append(item);
+    const QModelIndex row = index(static_cast<int>(items.indexOf(item)));
+    Q_EMIT dataChanged(row, row, {LeavingRole});
+    Q_EMIT countChanged();
+}
+
+void ObjectListModel::remove(QObject *item)
+{
+    const int row = static_cast<int>(items.indexOf(item));
     beginRemoveRows({}, row, row);
     items.removeAt(row);
+    going.removeAll(item);
     endRemoveRows();
     Q_EMIT countChanged();
 }
 
-QVariant ObjectListModel::data(const QModelIndex &index, int) const
+QList<QObject *> ObjectListModel::takeAll()
 {
-    return index.isValid() && index.row() < count() ? QVariant::fromValue(items.at(index.row())) : QVariant();
+    const QList<QObject *> all(items.crbegin(), items.crend());
+    for (QObject *const item : all)
+        remove(item);
+    return all;
+}
+
+int ObjectListModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(items.size());
+}
+
+QVariant ObjectListModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid() || index.row() >= rowCount())
+        return {};
+    QObject *const item = items.at(index.row());
+    return role == LeavingRole ? QVariant(going.contains(item)) : QVariant::fromValue(item);
 }
 
 QHash<int, QByteArray> ObjectListModel::roleNames() const
 {
-    return {{Qt::UserRole, "item"}};
+    return {{ItemRole, "item"}, {LeavingRole, "leaving"}};
+}
+
+QList<QObject *> ObjectListModel::staying() const
+{
+    QList<QObject *> all = items;
+    all.removeIf([this](QObject *item) { return going.contains(item); });
+    return all;
 }
 
 KRWindow::KRWindow(QObject *parent) : QObject(parent) {}
@@ -83,10 +117,8 @@ void KRWindow::setRoot(std::unique_ptr<KRSideMenu> root)
 
 void KRWindow::replaceRoot(QObject *root)
 {
-    while (presentedStacks.count() > 0) {
-        outgoing.push_back(presentedStacks.at(presentedStacks.count() - 1));
-        presentedStacks.removeAt(presentedStacks.count() - 1);
-    }
+    for (QObject *const stack : presentedStacks.takeAll())
+        outgoing.push_back(stack);
     if (rootObject)
         outgoing.push_back(rootObject);
     root->setParent(this);
@@ -124,11 +156,23 @@ KRNavigationController *KRWindow::present(std::unique_ptr<KRBaseController> scre
 
 void KRWindow::dismiss(KRNavigationController *stack)
 {
-    const int row = presentedStacks.indexOf(stack);
-    if (row < 0)
+    if (!presentedStacks.contains(stack))
         return;
-    presentedStacks.removeAt(row);
+    const bool seen = animated && stack == presentedStacks.last();
+    if (seen)
+        presentedStacks.leave(stack);
+    else
+        presentedStacks.remove(stack);
     updateVisibility();
+    if (!seen)
+        stack->deleteLater();
+}
+
+void KRWindow::transitionFinished(QObject *stack)
+{
+    if (!presentedStacks.isLeaving(stack))
+        return;
+    presentedStacks.remove(stack);
     stack->deleteLater();
 }
 
@@ -142,17 +186,16 @@ void KRWindow::show(std::unique_ptr<KRDialog> dialog)
 
 void KRWindow::remove(KRDialog *dialog)
 {
-    const int row = shownDialogs.indexOf(dialog);
-    if (row < 0)
+    if (!shownDialogs.contains(dialog))
         return;
-    shownDialogs.removeAt(row);
+    shownDialogs.remove(dialog);
     dialog->deleteLater();
 }
 
 KRNavigationController *KRWindow::topStack() const
 {
-    if (presentedStacks.count() > 0)
-        return qobject_cast<KRNavigationController *>(presentedStacks.at(presentedStacks.count() - 1));
+    if (QObject *const stack = presentedStacks.last())
+        return qobject_cast<KRNavigationController *>(stack);
     return sideMenu() ? sideMenu()->content() : nullptr;
 }
 

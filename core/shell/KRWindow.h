@@ -10,21 +10,27 @@ class KRDialog;
 class KRNavigationController;
 class KRSideMenu;
 
-/// A list of QObjects for views; the role is "item".
+/// A list of QObjects for views; the roles are "item" and "leaving". What is leaving keeps its row while it
+/// is seen to go, but is not counted.
 class ObjectListModel : public QAbstractListModel {
     Q_OBJECT
     Q_PROPERTY(int count READ count NOTIFY countChanged)
 public:
     using QAbstractListModel::QAbstractListModel;
-    int count() const { return static_cast<int>(items.size()); }
-    QObject *at(int row) const { return items.at(row); }
-    int indexOf(const QObject *item) const
-    {
-        return static_cast<int>(items.indexOf(const_cast<QObject *>(item)));
-    }
+    enum Role { ItemRole = Qt::UserRole, LeavingRole };
+
+    int count() const { return static_cast<int>(staying().size()); }
+    QObject *at(int place) const { return staying().at(place); }
+    /// Null when there is none.
+    QObject *last() const { return count() > 0 ? staying().constLast() : nullptr; }
+    bool contains(const QObject *item) const { return staying().contains(item); }
+    bool isLeaving(const QObject *item) const { return items.contains(item) && !contains(item); }
     void append(QObject *item);
-    void removeAt(int row);
-    int rowCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : count(); }
+    void leave(QObject *item);
+    void remove(QObject *item);
+    /// Everything that was in it, the last first.
+    QList<QObject *> takeAll();
+    int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
@@ -32,7 +38,10 @@ Q_SIGNALS:
     void countChanged();
 
 private:
+    QList<QObject *> staying() const;
+
     QList<QObject *> items;
+    QList<QObject *> going;
 };
 
 /// The main window: its root (the guide or the side menu), the stacks presented over it, the dialogs over
@@ -48,6 +57,8 @@ class KRWindow : public QObject {
     Q_PROPERTY(bool visible READ isVisible NOTIFY visibleChanged)
     Q_PROPERTY(ObjectListModel *presented READ presented CONSTANT)
     Q_PROPERTY(ObjectListModel *dialogs READ dialogs CONSTANT)
+    /// Whether somebody draws this window and tells of the end of a motion with `transitionFinished`.
+    Q_PROPERTY(bool animated MEMBER animated)
 public:
     explicit KRWindow(QObject *parent = nullptr);
     ~KRWindow() override;
@@ -67,8 +78,10 @@ public:
     /// Presents over whatever is on screen; the window owns the stack until `dismiss`.
     KRNavigationController *present(std::unique_ptr<KRNavigationController> stack);
     KRNavigationController *present(std::unique_ptr<KRBaseController> screen);
-    /// Takes `stack` away, also from below another one; does nothing when it is not presented.
+    /// Takes `stack` away, also from below another one; does nothing when it is not presented. Only the one
+    /// on top is seen leaving.
     void dismiss(KRNavigationController *stack);
+    Q_INVOKABLE void transitionFinished(QObject *stack);
 
     /// The dialog lives until it is removed.
     void show(std::unique_ptr<KRDialog> dialog);
@@ -99,5 +112,6 @@ private:
     QObject *appeared = nullptr;
     std::vector<QObject *> outgoing;
     bool visible = false;
+    bool animated = false;
     bool updating = false;
 };

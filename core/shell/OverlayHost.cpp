@@ -33,6 +33,8 @@ void OverlayHost::hideBanners()
 
 void OverlayHost::showWaiting(const QString &text)
 {
+    if (status.isNull())
+        patience.startOnce(5s, [this] { Q_EMIT waitingChanged(); });
     status = text;
     Q_EMIT waitingChanged();
 }
@@ -42,6 +44,7 @@ void OverlayHost::hideWaiting()
     if (status.isNull())
         return;
     status = QString();
+    patience.stop();
     Q_EMIT waitingChanged();
 }
 

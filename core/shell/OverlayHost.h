@@ -27,6 +27,9 @@ class OverlayHost : public QObject, public Overlays {
     Q_PROPERTY(GadgetListModel *banners READ banners CONSTANT)
     Q_PROPERTY(bool waiting READ isWaiting NOTIFY waitingChanged)
     Q_PROPERTY(QString waitingStatus READ waitingStatus NOTIFY waitingChanged)
+    /// True once the indicator has covered the window for five seconds without a break: what is waited for
+    /// may never come.
+    Q_PROPERTY(bool waitingLong READ isWaitingLong NOTIFY waitingChanged)
 public:
     explicit OverlayHost(QObject *parent = nullptr) : QObject(parent) {}
 
@@ -39,6 +42,7 @@ public:
     RowListModel<MVNoticeView> *banners() { return &rows; }
     bool isWaiting() const { return !status.isNull(); }
     QString waitingStatus() const { return status; }
+    bool isWaitingLong() const { return isWaiting() && !patience.isActive(); }
 
 Q_SIGNALS:
     void waitingChanged();
@@ -56,5 +60,6 @@ private:
     std::list<Banner> timed;
     std::list<Banner> pending;
     QString status;
+    Timer patience;
     int lastNumber = 0;
 };

@@ -16,7 +16,7 @@ void TZBaseTableViewController::viewDidLoad()
 
 void TZBaseTableViewController::viewWillDisappear()
 {
-    endEditing();
+    Q_EMIT editingEnded();
     KRBaseController::viewWillDisappear();
 }
 

@@ -2,6 +2,7 @@
 #include "core/shell/KRNavigationController.h"
 #include "core/shell/KRSideMenu.h"
 #include "core/shell/KRWindow.h"
+#include "core/shell/TZBaseTableViewController.h"
 #include "core/util/Service.h"
 #include "tests/shell/RecordingScreen.h"
 #include "tests/support/TestPlatform.h"
@@ -326,6 +327,38 @@ TEST_F(NavigationTest, DraggingAListEndsEditing)
     QObject::connect(&window, &KRWindow::editingEnded, [&ended] { ++ended; });
     push("list")->scrollViewWillBeginDragging();
     EXPECT_EQ(ended, 1);
+}
+
+TEST_F(NavigationTest, WhatIsEditedOnAListEndsWhenAnotherScreenComesOverIt)
+{
+    auto list = std::make_unique<TZBaseTableViewController>();
+    int ended = 0;
+    QObject::connect(list.get(), &KRBaseController::editingEnded, [&ended] { ++ended; });
+    content()->push(std::move(list));
+    push("over it");
+    EXPECT_EQ(ended, 1);
+}
+
+TEST_F(NavigationTest, ADismissedStackIsSeenLeavingWhereSomebodyDrawsIt)
+{
+    window.setProperty("animated", true);
+    KRNavigationController *const lower = window.present(std::make_unique<KRBaseController>());
+    KRNavigationController *const upper = window.present(std::make_unique<KRBaseController>());
+    upper->dismiss();
+    upper->dismiss();
+    EXPECT_EQ(window.presented()->count(), 1);
+    EXPECT_EQ(window.presented()->rowCount(), 2) << "it is still drawn";
+    EXPECT_EQ(window.topStack(), lower);
+    EXPECT_FALSE(upper->isVisible());
+    window.transitionFinished(upper);
+    EXPECT_EQ(window.presented()->rowCount(), 1);
+
+    KRNavigationController *const cover = window.present(std::make_unique<KRBaseController>());
+    lower->dismiss();
+    EXPECT_EQ(window.presented()->rowCount(), 1) << "nobody sees what is covered";
+    cover->dismiss();
+    window.setRoot(std::make_unique<KRBaseController>());
+    EXPECT_EQ(window.presented()->rowCount(), 0) << "a new root waits for no motion";
 }
 
 TEST_F(NavigationTest, LeavingAScreenTakesItsBannersAndTheIndicatorAway)

@@ -117,6 +117,20 @@ TEST_F(OverlayTest, ThereIsOneWaitingIndicatorHoweverOftenItIsAskedFor)
     EXPECT_FALSE(overlays.isWaiting());
 }
 
+TEST_F(OverlayTest, AWaitOfFiveSecondsWithoutABreakIsALongOne)
+{
+    Service::showWaitingProgressView();
+    runLoop.advance(4s);
+    Service::showWaitingProgressView();
+    EXPECT_FALSE(overlays.isWaitingLong());
+    runLoop.advance(1s);
+    EXPECT_TRUE(overlays.isWaitingLong());
+    Service::hideWaitingProgressView();
+    EXPECT_FALSE(overlays.isWaitingLong());
+    Service::showWaitingProgressView();
+    EXPECT_FALSE(overlays.isWaitingLong());
+}
+
 TEST_F(OverlayTest, AnAlertsButtonRunsItsActionOnceAfterTheAlertIsGone)
 {
     KRWindow window;
@@ -213,7 +227,7 @@ TEST_F(OverlayTest, AListScreenHidesTheIndicatorWhenItHasDisappearedAndWhenItIsD
     auto root = std::make_unique<ListScreen>();
     ListScreen *const list = root.get();
     int ended = 0;
-    QObject::connect(&window, &KRWindow::editingEnded, [&ended] { ++ended; });
+    QObject::connect(list, &KRBaseController::editingEnded, [&ended] { ++ended; });
     KRNavigationController *const stack = window.present(std::move(root));
     Service::showErrorWithMsg(first);
     list->viewWillDisappear();

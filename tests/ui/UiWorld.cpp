@@ -1,5 +1,6 @@
 #include "tests/ui/UiWorld.h"
 
+#include "core/session/DisplaySettings.h"
 #include "core/shell/TZInfoAlertView.h"
 #include "core/shell/TZPlainPageController.h"
 
@@ -54,4 +55,19 @@ void UiWorld::wait(bool waiting)
         overlays.showWaiting(QStringLiteral("加载中..."));
     else
         overlays.hideWaiting();
+}
+
+void UiWorld::waitLong()
+{
+    wait(true);
+    runLoop.advance(std::chrono::seconds(5));
+}
+
+void UiWorld::display(int palette, int trendColours, int textSize)
+{
+    DisplaySettings display;
+    display.palette = static_cast<DisplaySettings::Palette>(palette);
+    display.trendColours = static_cast<DisplaySettings::TrendColours>(trendColours);
+    display.textSize = static_cast<DisplaySettings::TextSize>(textSize);
+    display.store();
 }

@@ -41,6 +41,10 @@ public:
     Q_INVOKABLE void showQuestion();
     Q_INVOKABLE QString answers() const { return given; }
     Q_INVOKABLE void wait(bool waiting);
+    /// Lets the indicator show for so long that there must be a way out.
+    Q_INVOKABLE void waitLong();
+    /// The places of DisplaySettings' choices.
+    Q_INVOKABLE void display(int palette, int trendColours, int textSize);
 
 private:
     void TestBody() override {}

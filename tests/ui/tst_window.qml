@@ -33,6 +33,15 @@ Item {
             behind.taps = 0
         }
 
+        function find(area, wanted) {
+            for (const child of Array.from(area.children)) {
+                const found = wanted(child) ? child : find(child, wanted)
+                if (found)
+                    return found
+            }
+            return null
+        }
+
         function holdsFocus(text) {
             const item = content.Window.activeFocusItem
             return item !== null && item.text === text
@@ -79,16 +88,45 @@ Item {
             compare(world.answers(), "")
         }
 
+        function test_aLongWaitOffersAButtonThatLeadsOut() {
+            world.wait(true)
+            world.present("covered")
+            tryCompare(content, "cover", 0)
+            const button = find(content, item => item instanceof SecondaryButton && item.text === "返回")
+            verify(!button.visible)
+            world.wait(false)
+            world.waitLong()
+            verify(button.visible)
+            keyClick(Qt.Key_Tab)
+            verify(button.activeFocus)
+            mouseClick(button)
+            compare(world.window.presented.count, 0)
+            verify(!button.visible, "the page below has no way back")
+            tryCompare(content, "cover", -1)
+        }
+
+        function test_aStackSlidesAwayWithoutTheKeyboard() {
+            world.present("going")
+            tryCompare(content, "cover", 0)
+            const stack = find(content, item => item instanceof PresentedStack)
+            keyClick(Qt.Key_Escape)
+            compare(world.window.presented.count, 0)
+            compare(content.cover, -1)
+            verify(stack.leaving && !stack.activeFocus)
+            tryVerify(() => stack.y > 0)
+            tryVerify(() => find(content, item => item instanceof PresentedStack) === null)
+        }
+
         function test_whileWaitingEscLeavesTheCoveredScreen() {
             world.present("covered")
-            tryCompare(content, "settled", 1)
+            tryCompare(content, "cover", 0)
             world.wait(true)
             mouseClick(content, 370, 40)
             keyClick(Qt.Key_Return)
             compare(world.window.presented.count, 1)
             keyClick(Qt.Key_Escape)
             compare(world.window.presented.count, 0)
-            tryCompare(content, "settled", 0)
+            tryCompare(content, "cover", -1)
         }
     }
 }

@@ -293,7 +293,7 @@ bool TZBuyAndSellController::needTradePwd() const
 
 void TZBuyAndSellController::submit()
 {
-    const bool asking = prompt && window() && window()->dialogs()->indexOf(prompt) >= 0;
+    const bool asking = prompt && window() && window()->dialogs()->contains(prompt);
     if (orderOnItsWay || asking)
         return;
     orderTimer.stop();
@@ -363,7 +363,7 @@ void TZBuyAndSellController::showAnswer(const QVariantMap &answer, bool hadPassw
 
 void TZBuyAndSellController::backButtonClicked()
 {
-    if (!orderOnItsWay)
+    if (canBeLeft())
         KRBaseController::backButtonClicked();
 }
 
