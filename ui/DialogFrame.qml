@@ -7,9 +7,10 @@ FocusScope {
 
     required property KRDialog dialog
     required property string name
-    // The card stands in the middle of what an on-screen keyboard leaves free.
-    readonly property var keyboard: Qt.inputMethod
-    readonly property real availableHeight: height - (keyboard.visible ? keyboard.keyboardRectangle.height : 0)
+    property var keyboard: Qt.inputMethod
+    readonly property real keyboardTop: height - keyboard.keyboardRectangle.height
+    /// How far the card stands above its place in the middle, so that an on-screen keyboard does not cover it.
+    property real lift: keyboard.visible ? Math.max(0, (height + card.height) / 2 + Theme.spacing - keyboardTop) : 0
     property bool shown: true
     property int fadeDuration: Theme.motion
     default property alias content: column.data
@@ -23,6 +24,9 @@ FocusScope {
     Keys.onEscapePressed: frame.dialog.cancel()
     Keys.onBackPressed: frame.dialog.cancel()
 
+    Behavior on lift {
+        NumberAnimation { duration: Theme.motionKeyboard; easing.type: Easing.OutCubic }
+    }
     Behavior on opacity {
         NumberAnimation { duration: frame.fadeDuration }
     }
@@ -36,10 +40,11 @@ FocusScope {
         }
     }
     Rectangle {
+        id: card
         width: Math.min(320, parent.width - 2 * Theme.spacingHuge)
         height: column.height
         x: Math.round((parent.width - width) / 2)
-        y: Math.round((frame.availableHeight - height) / 2)
+        y: Math.max(0, Math.round((frame.height - height) / 2 - frame.lift))
         radius: Theme.radiusLarge
         color: Theme.surface
 

@@ -172,6 +172,8 @@ QtObject {
     readonly property int motionFast: 120
     readonly property int motion: 220
     readonly property int motionBanner: 500
+    // Of an on-screen keyboard; it does not tell its own.
+    readonly property int motionKeyboard: 250
 
     /// A height that grows with the text.
     function scaled(height: int): int {

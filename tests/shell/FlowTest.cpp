@@ -158,7 +158,7 @@ TEST_F(FlowTest, TheRechargeGateOpensTheFirstStepThatIsMissing)
     const Case cases[] = {
         {1, QStringLiteral("手机验证")},
         {QStringLiteral("2"), QStringLiteral("设置昵称")},
-        {3, QStringLiteral("设置交易密码")},
+        {3, QStringLiteral("输入交易密码")},
         {4, QStringLiteral("开通资金托管账户")},
         {5, QStringLiteral("绑定银行卡")},
         {6, recharge},
@@ -174,7 +174,7 @@ TEST_F(FlowTest, TheRechargeGateOpensTheFirstStepThatIsMissing)
                     succeeded(QVariantMap{{QStringLiteral("next_step"), step.nextStep}}));
         ASSERT_EQ(window.presented()->count(), 1);
         EXPECT_EQ(window.topStack()->top()->title(), step.title);
-        window.topStack()->top()->rightItemClick();
+        window.dismiss(window.topStack());
     }
     router.openRechargeGate(*frame()->content()->root());
     http.answer(QStringLiteral("trade/recharge"), refused(QStringLiteral("请先登录")));

@@ -24,6 +24,23 @@ Item {
         property int taps: 0
         onClicked: taps += 1
     }
+    DialogFrame {
+        id: lifted
+        width: 390
+        height: 600
+        visible: false
+        dialog: null
+        name: ""
+        keyboard: QtObject {
+            property bool visible: false
+            property rect keyboardRectangle: Qt.rect(0, 0, 0, 0)
+        }
+
+        Item {
+            width: 1
+            height: 200
+        }
+    }
     TestCase {
         name: "Window"
         when: windowShown
@@ -65,6 +82,18 @@ Item {
             mouseClick(content, 50, 24)
             compare(behind.taps, 0)
             keyClick(Qt.Key_Escape)
+        }
+
+        function test_aDialogIsLiftedAboveTheKeyboardThatWouldCoverIt() {
+            // The card stands from 200 to 400.
+            lifted.keyboard.visible = true
+            lifted.keyboard.keyboardRectangle = Qt.rect(0, 420, 390, 180)
+            compare(lifted.lift, 0)
+            lifted.keyboard.keyboardRectangle = Qt.rect(0, 350, 390, 250)
+            compare(lifted.lift, 0, "it moves with the keyboard, it does not jump")
+            tryCompare(lifted, "lift", 62)
+            lifted.keyboard.visible = false
+            tryCompare(lifted, "lift", 0)
         }
 
         function test_nothingIsReachedWhileWaiting() {
