@@ -10,14 +10,22 @@ QString settingsPath(const Options &options)
 {
     return options.dataDirectory + QStringLiteral("/settings");
 }
+
+DeveloperTrust trustOf(const Options &options)
+{
+    if (options.trustFile.isEmpty())
+        return {{}, options.loopbackHttp};
+    return {QSslCertificate::fromPath(options.trustFile), options.loopbackHttp};
+}
 } // namespace
 
-Client::Client(const Options &options)
-    : settings(settingsPath(options)), application(options.apiBaseUrl, options.dataDirectory),
-      http(options.trust), reachability(QUrl(options.apiBaseUrl)), share(pasteboard, urlOpener),
+Client::Client(Options startOptions)
+    : options(std::move(startOptions)), views(std::in_place), trust(trustOf(options)),
+      settings(settingsPath(options)), application(options.apiBaseUrl, options.dataDirectory), http(trust),
+      reachability(QUrl(options.apiBaseUrl)), share(pasteboard, urlOpener),
       feedback(urlOpener, Configuration::serviceMail, QStringLiteral("用户反馈")),
 #ifdef ZORVANE_DEVELOPER_OPTIONS
-      push(options.apiBaseUrl, options.trust),
+      push(options.apiBaseUrl, trust),
 #endif
       platform{http,  settings, reachability, runLoop,     push,          pasteboard, urlOpener,
                share, feedback, analytics,    application, notifications, overlays},
@@ -25,11 +33,17 @@ Client::Client(const Options &options)
 {
 }
 
-Client::~Client() = default;
+Client::~Client()
+{
+    views.reset();
+}
 
 QString Client::problem() const
 {
-    const QString path = settingsPath({application.apiBaseUrl(), application.documentsDirectory(), {}});
+    if (!options.trustFile.isEmpty() && trust.authorities.isEmpty())
+        return QStringLiteral("zorvane: '%1' holds no certificate; give a readable PEM file\n")
+            .arg(options.trustFile);
+    const QString path = settingsPath(options);
     switch (settings.problem()) {
     case SettingsProblem::None:
         return {};
@@ -47,10 +61,5 @@ QString Client::problem() const
 QQuickWindow *Client::show()
 {
     shell.didFinishLaunchingWithOptions({});
-    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    engine.setInitialProperties({{QStringLiteral("window"), QVariant::fromValue(&window)},
-                                 {QStringLiteral("overlays"), QVariant::fromValue(&overlays)}});
-    engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Zorvane/Ui/Main.qml")));
-    return engine.rootObjects().isEmpty() ? nullptr
-                                          : qobject_cast<QQuickWindow *>(engine.rootObjects().first());
+    return views->show(window, overlays);
 }

@@ -2,6 +2,7 @@
 
 #include "app/AppRouter.h"
 #include "app/CommandLine.h"
+#include "app/Views.h"
 #include "app/platform/DesktopShare.h"
 #include "app/platform/MailFeedback.h"
 #include "app/platform/QtApplicationInfo.h"
@@ -19,7 +20,7 @@
 #include "core/shell/KRWindow.h"
 #include "core/shell/OverlayHost.h"
 
-#include <QQmlApplicationEngine>
+#include <optional>
 
 class QQuickWindow;
 
@@ -27,7 +28,7 @@ class QQuickWindow;
 /// time, with a QGuiApplication around it.
 class Client {
 public:
-    explicit Client(const Options &options);
+    explicit Client(Options startOptions);
     ~Client();
     Client(const Client &) = delete;
     Client &operator=(const Client &) = delete;
@@ -38,6 +39,10 @@ public:
     QQuickWindow *show();
 
 private:
+    const Options options;
+    // Made first, gone first: it reads in the background, and shows what the others hold.
+    std::optional<Views> views;
+    const DeveloperTrust trust;
     QtSettingsStore settings;
     QtApplicationInfo application;
     QtRunLoop runLoop;
@@ -63,5 +68,4 @@ private:
     KRWindow window;
     AppRouter router{window};
     AppDelegate shell;
-    QQmlApplicationEngine engine;
 };

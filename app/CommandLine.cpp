@@ -64,8 +64,7 @@ std::variant<Options, Answered> readCommandLine(const QStringList &arguments)
     parser.addOptions({version, showHelp});
     Options options{QStringLiteral(ZORVANE_API_BASE_URL),
                     QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-                        QStringLiteral("/zorvane"),
-                    {}};
+                        QStringLiteral("/zorvane")};
     QString directoryAdvice = QStringLiteral("make '%1' writable for you").arg(options.dataDirectory);
 #ifdef ZORVANE_DEVELOPER_OPTIONS
     const QCommandLineOption apiBaseUrl(QStringLiteral("api-base-url"), {}, QStringLiteral("URL"));
@@ -94,7 +93,7 @@ std::variant<Options, Answered> readCommandLine(const QStringList &arguments)
             return refused(problem);
     }
     options.trustFile = parser.value(trustCa);
-    options.trust.loopbackHttp = true;
+    options.loopbackHttp = true;
     if (parser.isSet(dataDir)) {
         options.dataDirectory = parser.value(dataDir);
         directoryAdvice = QStringLiteral("give another one with --data-dir");
@@ -105,15 +104,4 @@ std::variant<Options, Answered> readCommandLine(const QStringList &arguments)
     if (const QString problem = directoryProblem(options.dataDirectory); !problem.isEmpty())
         return refused(problem + directoryAdvice);
     return options;
-}
-
-std::optional<Answered> readTrust(Options &options)
-{
-    if (options.trustFile.isEmpty())
-        return {};
-    options.trust.authorities = QSslCertificate::fromPath(options.trustFile);
-    if (options.trust.authorities.isEmpty())
-        return refused(
-            QStringLiteral("'%1' holds no certificate; give a readable PEM file").arg(options.trustFile));
-    return {};
 }

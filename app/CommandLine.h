@@ -1,10 +1,7 @@
 #pragma once
 
-#include "app/platform/DeveloperTrust.h"
-
 #include <QString>
 #include <QStringList>
-#include <optional>
 #include <variant>
 
 /// What the client is started with.
@@ -13,9 +10,10 @@ struct Options {
     QString apiBaseUrl;
     /// Exists and can be written to.
     QString dataDirectory;
-    DeveloperTrust trust;
-    /// Where `readTrust` finds the authorities of `trust`; may be empty.
+    /// A PEM file of certificate authorities to trust instead of the system's; may be empty.
     QString trustFile = {};
+    /// Whether plain HTTP to this machine will do.
+    bool loopbackHttp = false;
 };
 
 /// A command line that is answered with a text instead of a start: on standard output with status 0, on
@@ -28,6 +26,3 @@ struct Answered {
 /// `arguments` without the program's name. Only developer builds know more than --version and --help. Needs
 /// no application object.
 std::variant<Options, Answered> readCommandLine(const QStringList &arguments);
-
-/// Reads the certificate authorities that the options name. Needs an application object.
-std::optional<Answered> readTrust(Options &options);

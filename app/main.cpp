@@ -55,10 +55,7 @@ int main(int argc, char *argv[])
     QGuiApplication::setApplicationVersion(QStringLiteral(ZORVANE_VERSION));
     const QGuiApplication qt(argc, argv);
     installLook();
-    Options &options = std::get<Options>(line);
-    if (const auto answered = readTrust(options))
-        return answer(*answered);
-    Client client(options);
+    Client client(std::move(std::get<Options>(line)));
     if (const QString problem = client.problem(); !problem.isEmpty())
         return answer({cannotStart, problem});
     QQuickWindow *const window = client.show();

@@ -5,6 +5,7 @@ Image {
     required property string name
     property int size: Theme.iconSize
 
+    asynchronous: true
     width: size
     height: size
     sourceSize.width: size

@@ -1,8 +1,10 @@
 #include "ui/Look.h"
 
 #include <QFont>
+#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QThreadPool>
 
 void installLook()
 {
@@ -11,5 +13,7 @@ void installLook()
                           QStringLiteral("PingFang SC"), QStringLiteral("Microsoft YaHei"),
                           QStringLiteral("WenQuanYi Zen Hei"), QStringLiteral("sans-serif")});
     QGuiApplication::setFont(typeface);
+    // Reading the system's fonts takes as long as reading the views; the database is safe to use from here.
+    QThreadPool::globalInstance()->start([] { QFontDatabase::families(QFontDatabase::SimplifiedChinese); });
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/qt/qml/Zorvane/Ui/images/common_logo.svg")));
 }

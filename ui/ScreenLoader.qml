@@ -1,11 +1,19 @@
 import QtQuick
 import Zorvane.Ui
 
-/// Shows the view of a screen, found by the name of its class.
+/// Shows the view of a screen, found by the name of its class; made once it is wanted.
 ViewHost {
     id: host
 
     required property KRBaseController controller
 
-    Component.onCompleted: host.show(ViewFinder.screen(controller), { controller: controller })
+    property bool wanted: true
+
+    function showOnce() {
+        if (wanted && !view)
+            show(ViewFinder.screen(controller), { controller: controller })
+    }
+
+    onWantedChanged: showOnce()
+    Component.onCompleted: showOnce()
 }

@@ -49,6 +49,7 @@ FocusScope {
             width: frame.openShift
             height: parent.height
             controller: frame.sideMenu.leftMenu
+            wanted: menu.visible
         }
     }
     Item {

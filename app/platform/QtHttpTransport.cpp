@@ -152,5 +152,6 @@ QtHttpTransport::QtHttpTransport(const DeveloperTrust &trust)
 void QtHttpTransport::send(const HttpRequest &request, std::function<void(const HttpOutcome &)> done)
 {
     auto *exchange = new Exchange(manager, tls, loopbackHttp, request, std::move(done));
-    exchange->start(QUrl(request.url));
+    // The first requests are made before the first frame is drawn: they wait for the event loop.
+    QTimer::singleShot(0, exchange, [exchange, url = QUrl(request.url)] { exchange->start(url); });
 }

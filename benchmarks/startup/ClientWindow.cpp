@@ -36,7 +36,7 @@ int main(int argc, char **argv)
     if (!QFile::exists(data + QStringLiteral("/settings")))
         prepare(data, arguments.at(4));
     installLook();
-    Client client({arguments.at(1), data, {QSslCertificate::fromPath(arguments.at(2)), false}});
+    Client client({arguments.at(1), data, arguments.at(2)});
     QQuickWindow *const window = client.show();
     if (!window)
         return 1;

@@ -17,6 +17,7 @@ Item {
     Image {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
         height: Math.min(width * 0.56, parent.height - Theme.spacingLarge)
+        asynchronous: true
         sourceSize.width: width
         fillMode: Image.PreserveAspectCrop
         source: Theme.image(hero.picture)

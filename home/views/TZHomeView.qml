@@ -18,18 +18,19 @@ PageFrame {
         focus: visible
         controller: page.home
         deep: true
-        model: 1
+        model: visible ? 1 : 0
         delegate: LoginViewCell {
             width: ListView.view.width
             height: Math.max(implicitHeight, ListView.view.height)
             home: page.home
         }
     }
-    UnloginView {
+    ViewHost {
         anchors.fill: signedIn
         visible: page.home.face === TZHomeViewController.SignedOut
         focus: visible
-        home: page.home
+        onVisibleChanged: if (visible && !view) show(Qt.resolvedUrl("UnloginView.qml"), { home: page.home })
+        Component.onCompleted: visibleChanged()
     }
     Row {
         id: entries

@@ -25,7 +25,7 @@ int main(int argc, char **argv)
     }
     SandboxProcess sandbox;
     const QTemporaryDir data;
-    Client client({sandbox.baseUrl(), data.path(), {QSslCertificate::fromPath(sandbox.authority()), false}});
+    Client client({sandbox.baseUrl(), data.path(), sandbox.authority()});
     QQuickWindow *const window = client.show();
     if (!window)
         return 1;
