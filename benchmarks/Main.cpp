@@ -1,9 +1,15 @@
-#include <QCoreApplication>
+#include "ui/Look.h"
+
+#include <QGuiApplication>
+#include <QQuickWindow>
 #include <benchmark/benchmark.h>
 
 int main(int argc, char **argv)
 {
-    const QCoreApplication application(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    const QGuiApplication application(argc, argv);
+    installLook();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 2;

@@ -31,9 +31,9 @@ function(zv_views name uri library)
   endforeach()
   string(REPLACE "." "/" path ${uri})
   # Where qmllint looks up the C++ types that a module does not make known itself.
-  set(dependencies)
+  set(dependencies DEPENDENCIES QtQuick)
   if(NOT uri STREQUAL "Zorvane.Ui")
-    set(dependencies DEPENDENCIES Zorvane.Ui)
+    list(APPEND dependencies Zorvane.Ui)
   endif()
   qt_add_library(${name} STATIC)
   qt_add_qml_module(${name} URI ${uri} VERSION 1.0 RESOURCE_PREFIX /qt/qml QML_FILES ${qml} SOURCES ${sources} ${dependencies}

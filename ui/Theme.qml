@@ -25,6 +25,13 @@ QtObject {
     readonly property color pendingEntrust: "#60b6ff"
     readonly property color profitLabel: "#959595"
 
+    // The lines of charts; prices are drawn in the accent of deep pages.
+    readonly property color chartAverage: "#FFC24B"
+    readonly property color chartMa5: "#FFC24B"
+    readonly property color chartMa10: "#63C7FF"
+    readonly property color chartMa20: "#D590FF"
+    readonly property color chartCost: "#FF9A55"
+
     // What the client says.
     readonly property color accent: "#1F74C4"
     readonly property color link: plain.accent

@@ -16,6 +16,12 @@ Operation cached(const QString &path, const QString &key, const QVariantMap &par
                                std::move(andError));
 }
 
+QString stockDetailUrl(const QVariantMap &param)
+{
+    return ToolPolicy::url(QStringLiteral("stockDetailPage?stockCode=")) +
+           textForm(param.value(QStringLiteral("stockCode")));
+}
+
 // The smart add-on offer keeps its answer under the trading page's key.
 bool isTradingPage(const QVariantMap &answer)
 {
@@ -165,7 +171,14 @@ Operation TZTradeTool::getStockDetailWithRequestWithParam(const QVariantMap &par
                                                           Failure andError)
 {
     Service::showWaitingProgressView();
-    const QString stockCode = textForm(param.value(QStringLiteral("stockCode")));
-    const QString url = ToolPolicy::url(QStringLiteral("stockDetailPage?stockCode=")) + stockCode;
-    return KRAFHTTPClient::get(url, {}, ToolPolicy::gated(std::move(success)), std::move(andError));
+    return KRAFHTTPClient::get(stockDetailUrl(param), {}, ToolPolicy::gated(std::move(success)),
+                               std::move(andError));
+}
+
+Operation TZTradeTool::refreshStockDetailWithParam(const QVariantMap &param, Success success,
+                                                   Failure andError)
+{
+    return KRAFHTTPClient::get(stockDetailUrl(param), {},
+                               ToolPolicy::gated(std::move(success), ToolPolicy::Indicator::Keep),
+                               std::move(andError));
 }

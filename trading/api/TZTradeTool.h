@@ -70,4 +70,6 @@ public:
     /// Guarded, HUD. Keys: "stockCode".
     static Operation getStockDetailWithRequestWithParam(const QVariantMap &param, Success success,
                                                         Failure andError);
+    /// As `getStockDetailWithRequestWithParam` without HUD, for a page that is seen already.
+    static Operation refreshStockDetailWithParam(const QVariantMap &param, Success success, Failure andError);
 };

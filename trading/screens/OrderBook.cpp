@@ -38,3 +38,14 @@ QList<TZHandicapModel> OrderBook::sellLevels(const QVariantList &pankou)
         levels.append(levelAt(pankou, row < 5 ? 4 - row : 14 - row, QStringLiteral("卖")));
     return levels;
 }
+
+QList<TZHandicapModel> OrderBook::bestFirst(const QVariantList &pankou, const QString &side)
+{
+    QList<TZHandicapModel> levels;
+    levels.reserve(depth);
+    for (int row = 0; row < depth; ++row) {
+        const TZHandicapModel level = levelAt(pankou, row, side);
+        levels.append(doubleValue(level.price) > 0 ? level : TZHandicapModel{level.title, {}, {}});
+    }
+    return levels;
+}

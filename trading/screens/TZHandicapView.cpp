@@ -52,7 +52,9 @@ void TZHandicapView::setLevels(const QList<TZHandicapModel> &levels, const Scale
 void TZHandicapView::selectHandicap(int row)
 {
     const QString price = shownLevels.value(row).price;
-    if (!Service::whetherAnEmptyString(price))
-        Platform::current().notifications.post(priceSelectNotification,
-                                               QVariantMap{{QStringLiteral("price"), price}});
+    if (Service::whetherAnEmptyString(price))
+        return;
+    Q_EMIT aboutToSelect();
+    Platform::current().notifications.post(priceSelectNotification,
+                                           QVariantMap{{QStringLiteral("price"), price}});
 }

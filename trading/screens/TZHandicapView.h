@@ -47,6 +47,10 @@ public:
 
     Q_INVOKABLE void selectHandicap(int row);
 
+Q_SIGNALS:
+    /// Before the notification: a screen that is no order entry opens one, which then receives the price.
+    void aboutToSelect();
+
 private:
     QList<TZHandicapModel> shownLevels;
     RowListModel<HandicapRow> shownRows;

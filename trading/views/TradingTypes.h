@@ -1,5 +1,7 @@
 #pragma once
 
+#include "trading/charts/CandleChart.h"
+#include "trading/charts/IntradayChart.h"
 #include "trading/screens/QuoteAge.h"
 #include "trading/screens/TZBuyAndSellController.h"
 #include "trading/screens/TZChooseSellStockController.h"
@@ -17,6 +19,10 @@
 struct QuoteAgeForViews {
     Q_GADGET
     ZV_VIEW_TYPE(QuoteAge)
+};
+struct StockChartForViews {
+    Q_GADGET
+    ZV_VIEW_TYPE(StockChart)
 };
 struct TZBuyAndSellControllerForViews {
     Q_GADGET

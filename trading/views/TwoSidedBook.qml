@@ -1,0 +1,42 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Zorvane.Ui
+import Zorvane.Trading
+
+/// The order book with its sides beside each other, the best levels on top.
+Item {
+    id: book
+
+    required property TZHandicapView buyView
+    required property TZHandicapView sellView
+    property real rowHeight: 30
+
+    implicitHeight: title.height + levels.height
+
+    SectionHeader {
+        id: title
+        width: parent.width
+        deep: true
+        text: "level2 盘口"
+    }
+    Row {
+        id: levels
+        anchors.top: title.bottom
+
+        OrderBookSide {
+            width: book.width / 2
+            handicapView: book.buyView
+            buySide: true
+            name: "买盘"
+            rowHeight: book.rowHeight
+        }
+        OrderBookSide {
+            width: book.width / 2
+            handicapView: book.sellView
+            buySide: false
+            name: "卖盘"
+            rowHeight: book.rowHeight
+        }
+    }
+}
