@@ -202,10 +202,8 @@ void Exchange::rematch(const std::string &stockCode, Millis now)
 
 Exchange::Orders Exchange::openOrders(const std::string &stockCode)
 {
-    Orders orders = m_books.openOrders();
-    std::erase_if(orders, [&](const Order &order) {
-        return order.stockCode != stockCode || order.status == OrderStatus::Held;
-    });
+    Orders orders = m_books.openOrders(stockCode);
+    std::erase_if(orders, [](const Order &order) { return order.status == OrderStatus::Held; });
     std::sort(orders.begin(), orders.end(), comesFirst);
     return orders;
 }

@@ -288,6 +288,13 @@ std::vector<Order> Books::openOrders(UserId user)
     return orders(query);
 }
 
+std::vector<Order> Books::openOrders(const std::string &stock)
+{
+    Statement query(m_database, std::string(kOrderColumns) + "WHERE open = 1 AND stock = ? ORDER BY id");
+    query.bind(stock);
+    return orders(query);
+}
+
 std::vector<Order> Books::ordersOf(UserId user, int day, int limit, int offset)
 {
     Statement query(m_database, std::string(kOrderColumns) +

@@ -56,9 +56,10 @@ public:
     std::optional<Position> position(UserId user, const std::string &stock);
 
     std::optional<Order> order(std::int64_t id);
-    /** Of all users, or of one; oldest first. */
+    /** Of all users, of one, or in one stock; oldest first. */
     std::vector<Order> openOrders();
     std::vector<Order> openOrders(UserId user);
+    std::vector<Order> openOrders(const std::string &stock);
     /** Newest first. */
     std::vector<Order> ordersOf(UserId user, int day, int limit, int offset);
     std::vector<Deal> dealsOf(UserId user, int day, int limit, int offset);
