@@ -11,6 +11,8 @@ public:
 
     bool reset() override { return false; }
     qint64 size() const override { return bytes.size(); }
+    /// Some of it was taken to be sent, which happens once there is a connection.
+    bool wasTaken() const { return taken; }
 
 protected:
     qint64 readData(char *data, qint64 maxSize) override;
@@ -18,4 +20,5 @@ protected:
 
 private:
     const QByteArray bytes;
+    bool taken = false;
 };

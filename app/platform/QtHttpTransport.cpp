@@ -29,10 +29,11 @@ public:
     void start(const QUrl &url)
     {
         if (!isSafe(url)) {
-            QTimer::singleShot(0, this, [this] { finish(HttpFailure::Tls); });
+            QTimer::singleShot(0, this, [this] { fail(HttpFailure::Tls); });
             return;
         }
-        reply = manager.sendCustomRequest(prepared(url), request.method, new OneShotBody(request.body, this));
+        body = new OneShotBody(request.body, this);
+        reply = manager.sendCustomRequest(prepared(url), request.method, body);
         connect(reply, &QNetworkReply::finished, this, [this] { receive(); });
     }
 
@@ -65,7 +66,7 @@ private:
             reply->disconnect(this);
             reply->abort();
         }
-        finish(HttpFailure::TimedOut);
+        fail(HttpFailure::TimedOut);
     }
 
     void receive()
@@ -73,7 +74,7 @@ private:
         const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
         const QUrl target = reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
         if (const auto failure = failureOf(reply->error()))
-            return finish(*failure);
+            return fail(*failure);
         if ((status == 301 || status == 302 || status == 303) && target.isValid())
             return redirect(reply->url().resolved(target));
         finish(HttpResponse{status, reply->header(QNetworkRequest::ContentTypeHeader).toByteArray(),
@@ -83,10 +84,11 @@ private:
     void redirect(const QUrl &target)
     {
         if (++redirects > mostRedirects)
-            return finish(HttpFailure::Connection);
+            return fail(HttpFailure::Connection);
         const QUrl from = reply->url();
         if (target.scheme() != from.scheme() || target.authority() != from.authority())
             request.headers.clear();
+        bodyWasSent = bodyWasSent || body->wasTaken();
         request.method = "GET";
         request.body.clear();
         reply->deleteLater();
@@ -123,6 +125,18 @@ private:
         return isStatus ? std::nullopt : std::optional(HttpFailure::Connection);
     }
 
+    /// Never says that nothing was sent when something was, nor the other way round where that is known.
+    void fail(HttpFailure failure)
+    {
+        const bool saysUnsent = failure == HttpFailure::Offline || failure == HttpFailure::Tls;
+        bodyWasSent = bodyWasSent || (body && body->wasTaken());
+        if (bodyWasSent && saysUnsent)
+            failure = HttpFailure::Connection;
+        else if (!bodyWasSent && !saysUnsent && !request.body.isEmpty())
+            failure = HttpFailure::Offline;
+        finish(failure);
+    }
+
     void finish(const HttpOutcome &outcome)
     {
         deadline.stop();
@@ -139,6 +153,8 @@ private:
     std::function<void(const HttpOutcome &)> done;
     QTimer deadline;
     QNetworkReply *reply = nullptr;
+    OneShotBody *body = nullptr;
+    bool bodyWasSent = false;
     int redirects = 0;
 };
 

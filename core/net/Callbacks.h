@@ -29,6 +29,14 @@ using Operation = std::shared_ptr<RequestOperation>;
 struct RequestError {
     std::optional<HttpFailure> failure;
     int status = 0;
+
+    /// The service may have done the work that the request, one with a body, asked for. Not when nothing was
+    /// sent, and not after a status that says that the request was wrong.
+    bool mayHaveArrived() const
+    {
+        return failure ? *failure != HttpFailure::Offline && *failure != HttpFailure::Tls
+                       : status < 400 || status > 499;
+    }
 };
 
 /// A function that belongs to an owner: once the owner is gone, calling it does nothing.

@@ -22,8 +22,9 @@ struct HttpResponse {
     QByteArray body;
 };
 
-/// `Tls`: the other side could not prove itself, or an address was not HTTPS. `Cancelled`: given up on this
-/// side.
+/// `Offline`: no connection came about. `Tls`: the other side could not prove itself, or an address was not
+/// HTTPS. With these two nothing of a request with a body was sent; with the others it may have been, whole.
+/// `Cancelled`: given up on this side.
 enum class HttpFailure { Offline, TimedOut, Tls, Connection, Cancelled };
 
 using HttpOutcome = std::variant<HttpResponse, HttpFailure>;

@@ -5,6 +5,14 @@ TZInfoAlertView::TZInfoAlertView(TZInfoAlertViewModel alertModel, OwnedAction le
 {
 }
 
+void TZInfoAlertView::say(TZInfoAlertViewModel alertModel, OwnedAction left, OwnedAction right)
+{
+    model = std::move(alertModel);
+    leftAction = std::move(left);
+    rightAction = std::move(right);
+    Q_EMIT contentChanged();
+}
+
 void TZInfoAlertView::leftBtnClick()
 {
     close(leftAction);

@@ -15,10 +15,10 @@ struct TZInfoAlertViewModel {
 /// gone.
 class TZInfoAlertView : public KRDialog {
     Q_OBJECT
-    Q_PROPERTY(QString titleText READ titleText CONSTANT)
-    Q_PROPERTY(QString ensureText READ ensureText CONSTANT)
-    Q_PROPERTY(QString leftTitle READ leftTitle CONSTANT)
-    Q_PROPERTY(QString rightTitle READ rightTitle CONSTANT)
+    Q_PROPERTY(QString titleText READ titleText NOTIFY contentChanged)
+    Q_PROPERTY(QString ensureText READ ensureText NOTIFY contentChanged)
+    Q_PROPERTY(QString leftTitle READ leftTitle NOTIFY contentChanged)
+    Q_PROPERTY(QString rightTitle READ rightTitle NOTIFY contentChanged)
 public:
     TZInfoAlertView(TZInfoAlertViewModel alertModel, OwnedAction left, OwnedAction right);
 
@@ -31,6 +31,13 @@ public:
     Q_INVOKABLE void leftBtnClick();
     Q_INVOKABLE void rightBtnClick();
     void cancel() override;
+
+Q_SIGNALS:
+    void contentChanged();
+
+protected:
+    /// Says something else while it is shown.
+    void say(TZInfoAlertViewModel model, OwnedAction left, OwnedAction right);
 
 private:
     void close(const OwnedAction &action);

@@ -226,8 +226,8 @@ TEST_F(HttpTransportTest, FollowsRedirectsOnlyToSafePlacesAndKeepsTheTokenAtHome
         {"307 Again", "/target", "connection", "connection"},
         {"308 Again", foreign, "connection", "connection"},
         {"302 Found", loopbackHttp.url(QStringLiteral("target")).toLatin1(), "200 there", "200 there"},
-        {"302 Found", "http://service.example/target", "tls", "tls"},
-        {"302 Found", "file:///etc/passwd", "tls", "tls"},
+        {"302 Found", "http://service.example/target", "tls", "connection"},
+        {"302 Found", "file:///etc/passwd", "tls", "connection"},
         {"302 Found", "/again", "connection", "connection"},
         {"302 Found", "", "302 ", "302 "},
     };
@@ -307,6 +307,19 @@ TEST_F(HttpTransportTest, TellsWhyNothingCameBack)
     const QString gone = std::make_unique<WireServer>(&identity)->url(QStringLiteral("x"));
     EXPECT_EQ(described(get(gone)), "connection");
     EXPECT_EQ(described(get(QStringLiteral("https://nowhere.invalid/"))), "offline");
+}
+
+TEST_F(HttpTransportTest, AFormThatFoundNoConnectionIsKnownNotToHaveBeenSent)
+{
+    const QString gone = std::make_unique<WireServer>(&identity)->url(QStringLiteral("x"));
+    QTcpServer mute;
+    mute.listen(QHostAddress::LocalHost);
+    const QString silent = QStringLiteral("https://127.0.0.1:%1/").arg(mute.serverPort());
+    for (const QString &url : {gone, silent, QStringLiteral("https://nowhere.invalid/")}) {
+        HttpRequest request = form(url);
+        request.timeout = 200ms;
+        EXPECT_EQ(described(send(request)), "offline") << url.toStdString();
+    }
 }
 
 TEST_F(HttpTransportTest, DropsWhatIsOnItsWayWhenItGoes)

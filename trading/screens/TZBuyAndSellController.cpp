@@ -14,6 +14,7 @@
 #include "trading/screens/OrderBook.h"
 #include "trading/screens/TZSelectStockController.h"
 #include "trading/screens/TradeTexts.h"
+#include "trading/screens/UnknownOrders.h"
 
 #include <algorithm>
 
@@ -155,6 +156,7 @@ void TZBuyAndSellController::showQuote(const QVariantMap &data)
         latestPrice = textForm(match);
         Q_EMIT currentPriceChanged();
     }
+    quotedAt = integerValue(data.value(QStringLiteral("time")));
     previousClose = doubleValue(data.value(QStringLiteral("previousClose")));
     const QVariant buyPankou = data.value(QStringLiteral("buyPankou"));
     if (buyPankou.typeId() == QMetaType::QVariantList)
@@ -286,6 +288,25 @@ QString TZBuyAndSellController::fault() const
     return shares > limit ? QStringLiteral("超过交易数量上限") : QString();
 }
 
+OrderIntent TZBuyAndSellController::entry() const
+{
+    return {side, stock.stockCode, stock.stockName, priceField, quantityField, 0, quotedAt, {}};
+}
+
+bool TZBuyAndSellController::asksAboutUnknownOrder()
+{
+    const OrderIntent order = entry();
+    const std::optional<OrderIntent> unknown = UnknownOrders::find(order);
+    if (!unknown || !window() || (wantedAgain && wantedAgain->isSameOrder(order)))
+        return false;
+    const auto again = [this, order] {
+        wantedAgain = order;
+        passOn();
+    };
+    UnknownOrderDialogs::ask(*window(), *unknown, ways(), OwnedAction{this, again});
+    return true;
+}
+
 bool TZBuyAndSellController::needTradePwd() const
 {
     return boolValue(Platform::current().settings.value(SettingsKeys::needTradePwd));
@@ -297,9 +318,16 @@ void TZBuyAndSellController::submit()
     if (orderOnItsWay || asking)
         return;
     orderTimer.stop();
+    wantedAgain.reset();
     if (const QString message = fault(); !message.isEmpty())
         Service::showErrorWithMsg(message);
-    else if (needTradePwd())
+    else if (!asksAboutUnknownOrder())
+        passOn();
+}
+
+void TZBuyAndSellController::passOn()
+{
+    if (needTradePwd())
         showTradePwdPrompt();
     else
         orderTimer.startOnce(500ms, [this] { sendOrder({}); });
@@ -328,20 +356,22 @@ void TZBuyAndSellController::sendOrder(const QString &password)
     // The entry may have been edited since it was checked.
     if (const QString message = fault(); !message.isEmpty())
         return Service::showErrorWithMsg(message);
+    if (asksAboutUnknownOrder())
+        return;
     endEditing();
-    QVariantMap param{{QStringLiteral("stockCode"), stock.stockCode},
-                      {QStringLiteral("entrustShares"), quantityField},
-                      {QStringLiteral("entrustPrice"), priceField}};
-    if (!password.isEmpty())
-        param.insert(QStringLiteral("tradePassword"), password);
-
     orderOnItsWay = true;
-    const bool hadPassword = !password.isEmpty();
-    const Success answered{this, [this, hadPassword](const Operation &, const QVariantMap &answer) {
-                               showAnswer(answer, hadPassword);
-                           }};
-    const Operation operation = isBuyType() ? TZTradeTool::postCreatBuyWithParam(param, answered, {})
-                                            : TZTradeTool::postCreatSellWithParam(param, answered, {});
+    OrderIntent order = entry();
+    const auto answered = [this, hadPassword = !password.isEmpty()](const Operation &,
+                                                                    const QVariantMap &answer) {
+        showAnswer(answer, hadPassword);
+    };
+    const auto failed = [this, order](const Operation &, const RequestError &error) {
+        const std::optional<OrderIntent> unknown = UnknownOrders::find(order);
+        if (error.mayHaveArrived() && unknown && window())
+            UnknownOrderDialogs::tell(*window(), *unknown, ways());
+    };
+    const Operation operation =
+        UnknownOrders::send(order, password, Success{this, answered}, Failure{this, failed});
     connect(operation.get(), &RequestOperation::finished, this, [this] { orderOnItsWay = false; });
 }
 
@@ -352,8 +382,10 @@ void TZBuyAndSellController::showAnswer(const QVariantMap &answer, bool hadPassw
         settings.setValue(SettingsKeys::needTradePwd, false);
         settings.synchronize();
         const QVariant id = answer.value(dataKey).toMap().value(QStringLiteral("id"));
-        if (!Service::whetherAnEmptyString(id))
+        if (!Service::whetherAnEmptyString(id)) {
             orderPlaced();
+            showResult();
+        }
     } else if (wantsTradePassword(answer)) {
         if (hadPassword && Service::whetherAnEmptyString(answer.value(QStringLiteral("message"))))
             Service::showErrorWithMsg(QStringLiteral("交易密码不正确，请重试"));
@@ -370,7 +402,6 @@ void TZBuyAndSellController::backButtonClicked()
 void TZBuyAndSellController::orderPlaced()
 {
     clearFields();
-    showResult();
     if (!isBuyType() && delegateOwner)
         delegate->reloadHoldingData();
 }
@@ -379,15 +410,25 @@ void TZBuyAndSellController::showResult()
 {
     if (!window())
         return;
-    const auto goOn = [this] {
-        KRNavigationController *const stack = navigationController();
-        if (isBuyType())
-            stack->push(std::make_unique<TZSelectStockController>(this, this));
-        else if (stack->depth() > 1)
-            stack->popTo(stack->at(1));
-    };
     window()->show(std::make_unique<TZInfoAlertView>(
         TZInfoAlertViewModel{
             QStringLiteral("委托挂单成功"), {}, QStringLiteral("实盘炒股"), texts.continueTitle},
-        OwnedAction{this, [this] { backButtonClicked(); }}, OwnedAction{this, goOn}));
+        ways().leave, ways().goOn));
+}
+
+OrderWays TZBuyAndSellController::ways()
+{
+    return {OwnedAction{this, [this] { orderPlaced(); }}, OwnedAction{this, [this] { backButtonClicked(); }},
+            OwnedAction{this, [this] { goOn(); }}};
+}
+
+void TZBuyAndSellController::goOn()
+{
+    KRNavigationController *const stack = navigationController();
+    if (!stack)
+        return;
+    if (isBuyType())
+        stack->push(std::make_unique<TZSelectStockController>(this, this));
+    else if (stack->depth() > 1)
+        stack->popTo(stack->at(1));
 }

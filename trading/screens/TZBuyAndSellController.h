@@ -10,6 +10,7 @@
 #include "trading/screens/QuoteAge.h"
 #include "trading/screens/StockChooser.h"
 #include "trading/screens/TZHandicapView.h"
+#include "trading/screens/UnknownOrderDialogs.h"
 
 #include <QPointer>
 
@@ -113,12 +114,19 @@ private:
 
     /// What stands against sending the entry as it is now; "" when nothing does.
     QString fault() const;
+    OrderIntent entry() const;
+    /// Whether the same order is among those of unknown outcome; asks the user about it then, and goes on
+    /// with the submission when the user wants the order once more.
+    bool asksAboutUnknownOrder();
     bool needTradePwd() const;
+    void passOn();
     void showTradePwdPrompt();
     void sendOrder(const QString &password);
     void showAnswer(const QVariantMap &answer, bool hadPassword);
     void orderPlaced();
     void showResult();
+    OrderWays ways();
+    void goOn();
 
     const OrderSide side;
     const OrderTexts &texts;
@@ -136,6 +144,8 @@ private:
 
     QString latestPrice;
     double previousClose = 0;
+    /// On the service's clock, as the quote says.
+    qint64 quotedAt = 0;
     QList<TZHandicapModel> buyLevels;
     QList<TZHandicapModel> sellLevels;
     TZHandicapView buyView;
@@ -152,4 +162,6 @@ private:
     int shownQuote = 0;
     QPointer<TZTradePwdAlertView> prompt;
     bool orderOnItsWay = false;
+    /// The order that the user wants although one like it is of unknown outcome.
+    std::optional<OrderIntent> wantedAgain;
 };

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "core/session/SettingsKeys.h"
+#include "tests/trading/TradingFixture.h"
+#include "trading/api/TZStockInfoModel.h"
+#include "trading/screens/TZBuyAndSellController.h"
+#include "trading/screens/TZSelectStockController.h"
+
+inline const QString buyPath = QStringLiteral("entrust/createBuy");
+inline const QString sellPath = QStringLiteral("entrust/createSell");
+inline const QString quotePath = QStringLiteral("timelyInfo/timelyOrderForm");
+
+inline TZStockInfoModel stock(const QString &code, const QString &name)
+{
+    return {code, name, QString()};
+}
+
+inline QVariantMap quote(const QVariant &match, double best = 12.34)
+{
+    QVariantList levels;
+    for (int i = 0; i < 10; ++i)
+        levels.append(
+            QVariantMap{{"price", QString::number(best + i / 100.0, 'f', 2)}, {"volume", 100 * (i + 1)}});
+    return succeeded(QVariantMap{{"match", match}, {"buyPankou", levels}, {"sellPankou", levels}});
+}
+
+class HoldingsList : public QObject, public HoldingsDelegate {
+public:
+    void reloadHoldingData() override { ++reloads; }
+    int reloads = 0;
+};
+
+/// Order entry of both sides, opened as its callers do.
+class OrderEntryTest : public TradingFixture {
+protected:
+    OrderEntryTest() { settings.setValue(SettingsKeys::needTradePwd, false); }
+
+    void openBuying(const QString &money = QStringLiteral("10000.00"))
+    {
+        screen = push<TZBuyAndSellController>(OrderSide::Buy);
+        http.answer(QStringLiteral("buyPage"), succeeded(money));
+    }
+    void openSelling(const QString &available = QStringLiteral("1237"))
+    {
+        TZZorvanePageStocksModel holding;
+        holding.stockCode = QStringLiteral("600001");
+        holding.stockName = QStringLiteral("海天传媒");
+        holding.availableShares = available;
+        screen = push<TZBuyAndSellController>(OrderSide::Sell, holding, &holdings, &holdings);
+        http.answer(QStringLiteral("buyPage"), succeeded("10000.00"));
+    }
+    void enter(const QString &price, const QString &quantity)
+    {
+        screen->editPrice(price);
+        runLoop.advance(100ms);
+        screen->editQuantity(quantity);
+    }
+    void openWithEntry()
+    {
+        openBuying();
+        screen->chooseStock(stock("600001", "海天传媒"));
+        enter("12.34", "800");
+    }
+    /// The entry of `openWithEntry`, sent.
+    void submitEntry()
+    {
+        screen->submit();
+        runLoop.advance(500ms);
+    }
+    QString lastBanner() const { return banners().isEmpty() ? QString() : banners().constLast(); }
+    QStringList titles(TZHandicapView *view) const
+    {
+        QStringList all;
+        for (const HandicapRow &row : view->rows()->rows())
+            all.append(row.title);
+        return all;
+    }
+
+    HoldingsList holdings;
+    TZBuyAndSellController *screen = nullptr;
+};

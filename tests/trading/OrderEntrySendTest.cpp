@@ -1,0 +1,235 @@
+#include "tests/trading/OrderEntryFixture.h"
+#include "trading/screens/UnknownOrders.h"
+
+TEST_F(OrderEntryTest, TapsWithinHalfASecondSendOneOrderHalfASecondAfterTheLast)
+{
+    openWithEntry();
+    screen->submit();
+    runLoop.advance(400ms);
+    screen->submit();
+    runLoop.advance(400ms);
+    screen->submit();
+    runLoop.advance(499ms);
+    EXPECT_EQ(http.countOf(buyPath), 0);
+    runLoop.advance(1ms);
+    EXPECT_EQ(http.countOf(buyPath), 1);
+    EXPECT_EQ(http.pending(buyPath).fields(),
+              (QVariantMap{{"stockCode", "600001"}, {"entrustShares", "800"}, {"entrustPrice", "12.34"}}));
+    runLoop.advance(10s);
+    EXPECT_EQ(http.countOf(buyPath), 1);
+}
+
+TEST_F(OrderEntryTest, NoSecondOrderGoesWhileOneIsOnItsWay)
+{
+    openWithEntry();
+    submitEntry();
+    // A refused quote takes the indicator away although the order is still on its way.
+    http.answer(quotePath, refused("行情不可用"));
+    EXPECT_FALSE(overlays.isWaiting());
+    screen->submit();
+    runLoop.advance(14s);
+    EXPECT_EQ(http.countOf(buyPath), 1);
+
+    http.fail(buyPath, HttpFailure::Offline);
+    EXPECT_EQ(lastBanner(), "加载失败");
+    EXPECT_EQ(alert(), nullptr);
+    EXPECT_EQ(screen->quantity(), "800");
+    submitEntry();
+    EXPECT_EQ(http.countOf(buyPath), 2);
+}
+
+TEST_F(OrderEntryTest, StaysUntilTheOutcomeOfAnOrderIsKnown)
+{
+    openWithEntry();
+    submitEntry();
+    screen->backButtonClicked();
+    EXPECT_EQ(top<TZBuyAndSellController>(), screen);
+    http.answer(buyPath, refused("资金不足"));
+    screen->backButtonClicked();
+    EXPECT_EQ(top<TZBuyAndSellController>(), nullptr);
+}
+
+TEST_F(OrderEntryTest, AnEntryChangedInTheHalfSecondIsCheckedAgain)
+{
+    openWithEntry();
+    screen->submit();
+    screen->editQuantity("99999900");
+    runLoop.advance(500ms);
+    EXPECT_EQ(lastBanner(), "超过交易数量上限");
+    EXPECT_EQ(http.countOf(buyPath), 0);
+}
+
+TEST_F(OrderEntryTest, LeavingInTheHalfSecondSendsNothing)
+{
+    openWithEntry();
+    screen->submit();
+    screen->backButtonClicked();
+    runLoop.advance(1s);
+    EXPECT_EQ(http.countOf(buyPath), 0);
+}
+
+TEST_F(OrderEntryTest, TheFirstOrderAsksForThePasswordTheNextDoesNot)
+{
+    settings.setValue(SettingsKeys::needTradePwd, true);
+    openWithEntry();
+    screen->submit();
+    screen->submit();
+    ASSERT_NE(prompt(), nullptr);
+    EXPECT_EQ(window.dialogs()->count(), 1);
+    runLoop.advance(5s);
+    EXPECT_EQ(http.countOf(buyPath), 0);
+
+    screen->checkTradePwd(QString());
+    EXPECT_EQ(lastBanner(), "请输入交易密码");
+    EXPECT_NE(prompt(), nullptr);
+    EXPECT_EQ(http.countOf(buyPath), 0);
+
+    typePassword("123456");
+    EXPECT_EQ(prompt(), nullptr);
+    EXPECT_EQ(http.pending(buyPath).fields().value("tradePassword"), "123456");
+    const int flushes = settings.flushes;
+    http.answer(buyPath, succeeded(QVariantMap{{"id", 77}}));
+    EXPECT_EQ(settings.value(SettingsKeys::needTradePwd), false);
+    EXPECT_GT(settings.flushes, flushes);
+    ASSERT_NE(alert(), nullptr);
+    alert()->cancel();
+
+    enter("12.34", "100");
+    submitEntry();
+    EXPECT_FALSE(http.pending(buyPath).fields().contains("tradePassword"));
+}
+
+TEST_F(OrderEntryTest, ARefusedPasswordBringsThePromptBack)
+{
+    for (const QVariant &code : {QVariant("12000"), QVariant("12002"), QVariant(12000), QVariant(12002.0)}) {
+        openWithEntry();
+        submitEntry();
+        QVariantMap answer = refused("交易密码错误");
+        answer.insert("code", code);
+        http.answer(buyPath, answer);
+        EXPECT_EQ(lastBanner(), "交易密码错误");
+        typePassword("111111");
+        answer.insert("message", "");
+        http.answer(buyPath, answer);
+        EXPECT_EQ(lastBanner(), "交易密码不正确，请重试");
+        typePassword("123456");
+        EXPECT_EQ(http.pending(buyPath).fields().value("tradePassword"), "123456");
+        http.answer(buyPath, succeeded(QVariantMap{{"id", "9"}}));
+        ASSERT_NE(alert(), nullptr);
+        alert()->leftBtnClick();
+        settle();
+    }
+}
+
+TEST_F(OrderEntryTest, AnOrderWithoutAPasswordIsNotToldThatItWasWrong)
+{
+    openWithEntry();
+    submitEntry();
+    QVariantMap answer = refused("");
+    answer.insert("code", "12000");
+    http.answer(buyPath, answer);
+    EXPECT_EQ(lastBanner(), "");
+    EXPECT_NE(prompt(), nullptr);
+}
+
+TEST_F(OrderEntryTest, AnyOtherRefusalShowsOnlyTheServersMessageAndKeepsTheEntry)
+{
+    openWithEntry();
+    for (const QVariant &code :
+         {QVariant("12001"), QVariant(), QVariant("abc"), QVariant(QVariantList{12000})}) {
+        submitEntry();
+        QVariantMap answer = refused("可用资金不足");
+        answer.insert("code", code);
+        http.answer(buyPath, answer);
+        EXPECT_EQ(lastBanner(), "可用资金不足");
+        EXPECT_EQ(window.dialogs()->count(), 0);
+        EXPECT_EQ(screen->price() + screen->quantity(), "12.34800");
+    }
+}
+
+TEST_F(OrderEntryTest, AnAcceptedAnswerWithoutAnIdentifierShowsNothing)
+{
+    for (const QVariant &data : {QVariant(), QVariant("x"), QVariant(QVariantMap{{"id", ""}}),
+                                 QVariant(QVariantMap{{"id", QVariant::fromValue(nullptr)}})}) {
+        settings.setValue(SettingsKeys::needTradePwd, false);
+        openWithEntry();
+        submitEntry();
+        settings.setValue(SettingsKeys::needTradePwd, true);
+        http.answer(buyPath, succeeded(data));
+        EXPECT_EQ(settings.value(SettingsKeys::needTradePwd), false);
+        EXPECT_EQ(alert(), nullptr);
+        EXPECT_EQ(screen->quantity(), "800");
+        settings.remove(UnknownOrders::settingsKey);
+    }
+}
+
+TEST_F(OrderEntryTest, APlacedBuyOffersTheTradingPageOrAnotherStock)
+{
+    openWithEntry();
+    submitEntry();
+    http.answer(buyPath, succeeded(QVariantMap{{"id", "9"}}));
+    EXPECT_EQ(screen->price() + screen->quantity(), "");
+    ASSERT_NE(alert(), nullptr);
+    EXPECT_EQ(alert()->titleText(), "委托挂单成功");
+    EXPECT_EQ(alert()->leftTitle(), "实盘炒股");
+    EXPECT_EQ(alert()->rightTitle(), "继续买入");
+
+    alert()->rightBtnClick();
+    EXPECT_NE(top<TZSelectStockController>(), nullptr);
+    screen->chooseStock(stock("000002", "东方钢铁"));
+    stack().pop();
+    EXPECT_EQ(screen->stockText(), "东方钢铁(000002)");
+
+    enter("12.34", "100");
+    submitEntry();
+    http.answer(buyPath, succeeded(QVariantMap{{"id", "10"}}));
+    const int depth = stack().depth();
+    alert()->leftBtnClick();
+    EXPECT_EQ(stack().depth(), depth - 1);
+}
+
+TEST_F(OrderEntryTest, APlacedSaleReloadsTheHoldingsAndGoesBackToTheSecondScreen)
+{
+    KRBaseController *const second = push<KRBaseController>();
+    push<KRBaseController>();
+    openSelling();
+    enter("12.34", "1200");
+    submitEntry();
+    EXPECT_EQ(http.countOf(buyPath), 0);
+    http.answer(sellPath, succeeded(QVariantMap{{"id", "9"}}));
+    EXPECT_EQ(holdings.reloads, 1);
+    EXPECT_EQ(alert()->rightTitle(), "继续卖出");
+    alert()->rightBtnClick();
+    EXPECT_EQ(stack().top(), second);
+}
+
+TEST_F(OrderEntryTest, AnswersAfterTheScreenIsGoneDoNothing)
+{
+    settings.setValue(SettingsKeys::needTradePwd, true);
+    openWithEntry();
+    screen->submit();
+    typePassword("123456");
+    FakeTransport::Sent &order = http.pending(buyPath);
+    FakeTransport::Sent &late = http.pending(quotePath);
+    stack().pop();
+    settle();
+    http.answer(late, quote("12.30"));
+    http.answer(order, succeeded(QVariantMap{{"id", "9"}}));
+    notifications.post(TZHandicapView::priceSelectNotification, QVariantMap{{"price", "1.00"}});
+    runLoop.advance(10s);
+    EXPECT_EQ(alert(), nullptr);
+    EXPECT_EQ(runLoop.activeTimers(), 0);
+}
+
+TEST_F(OrderEntryTest, ThePromptGoesWithItsScreen)
+{
+    settings.setValue(SettingsKeys::needTradePwd, true);
+    openWithEntry();
+    screen->submit();
+    prompt()->setInputTextField("123456");
+    stack().pop();
+    settle();
+    runLoop.advance(2s);
+    EXPECT_EQ(http.countOf(buyPath), 0);
+    EXPECT_EQ(window.dialogs()->count(), 0);
+}

@@ -1,0 +1,78 @@
+#include "trading/screens/OrderIntent.h"
+
+#include "core/util/Text.h"
+#include "trading/screens/TradeTexts.h"
+
+#include <cmath>
+
+namespace {
+const QString sideKey = QStringLiteral("side");
+const QString codeKey = QStringLiteral("stockCode");
+const QString nameKey = QStringLiteral("stockName");
+const QString priceKey = QStringLiteral("entrustPrice");
+const QString sharesKey = QStringLiteral("entrustShares");
+const QString sentKey = QStringLiteral("sentAt");
+const QString quotedKey = QStringLiteral("quotedAt");
+const QString earlierKey = QStringLiteral("earlier");
+
+/// The service writes "12.30" for a typed "12.3".
+bool isSamePrice(const QString &one, const QString &other)
+{
+    return std::abs(doubleValue(one) - doubleValue(other)) < 0.0005;
+}
+} // namespace
+
+QVariantMap OrderIntent::parameters() const
+{
+    return {{codeKey, stockCode}, {sharesKey, shares}, {priceKey, price}};
+}
+
+bool OrderIntent::isSameOrder(const OrderIntent &other) const
+{
+    return side == other.side && stockCode == other.stockCode && isSamePrice(price, other.price) &&
+           integerValue(shares) == integerValue(other.shares);
+}
+
+bool OrderIntent::isLike(const TZEntrustsTodayModel &entrust) const
+{
+    return TradeTexts::isSell(entrust.type) == (side == OrderSide::Sell) && stockCode == entrust.stockCode &&
+           isSamePrice(price, entrust.entrustPrice) &&
+           integerValue(shares) == integerValue(entrust.entrustShares);
+}
+
+bool OrderIntent::became(const TZEntrustsTodayModel &entrust) const
+{
+    const qint64 createdAt = integerValue(entrust.createdAt);
+    const bool isOlder = quotedAt > 0 && createdAt > 0 && createdAt < quotedAt;
+    return isLike(entrust) && !isOlder && !earlier.contains(entrust.id);
+}
+
+QString OrderIntent::text() const
+{
+    return QStringLiteral("%1 %2\n%3元 × %4股")
+        .arg(OrderTexts::of(side).title, TradeTexts::stock(stockName, stockCode), price, shares);
+}
+
+QVariantMap OrderIntent::toMap() const
+{
+    return {{sideKey, static_cast<int>(side)},
+            {codeKey, stockCode},
+            {nameKey, stockName},
+            {priceKey, price},
+            {sharesKey, shares},
+            {sentKey, sentAt},
+            {quotedKey, quotedAt},
+            {earlierKey, earlier}};
+}
+
+OrderIntent OrderIntent::fromMap(const QVariantMap &map)
+{
+    return {integerValue(map.value(sideKey)) == 0 ? OrderSide::Buy : OrderSide::Sell,
+            textForm(map.value(codeKey)),
+            textForm(map.value(nameKey)),
+            textForm(map.value(priceKey)),
+            textForm(map.value(sharesKey)),
+            integerValue(map.value(sentKey)),
+            integerValue(map.value(quotedKey)),
+            map.value(earlierKey).toStringList()};
+}
