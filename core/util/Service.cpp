@@ -27,6 +27,12 @@ QRegularExpression whole(const QString &pattern)
     return QRegularExpression(QRegularExpression::anchoredPattern(pattern));
 }
 
+/// Most texts that are asked about are figures: they need no closer look.
+bool startsLikeAFigure(const QString &text)
+{
+    return !text.isEmpty() && text.front() >= u'0' && text.front() <= u'9';
+}
+
 /// Adds one to a text of decimal digits.
 void addOne(QString &digits)
 {
@@ -134,6 +140,9 @@ bool Service::whetherAnEmptyString(const QVariant &value)
     if (!value.isValid() || isNullMarker(value))
         return true;
     if (value.typeId() == QMetaType::QVariantMap || value.typeId() == QMetaType::QVariantList)
+        return false;
+    if (value.typeId() == QMetaType::QString &&
+        startsLikeAFigure(*static_cast<const QString *>(value.constData())))
         return false;
     const QString text = textForm(value);
     return trimBlanks(text).isEmpty() || text == QLatin1String("<null>") || text == QLatin1String("(null)");

@@ -3,6 +3,7 @@
 #include <QLocale>
 #include <QMetaProperty>
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -82,9 +83,11 @@ double asciiNumber(QStringView number)
 {
     QVarLengthArray<char, 64> ascii(number.size());
     std::transform(number.begin(), number.end(), ascii.begin(), [](QChar c) { return c.toLatin1(); });
-    bool fits = false;
-    const double value = QByteArray::fromRawData(ascii.data(), ascii.size()).toDouble(&fits);
-    return fits ? value : QLocale::c().toDouble(number);
+    const char *const end = ascii.data() + ascii.size();
+    const char *const start = number.startsWith(u'+') ? ascii.data() + 1 : ascii.data();
+    double value = 0;
+    const auto [read, problem] = std::from_chars(start, end, value);
+    return problem == std::errc() && read == end ? value : QLocale::c().toDouble(number);
 }
 
 double finiteNumber(double number)

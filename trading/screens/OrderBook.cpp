@@ -4,11 +4,26 @@
 #include "core/util/Text.h"
 
 namespace {
+const QString buySide = QStringLiteral("买");
+const QString sellSide = QStringLiteral("卖");
+
+QStringList numbered(const QString &side)
+{
+    QStringList titles;
+    for (int level = 1; level <= OrderBook::depth; ++level)
+        titles.append(side + QString::number(level));
+    return titles;
+}
+
 TZHandicapModel levelAt(const QVariantList &pankou, int index, const QString &side)
 {
-    const QVariantMap level = pankou.value(index).toMap();
-    return {side + QString::number(index + 1), textForm(level.value(QStringLiteral("price"))),
-            textForm(level.value(QStringLiteral("volume")))};
+    static const QStringList buyTitles = numbered(buySide);
+    static const QStringList sellTitles = numbered(sellSide);
+    static const QString price = QStringLiteral("price");
+    static const QString volume = QStringLiteral("volume");
+    const QVariantMap level = index < pankou.size() ? pankou.at(index).toMap() : QVariantMap();
+    const QStringList &titles = side == buySide ? buyTitles : sellTitles;
+    return {titles.at(index), textForm(level.value(price)), textForm(level.value(volume))};
 }
 } // namespace
 
@@ -26,7 +41,7 @@ QList<TZHandicapModel> OrderBook::buyLevels(const QVariantList &pankou)
     QList<TZHandicapModel> levels;
     levels.reserve(depth);
     for (int row = 0; row < depth; ++row)
-        levels.append(levelAt(pankou, row, QStringLiteral("买")));
+        levels.append(levelAt(pankou, row, buySide));
     return levels;
 }
 
@@ -35,7 +50,7 @@ QList<TZHandicapModel> OrderBook::sellLevels(const QVariantList &pankou)
     QList<TZHandicapModel> levels;
     levels.reserve(depth);
     for (int row = 0; row < depth; ++row)
-        levels.append(levelAt(pankou, row < 5 ? 4 - row : 14 - row, QStringLiteral("卖")));
+        levels.append(levelAt(pankou, row < 5 ? 4 - row : 14 - row, sellSide));
     return levels;
 }
 
