@@ -10,13 +10,6 @@
 
 using namespace std::chrono_literals;
 
-namespace {
-QVariantMap pageParam(int page)
-{
-    return {{QStringLiteral("page"), page}};
-}
-} // namespace
-
 TodayRow TodayRow::of(const TZEntrustsTodayModel &entrust)
 {
     const EntrustStatus status = EntrustStatus::of(entrust.status);
@@ -55,21 +48,11 @@ TodayRow TodayRow::spoken() const
     return row;
 }
 
-Operation TZDealAndEntrustController::EntrustList::requestPage(int page, Success success)
-{
-    // Kept on purpose: the first page of the entrusts, unlike that of the deals, is asked for without its
-    // number.
-    return TZTradeTool::getEntrustsTodayWithParam(page == 0 ? QVariantMap() : pageParam(page),
-                                                  std::move(success), {});
-}
-
-Operation TZDealAndEntrustController::DealList::requestPage(int page, Success success)
-{
-    return TZTradeTool::getDetailsTodayWithParam(pageParam(page), std::move(success), {});
-}
-
+// Kept on purpose: the first page of the entrusts, unlike that of the deals, is asked for without its number.
 TZDealAndEntrustController::TZDealAndEntrustController()
-    : entrusts([this] { startGuard(); }), deals([this] { startGuard(); })
+    : entrusts(TZTradeTool::getEntrustsTodayWithParam, TodayList::FirstPage::Unnumbered,
+               [this] { startGuard(); }),
+      deals(TZTradeTool::getDetailsTodayWithParam, TodayList::FirstPage::Numbered, [this] { startGuard(); })
 {
 }
 

@@ -80,20 +80,11 @@ Q_SIGNALS:
     void currentPageChanged();
 
 private:
-    class EntrustList : public TodayListOf<TZEntrustsTodayModel, TodayRow> {
-        using TodayListOf::TodayListOf;
-        Operation requestPage(int page, Success success) override;
-    };
-    class DealList : public TodayListOf<TZDetailsTodayModel, TodayRow> {
-        using TodayListOf::TodayListOf;
-        Operation requestPage(int page, Success success) override;
-    };
-
     void startGuard();
     void endRefreshing();
 
-    EntrustList entrusts;
-    DealList deals;
+    TodayListOf<TZEntrustsTodayModel, TodayRow> entrusts;
+    TodayListOf<TZDetailsTodayModel, TodayRow> deals;
     Timer guard;
     int pageIndex = 0;
     /// The deals have been asked for.

@@ -1,6 +1,9 @@
 #include "trading/screens/TodayList.h"
 
-TodayList::TodayList(std::function<void()> startGuard) : guard(std::move(startGuard)) {}
+TodayList::TodayList(Read readPage, FirstPage first, std::function<void()> startGuard)
+    : read(readPage), firstPage(first), guard(std::move(startGuard))
+{
+}
 
 void TodayList::refreshData()
 {
@@ -17,7 +20,9 @@ void TodayList::ask(int wanted)
     const auto answered = [this, wanted](const Operation &, const QVariantMap &answer) {
         show(wanted, answer.value(QStringLiteral("data")));
     };
-    const Operation operation = requestPage(wanted, Success{this, answered});
+    const bool numbered = wanted > 0 || firstPage == FirstPage::Numbered;
+    const QVariantMap param = numbered ? QVariantMap{{QStringLiteral("page"), wanted}} : QVariantMap();
+    const Operation operation = read(param, Success{this, answered}, {});
     if (!operation)
         return ended(wanted);
     connect(operation.get(), &RequestOperation::finished, this, [this, wanted] { ended(wanted); });

@@ -13,16 +13,18 @@ class TodayList : public TZBaseTableViewController {
     Q_OBJECT
     Q_PROPERTY(GadgetListModel *rows READ rows CONSTANT)
 public:
+    using Read = Operation (*)(const QVariantMap &param, Success success, Failure andError);
+    /// How the first page is asked for: with "page" 0, or without parameters.
+    enum class FirstPage { Numbered, Unnumbered };
+
     /// `startGuard` is called with every request: it ends the spinners of both lists when no answer comes.
-    explicit TodayList(std::function<void()> startGuard);
+    TodayList(Read readPage, FirstPage firstPage, std::function<void()> startGuard);
 
     virtual GadgetListModel *rows() = 0;
     int currentPage() const { return counter; }
     using TZBaseTableViewController::endRefreshing;
 
 protected:
-    /// `page` 0 is the refresh.
-    virtual Operation requestPage(int page, Success success) = 0;
     virtual void replace(const QVariant &data) = 0;
     virtual void append(const QVariant &data) = 0;
 
@@ -34,7 +36,9 @@ private:
     void show(int wanted, const QVariant &data);
     void ended(int wanted);
 
-    std::function<void()> guard;
+    const Read read;
+    const FirstPage firstPage;
+    const std::function<void()> guard;
     int counter = 0;
     int answeredPage = 0;
 };
