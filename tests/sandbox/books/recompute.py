@@ -44,7 +44,7 @@ def decimals(numerator, denominator, places):
     if denominator == 0:
         return f"{0:.{places}f}"
     scaled = half_up(abs(numerator) * 10**places, denominator)
-    sign = "-" if numerator < 0 else ""
+    sign = "-" if numerator < 0 < scaled else ""
     return f"{sign}{scaled // 10**places}.{scaled % 10**places:0{places}d}"
 
 

