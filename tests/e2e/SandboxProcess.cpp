@@ -1,5 +1,6 @@
 #include "tests/e2e/SandboxProcess.h"
 
+#include "core/net/FormBody.h"
 #include "tests/e2e/Hand.h"
 
 #include <QCoreApplication>
@@ -36,20 +37,33 @@ QString SandboxProcess::authority() const
     return folder.filePath(QStringLiteral("ca.pem"));
 }
 
-QVariantMap SandboxProcess::state() const
+QByteArray SandboxProcess::exchange(const QString &path, const QByteArray &form) const
 {
-    QNetworkRequest request(QUrl(url + QStringLiteral("sandbox/state")));
+    QNetworkRequest request(QUrl(url + QStringLiteral("sandbox/") + path));
     QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
     tls.setCaCertificates(QSslCertificate::fromPath(authority()));
     request.setSslConfiguration(tls);
+    request.setHeader(QNetworkRequest::ContentTypeHeader,
+                      QStringLiteral("application/x-www-form-urlencoded"));
     QNetworkAccessManager manager;
-    const std::unique_ptr<QNetworkReply> reply(manager.get(request));
+    const std::unique_ptr<QNetworkReply> reply(form.isNull() ? manager.get(request)
+                                                             : manager.post(request, form));
     Hand::wait([&] { return reply->isFinished(); });
-    return QJsonDocument::fromJson(reply->readAll())
+    return reply->readAll();
+}
+
+QVariantMap SandboxProcess::state() const
+{
+    return QJsonDocument::fromJson(exchange(QStringLiteral("state"), {}))
         .object()
         .toVariantMap()
         .value(QStringLiteral("data"))
         .toMap();
+}
+
+void SandboxProcess::post(const QString &path, const QVariantMap &fields) const
+{
+    exchange(path, formFields(fields));
 }
 
 int SandboxProcess::unknownRequests() const

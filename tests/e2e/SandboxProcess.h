@@ -21,8 +21,11 @@ public:
     QVariantMap state() const;
     /// How many requests went to paths that the sandbox does not know.
     int unknownRequests() const;
+    /// Posts a form to a path below "sandbox/": a fault, the clock, a price.
+    void post(const QString &path, const QVariantMap &fields) const;
 
 private:
+    QByteArray exchange(const QString &path, const QByteArray &form) const;
     void readLines();
 
     QTemporaryDir folder;
