@@ -111,16 +111,21 @@ void Exchange::workMoment(Orders &orders, int day, int moment)
     const Millis time = m_market.calendar().timeOf(day, moment);
     const bool auction = m_market.calendar().isAuction(moment);
     Shared shared;
+    const Stock *stock = nullptr;
+    Cents price = 0;
     for (Order &order : orders) {
         if (!isOpen(order.status) || order.createdAt >= time)
             continue;
-        const Stock &stock = *m_market.stocks().find(order.stockCode);
+        if (!stock || stock->code != order.stockCode) {
+            stock = m_market.stocks().find(order.stockCode);
+            price = m_market.spot(*stock, time).price;
+        }
         if (auction)
-            matchAuction(order, stock, time, shared);
+            matchAuction(order, *stock, price, time, shared);
         else if (order.status == OrderStatus::Held)
-            forward(order, orders, stock, time);
-        else
-            matchResting(order, orders, stock, time, shared);
+            forward(order, orders, *stock, time);
+        else if (reaches(order, price))
+            matchResting(order, orders, *stock, price, time, shared);
     }
 }
 
@@ -220,11 +225,9 @@ void Exchange::matchArriving(Order &order, Orders &others, const Stock &stock, M
         queue(order, ahead, order.status, now);
 }
 
-void Exchange::matchResting(Order &order, Orders &others, const Stock &stock, Millis now, Shared &shared)
+void Exchange::matchResting(Order &order, Orders &others, const Stock &stock, Cents price, Millis now,
+                            Shared &shared)
 {
-    const Cents price = m_market.spot(stock, now).price;
-    if (!reaches(order, price))
-        return;
     takeDepth(order, others, stock, now, true);
     if (!isOpen(order.status))
         return;
@@ -243,10 +246,9 @@ void Exchange::matchResting(Order &order, Orders &others, const Stock &stock, Mi
     }
 }
 
-void Exchange::matchAuction(Order &order, const Stock &stock, Millis now, Shared &shared)
+void Exchange::matchAuction(Order &order, const Stock &stock, Cents print, Millis now, Shared &shared)
 {
     // Whoever is better than the one price is served in full; at the price itself there may not be enough.
-    const Cents print = m_market.spot(stock, now).price;
     if (order.price == print)
         fill(order, print, shareOf(order, m_market.openToUsers(stock, now), shared), {}, now);
     else if (reaches(order, print))

@@ -54,8 +54,9 @@ private:
 
     Orders openOrders(const std::string &stockCode);
     void matchArriving(Order &order, Orders &others, const Stock &stock, Millis now);
-    void matchResting(Order &order, Orders &others, const Stock &stock, Millis now, Shared &shared);
-    void matchAuction(Order &order, const Stock &stock, Millis now, Shared &shared);
+    void matchResting(Order &order, Orders &others, const Stock &stock, Cents price, Millis now,
+                      Shared &shared);
+    void matchAuction(Order &order, const Stock &stock, Cents print, Millis now, Shared &shared);
     void forward(Order &order, Orders &others, const Stock &stock, Millis now);
     void takeDepth(Order &order, Orders &others, const Stock &stock, Millis now, bool atOwnPrice);
     /** Trades with the others whose price is better for the order than `before`. */

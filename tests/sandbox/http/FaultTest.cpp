@@ -121,10 +121,8 @@ TEST_F(Fault, CountsDownAndIsCleared)
 TEST_F(Fault, AStoppingServiceDoesNotWaitForDelayedCalls)
 {
     add("delay", "userIndex", {{"delay", "60000"}});
-    std::thread slow([this] {
-        Client other = running.client();
-        static_cast<void>(other.get("userIndex"));
-    });
+    Client other = running.client();
+    std::thread slow([&other] { static_cast<void>(other.get("userIndex")); });
     std::this_thread::sleep_for(std::chrono::milliseconds(100));
     const auto began = std::chrono::steady_clock::now();
     running.restart();
