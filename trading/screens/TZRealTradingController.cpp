@@ -26,11 +26,6 @@ QString figure(const QString &amount)
 {
     return Service::whetherAnEmptyString(amount) ? QStringLiteral("--") : labelAmount(amount);
 }
-
-QString line(const QString &amount)
-{
-    return Service::whetherAnEmptyString(amount) ? QStringLiteral("--") : labelAmountWithYuan(amount);
-}
 } // namespace
 
 TZRealTradingController::TZRealTradingController(Router &appRouter) : router(appRouter)
@@ -185,8 +180,12 @@ void TZRealTradingController::rightItemClick()
 
 void TZRealTradingController::showWarning()
 {
-    const QString lines = QStringLiteral("亏损警告线 %1\n亏损平仓线 %2")
-                              .arg(line(warnInfo.warnLine), line(warnInfo.closeOutLine));
+    if (Service::whetherAnEmptyString(warnInfo.warnLine) &&
+        Service::whetherAnEmptyString(warnInfo.closeOutLine))
+        return;
+    const QString lines =
+        QStringLiteral("亏损警告线 %1\n亏损平仓线 %2")
+            .arg(labelAmountWithYuan(warnInfo.warnLine), labelAmountWithYuan(warnInfo.closeOutLine));
     const auto seeDetail = [this] {
         router.openWeb(*this,
                        {QStringLiteral("股票购买规则"), Platform::current().application.apiBaseUrl() +

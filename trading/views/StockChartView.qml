@@ -127,7 +127,7 @@ T.Control {
         radius: Theme.radius
         color: Theme.transparent
         border.width: Theme.focusRingWidth
-        border.color: Theme.focusRing
+        border.color: Theme.deep.focusRing
     }
     MouseArea {
         id: hand

@@ -1,0 +1,76 @@
+#include "tests/shell/RealWindow.h"
+
+#include "ui/Look.h"
+
+#include <QDeadlineTimer>
+#include <QGuiApplication>
+
+using namespace std::chrono_literals;
+
+namespace {
+std::string collected;
+
+void collect(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    if (type != QtDebugMsg && type != QtInfoMsg)
+        collected += message.toStdString() + '\n';
+}
+} // namespace
+
+RealWindowTest::RealWindowTest()
+{
+    collected.clear();
+    signIn();
+    shell.didFinishLaunchingWithOptions({});
+    engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine->setInitialProperties({{QStringLiteral("window"), QVariant::fromValue(&window)},
+                                  {QStringLiteral("overlays"), QVariant::fromValue(&overlays)}});
+    engine->load(QUrl(QStringLiteral("qrc:/qt/qml/Zorvane/Ui/Main.qml")));
+    pass();
+}
+
+void RealWindowTest::SetUp()
+{
+    ASSERT_FALSE(engine->rootObjects().isEmpty());
+}
+
+void RealWindowTest::TearDown()
+{
+    engine.reset();
+    settle();
+    EXPECT_EQ(complaints(), "");
+}
+
+void RealWindowTest::pass()
+{
+    for (const QDeadlineTimer limit(400ms); !limit.hasExpired();)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+}
+
+void RealWindowTest::answerAll()
+{
+    for (int round = 0; round < 3; ++round) {
+        for (FakeTransport::Sent &sent : http.sent) {
+            if (!sent.answered)
+                http.answer(sent, succeeded());
+        }
+        runLoop.advance(4s);
+    }
+}
+
+std::string RealWindowTest::complaints()
+{
+    return std::exchange(collected, {});
+}
+
+int main(int argc, char **argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    qputenv("TZ", "Asia/Shanghai");
+    const QGuiApplication application(argc, argv);
+    installLook();
+    qInstallMessageHandler(collect);
+    return RUN_ALL_TESTS();
+}
