@@ -111,15 +111,19 @@ class Books:
         self.orders = {}
         self.deals = []
         self.events = 0
+        self.time = 0
 
     def replay(self, rows):
         for seq, time, kind, payload in rows:
+            what = json.loads(payload)
             try:
-                getattr(self, "on_" + kind)(time, **json.loads(payload))
-                self.check(json.loads(payload).get("user"))
+                require(time >= self.time, "the log goes back in time")
+                getattr(self, "on_" + kind)(time, **what)
+                self.check(what.get("user"))
             except Broken as broken:
                 raise Broken(f"event {seq} {kind}: {broken}") from None
             self.events += 1
+            self.time = time
 
     # What each kind of event means
 
@@ -194,7 +198,8 @@ class Books:
             self.freeze(user, -o.frozen)
             self.accounts[user].available += income
             self.accounts[user].unsettled += income
-            self.remove_shares(user, stock, shares, income)
+            paid = -self.remove_shares(user, stock, shares, income)
+        require(costDelta == paid, f"the holding's cost changes by {paid}")
         require(frozenDelta == still - o.frozen, "another change of frozen cash expected")
         o.frozen = still
         self.deals.append((deal, order, price, shares, mine, day))
@@ -241,15 +246,18 @@ class Books:
         position.buy_shares += shares
 
     def remove_shares(self, user, stock, shares, income):
+        """Answers the part of the holding's cost that goes with them."""
         position = self.positions[user, stock]
         require(shares <= position.shares - position.bought_today, "what was bought today is sold today")
-        position.cost -= half_up(position.cost * shares, position.shares)
+        part = half_up(position.cost * shares, position.shares)
+        position.cost -= part
         position.shares -= shares
         position.frozen -= shares
         position.sell_income += income
         position.sell_shares += shares
         if position.shares == 0:
             del self.positions[user, stock]
+        return part
 
     def check(self, user):
         account = self.accounts.get(user)

@@ -73,7 +73,7 @@ class Day:
         token = sandbox.sign_in("13912345678")
         sandbox.post("user/set_password", token, password=PASSWORD)
         self.rich = Trader(sandbox, token)
-        sandbox.console("deposit", user=2, amount="20000000")
+        sandbox.console("deposit", user=2, amount="60000000")
         held = {h["stockCode"][:2]: h["stockCode"] for h in sandbox.get("holding", self.demo.token)["data"]}
         self.main, self.sealed, self.chinext, self.star = (held[board] for board in ("60", "00", "30", "68"))
 
@@ -127,6 +127,7 @@ class Day:
     def opening_auction(self):
         self.sandbox.console("seal", stockCode=self.sealed, seal="up")
         self.at("9:15")
+        sealed = self.rich.place("Buy", self.sealed, self.price(self.sealed, "upperLimit"), 200_000)
         lower, upper = self.price(self.main, "lowerLimit"), self.price(self.main, "upperLimit")
         modest = self.demo.place("Buy", self.main, lower, 100)
         need = lower * 100 + sum(fees(recompute.BUY, lower * 100))
@@ -153,6 +154,8 @@ class Day:
         self.modest = modest
         quote = self.quote(self.sealed)
         assert quote["match"] == quote["upperLimit"] and self.level(self.sealed, "sell") == (0, 0), "opens sealed"
+        assert self.rich.status(sealed) in (recompute.ACCEPTED, recompute.PARTLY), "at the price there is not enough"
+        assert self.rich.cancel(sealed)["success"]
 
     def before_continuous_trading(self):
         self.at("9:26")

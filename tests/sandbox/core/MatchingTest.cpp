@@ -134,7 +134,7 @@ TEST_F(Matching, UsersTradeWithEachOtherByPriceThenTimeBehindWhatIsDisplayed)
     }
     const Order second = place(Side::Sell, m_code, ask.price, 300, 3);
     const Order third = place(Side::Sell, m_code, ask.price, 500, 2);
-    const Order dear = place(Side::Sell, m_code, ask.price + 1, 400, 3);
+    const Order dear = place(Side::Sell, m_code, before.asks[1].price, 400, 3);
     EXPECT_EQ(quote(m_code).asks[0], (Level{ask.price, ask.volume + 800})) << "the book shows them";
 
     const Order buy = place(Side::Buy, m_code, ask.price, ask.volume + 400);
@@ -147,8 +147,8 @@ TEST_F(Matching, UsersTradeWithEachOtherByPriceThenTimeBehindWhatIsDisplayed)
     EXPECT_EQ(brokerage().usableMoney(3),
               10'000 + ask.price * 300 - feesOf(true, ask.price * 300, 20251118).total());
 
-    const Order last = place(Side::Buy, m_code, ask.price + 1, 400);
-    EXPECT_EQ(last.filledMoney, 400 * ask.price) << "the one that stood there makes the price";
+    const Order last = place(Side::Buy, m_code, before.asks[1].price, 400);
+    EXPECT_EQ(last.filledMoney, 400 * ask.price) << "the better price first, and who stood there makes it";
 }
 
 TEST_F(Matching, ACancelReleasesTheMoneyASecondLater)
