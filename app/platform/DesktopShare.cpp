@@ -11,9 +11,9 @@ DesktopShare::DesktopShare(Pasteboard &pasteboard, UrlOpener &urlOpener)
 
 void DesktopShare::share(const ShareContent &content)
 {
-    QStringList lines{content.text, content.link};
-    lines.removeAll(QString());
-    const QString text = lines.join(u'\n');
-    board.setText(text);
-    opener.open(mailDraftUrl({}, content.title, text));
+    QStringList parts{content.text, content.title, content.link};
+    parts.removeAll(QString());
+    board.setText(parts.join(u' '));
+    parts.removeAll(content.title);
+    opener.open(mailDraftUrl({}, content.title, parts.join(u'\n')));
 }

@@ -9,8 +9,12 @@
 #include <cmath>
 
 namespace {
+QString withYuan(const QString &amount)
+{
+    return amount.isEmpty() ? amount : amount + QStringLiteral("元");
+}
+} // namespace
 
-/// "%.2f" in the C locale, whatever the device's.
 QString twoDecimals(double number)
 {
     std::array<char, 512> text;
@@ -18,13 +22,6 @@ QString twoDecimals(double number)
         std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed, 2).ptr;
     return QString::fromLatin1(text.data(), end - text.data());
 }
-
-QString withYuan(const QString &amount)
-{
-    return amount.isEmpty() ? amount : amount + QStringLiteral("元");
-}
-
-} // namespace
 
 QString buttonAmount(const QVariant &amount)
 {

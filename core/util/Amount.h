@@ -11,6 +11,9 @@ QString buttonAmountWithYuan(const QVariant &amount);
 QString labelAmount(const QVariant &amount);
 QString labelAmountWithYuan(const QVariant &amount);
 
+/// "%.2f" in the C locale, whatever the device's: an exact tie goes to the even digit.
+QString twoDecimals(double number);
+
 /// A text that ends in a unit of three characters, such as "（元）", which is drawn at size 11.
 struct UnitText {
     Q_GADGET

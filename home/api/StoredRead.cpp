@@ -53,8 +53,7 @@ Operation StoredRead::send(const QVariantMap &param, const Success &success, con
 void StoredRead::answerWithout(const Operation &operation, const Success &success) const
 {
     const QVariantMap copy = stored();
-    const bool known = boolValue(settings().value(isFirstLoginKey)) && !copy.isEmpty();
-    if (audience == Audience::User || known)
+    if (audience == Audience::User || boolValue(settings().value(isFirstLoginKey)))
         return handOn(copy, operation, success);
     handOn(readPropertyListFile(QStringLiteral(":/resources/%1.plist").arg(key)).toMap(), operation, success);
 }

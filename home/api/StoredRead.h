@@ -18,7 +18,7 @@ struct StoredRead {
     /// `andError`; where nothing is stored `success` is not called.
     Operation send(const QVariantMap &param, const Success &success, const Failure &andError) const;
     /// Hands on what stands for an answer, if anything does. What everyone may read has built-in figures
-    /// (:/resources/KEY.plist) until the first good answer.
+    /// (:/resources/KEY.plist) until the first good answer to any such read.
     void answerWithout(const Operation &operation, const Success &success) const;
 
 private:

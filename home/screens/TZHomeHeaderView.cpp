@@ -31,7 +31,7 @@ void TZHomeHeaderView::setModels(const TZUserIndexModel &index, const TZUserInde
 
 void TZHomeHeaderView::setRate(const QString &profitRate)
 {
-    const QString text = QString::number(doubleValue(profitRate), 'f', 2);
+    const QString text = twoDecimals(doubleValue(profitRate));
     // The sign is that of the figure shown: what rounds to zero is neither gain nor loss.
     rateTrend = trendOf(text.toDouble());
     rate = rateTrend > 0   ? QStringLiteral("+%1%").arg(text)

@@ -66,7 +66,7 @@ TEST(DesktopShareTest, PutsTheTextOnThePasteboardAndIntoAMailDraft)
                  QStringLiteral("https://x.test/?a=1&b=2")});
     EXPECT_EQ(
         kits.calls,
-        QStringList({QStringLiteral("setText 一起炒股 & 赚\nhttps://x.test/?a=1&b=2"),
+        QStringList({QStringLiteral("setText 一起炒股 & 赚 标题? https://x.test/?a=1&b=2"),
                      QStringLiteral(
                          "open mailto:?subject=%E6%A0%87%E9%A2%98%3F&body=%E4%B8%80%E8%B5%B7%E7%82%92%E8%82%"
                          "A1%20%26%20%E8%B5%9A%0Ahttps%3A%2F%2Fx.test%2F%3Fa%3D1%26b%3D2")}));

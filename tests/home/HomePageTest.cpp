@@ -180,6 +180,7 @@ TEST_F(HomePageTest, RatesAreSignedByTheFigureThatIsShown)
     } cases[] = {
         {"12.3", "+12.30%", 1}, {"-0.5", "-0.50%", -1},  {"0", " 0.00%", 0},
         {"0.001", " 0.00%", 0}, {"-0.001", " 0.00%", 0}, {"", " 0.00%", 0},
+        {"0.125", "+0.12%", 1}, {"0.375", "+0.38%", 1},
     };
     for (const auto &[rate, shown, trend] : cases) {
         TZHomeHeaderView header;

@@ -73,6 +73,10 @@ TEST_F(HomeToolTest, TheFirstLaunchOfflineShowsTheBuiltInFiguresLaterOnesTheStor
     goOffline();
     TZHomeTool::getHomeLoanOverviewWithParam({}, note(), {});
     EXPECT_EQ(answers.constLast().value("data").toMap().value("loanUserAmount"), QStringLiteral("77"));
+
+    answers.clear();
+    TZHomeTool::getHomeRecentLoansWithParam({}, note(), {});
+    EXPECT_TRUE(answers.isEmpty()) << "the built-in loans are of the time before";
 }
 
 TEST_F(HomeToolTest, ARefusalAnswersFromTheStoredCopyIfThereIsOne)
