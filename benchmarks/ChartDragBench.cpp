@@ -10,7 +10,6 @@
 #include <QQuickRenderTarget>
 #include <QQuickWindow>
 #include <benchmark/benchmark.h>
-
 #include <cmath>
 
 namespace {
@@ -34,7 +33,8 @@ public:
     explicit ChartWindow(StockChart &chart) : window(&control)
     {
         engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-        QQmlComponent component(&engine, QUrl(QStringLiteral("qrc:/qt/qml/Zorvane/Trading/StockChartView.qml")));
+        QQmlComponent component(&engine,
+                                QUrl(QStringLiteral("qrc:/qt/qml/Zorvane/Trading/StockChartView.qml")));
         view.reset(qobject_cast<QQuickItem *>(
             component.createWithInitialProperties({{QStringLiteral("chart"), QVariant::fromValue(&chart)}})));
         if (!view)
@@ -92,7 +92,15 @@ void drag(benchmark::State &state, int candles, double shown)
 } // namespace
 
 // The floor: the same view and moves with nothing to draw.
-BENCHMARK_CAPTURE(drag, , 0, 60)->Name("chart_drag_frame/60_of_1000_days/floor")->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(drag, , 1000, 60)->Name("chart_drag_frame/60_of_1000_days/ours")->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(drag, , 0, 900)->Name("chart_drag_frame/900_of_1000_days/floor")->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(drag, , 1000, 900)->Name("chart_drag_frame/900_of_1000_days/ours")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(drag, , 0, 60)
+    ->Name("chart_drag_frame/60_of_1000_days/floor")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(drag, , 1000, 60)
+    ->Name("chart_drag_frame/60_of_1000_days/ours")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(drag, , 0, 900)
+    ->Name("chart_drag_frame/900_of_1000_days/floor")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(drag, , 1000, 900)
+    ->Name("chart_drag_frame/900_of_1000_days/ours")
+    ->Unit(benchmark::kMillisecond);

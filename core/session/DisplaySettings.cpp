@@ -14,15 +14,13 @@ const QString trendColoursKey = QStringLiteral("trendColours");
 const QString textSizeKey = QStringLiteral("textSize");
 const QString amountsHiddenKey = QStringLiteral("amountsHidden");
 
-template <typename Choice>
-Choice choice(const QVariant &stored, Choice last)
+template <typename Choice> Choice choice(const QVariant &stored, Choice last)
 {
     const int number = stored.toInt();
     return number > 0 && number <= static_cast<int>(last) ? static_cast<Choice>(number) : Choice{};
 }
 
-template <typename Value>
-void note(QVariantMap &chosen, const QString &name, Value value)
+template <typename Value> void note(QVariantMap &chosen, const QString &name, Value value)
 {
     if (value != Value{})
         chosen.insert(name, static_cast<int>(value));

@@ -7,6 +7,9 @@
 #include "core/util/Service.h"
 #include "tests/shell/AllScreens.h"
 #include "tests/shell/RealWindow.h"
+#include "trading/api/TZStockInfoTool.h"
+#include "trading/screens/TZSelectStockController.h"
+#include "trading/screens/TZStockDetailController.h"
 
 #include <QGuiApplication>
 #include <QInputMethodEvent>
@@ -87,6 +90,50 @@ TEST_F(ViewsTest, ANicknameIsCutWhenTheInputMethodHasEnded)
     compose(QStringLiteral("万"), {});
     EXPECT_EQ(screen->nick(), QStringLiteral("一二三四五六七八九十"));
     EXPECT_EQ(QGuiApplication::focusObject()->property("text").toString(), screen->nick());
+}
+
+TEST_F(ViewsTest, StockSearchWhoseResultsShrinkWhileItsRowsAreBeingMade)
+{
+    QList<TZStockInfoModel> stocks;
+    for (int number = 0; number < 300; ++number)
+        stocks.append({QStringLiteral("600%1").arg(number, 3, 10, QLatin1Char('0')), QStringLiteral("海天"),
+                       QStringLiteral("HT")});
+    TZStockInfoTool::saveStockInfo(stocks);
+    while (TZStockInfoTool::isSaving())
+        settle();
+    auto shown = std::make_unique<TZSelectStockController>(nullptr, nullptr);
+    TZSelectStockController *const search = shown.get();
+    window.present(std::move(shown));
+    pass();
+    for (const char *const text : {"6", "600299", "60", "600001", "6", "x"}) {
+        search->setText(text);
+        QCoreApplication::processEvents();
+    }
+    pass();
+    TZStockInfoTool::close();
+}
+
+TEST_F(ViewsTest, StockDetailWithItsCharts)
+{
+    QVariantList candles;
+    for (int day = 0; day < 80; ++day)
+        candles.append(QVariantMap{
+            {"day", 20260101 + day}, {"open", 10}, {"high", 12}, {"low", 9}, {"close", 11}, {"volume", 100}});
+    const QVariantList minutes{QVariantMap{{"time", "1795224600000"}, {"price", "11"}, {"average", "10"}}};
+    auto shown = std::make_unique<TZStockDetailController>(TZZorvanePageStocksModel{});
+    TZStockDetailController *const detail = shown.get();
+    window.present(std::move(shown));
+    http.answer(QStringLiteral("stockDetailPage"),
+                succeeded(QVariantMap{{"previousClose", "10"}, {"candles", candles}, {"minutes", minutes}}));
+    for (const int chart : {TZStockDetailController::Intraday, TZStockDetailController::Candles}) {
+        detail->selectChart(chart);
+        pass();
+        detail->chart()->step(-1);
+        detail->chart()->zoom(2, 100);
+        detail->chart()->drag(50);
+        pass();
+        EXPECT_FALSE(detail->chart()->picture().lines.isEmpty());
+    }
 }
 
 TEST_F(ViewsTest, DialogsBannersAndTheIndicator)

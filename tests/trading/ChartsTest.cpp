@@ -45,12 +45,19 @@ QString figure(StockChart &chart, const QString &label)
 TEST(ChartsTest, WhatCannotBeDrawnIsLeftOutAndTheRestIsInOrder)
 {
     const auto row = [](const QVariant &day, const QVariant &open, const QVariant &high) {
-        return QVariantMap{
-            {"day", day}, {"open", open}, {"high", high}, {"low", "9"}, {"close", 10}, {"volume", "-5"}};
+        return QVariantMap{{"day", day}, {"open", open}, {"high", high},
+                           {"low", "9"}, {"close", 10},  {"volume", "-5"}};
     };
-    const QVariantList rows{row("20260106", "10", "11"), row("20260105", "10", "10"), 7, "x", QVariant(),
-                            row("", "10", "11"),         row("20260107", "0", "11"),  row("x", "1e300", "1"),
-                            row("20260108", "12", "11"), row("20260106", "10.5", "11")};
+    const QVariantList rows{row("20260106", "10", "11"),
+                            row("20260105", "10", "10"),
+                            7,
+                            "x",
+                            QVariant(),
+                            row("", "10", "11"),
+                            row("20260107", "0", "11"),
+                            row("x", "1e300", "1"),
+                            row("20260108", "12", "11"),
+                            row("20260106", "10.5", "11")};
     const QList<Candle> candles = Series::candles(rows);
     ASSERT_EQ(candles.size(), 3);
     EXPECT_EQ(candles[0].day, 20260105);
@@ -70,9 +77,9 @@ TEST(ChartsTest, MinutesAreThoseOfTheLastRowsDayInShanghai)
     const auto row = [](qint64 time, const char *price) {
         return QVariantMap{{"time", QString::number(time)}, {"price", price}, {"average", "x"}};
     };
-    const QList<Minute> minutes = Series::minutes(QVariantList{
-        row(opening + 60'000, "10.1"), row(opening - 86'400'000, "8"), row(opening, "10"), row(-5, "10"),
-        row(std::numeric_limits<qint64>::max(), "10"), row(opening, "-1")});
+    const QList<Minute> minutes = Series::minutes(
+        QVariantList{row(opening + 60'000, "10.1"), row(opening - 86'400'000, "8"), row(opening, "10"),
+                     row(-5, "10"), row(std::numeric_limits<qint64>::max(), "10"), row(opening, "-1")});
     ASSERT_EQ(minutes.size(), 2);
     EXPECT_EQ(FigureTexts::clock(minutes[0].minute), "9:30");
     EXPECT_EQ(minutes[1].price, 10.1);
@@ -108,8 +115,11 @@ TEST(ChartsTest, PricesAreHeightsAndAxesHaveRoundOnes)
         double lowest, highest;
         QList<double> round;
     } table[] = {
-        {10, 20, {10, 12, 14, 16, 18}}, {9.97, 10.04, {9.98, 10, 10.02, 10.04}}, {3.141, 3.142, {}},
-        {99, 1234, {500, 1000}},        {5, 5, {}},
+        {10, 20, {10, 12, 14, 16, 18}},
+        {9.97, 10.04, {9.98, 10, 10.02, 10.04}},
+        {3.141, 3.142, {}},
+        {99, 1234, {500, 1000}},
+        {5, 5, {}},
     };
     for (const auto &row : table) {
         const QList<double> round = PriceScale{row.lowest, row.highest, 0, 1}.roundPrices(5);
@@ -163,7 +173,7 @@ TEST(ChartsTest, TheLunchBreakIsTakenOutUnlessThereAreTradesOutsideTheHours)
     const struct {
         int hour, minute;
         double position;
-    } table[] = {{9, 25, 0},     {9, 30, 0},   {10, 30, 0.25}, {11, 30, 0.5},
+    } table[] = {{9, 25, 0},    {9, 30, 0},   {10, 30, 0.25}, {11, 30, 0.5},
                  {12, 15, 0.5}, {13, 0, 0.5}, {14, 0, 0.75},  {15, 0, 1}};
     for (const auto &row : table)
         EXPECT_EQ(usual.position(row.hour * 60 + row.minute), row.position) << row.hour << ':' << row.minute;
@@ -210,8 +220,8 @@ TEST(ChartsTest, CandlesStandWhereTheirPricesAreAndTakeTheLatestOne)
     chart.setCandles(candles);
     chart.layOut();
     const auto &bars = chart.picture().bars;
-    const auto fallen = std::find_if(bars.begin(), bars.end(),
-                                     [](const auto &bar) { return bar.tone == ChartTone::Fall; });
+    const auto fallen =
+        std::find_if(bars.begin(), bars.end(), [](const auto &bar) { return bar.tone == ChartTone::Fall; });
     ASSERT_NE(fallen, bars.end());
     EXPECT_FALSE(fallen->hollow);
     const PriceScale &scale = chart.priceScale();

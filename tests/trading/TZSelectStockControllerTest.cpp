@@ -5,6 +5,7 @@
 #include "core/shell/KRNavigationController.h"
 #include "core/util/Text.h"
 #include "tests/trading/StockTableFixture.h"
+#include "trading/screens/TZStockDetailController.h"
 
 namespace {
 class Opener : public KRBaseController, public StockChooser {
@@ -78,6 +79,22 @@ QVariantMap newList()
             {QStringLiteral("data"), QVariantList{stock}}};
 }
 } // namespace
+
+TEST_F(TZSelectStockControllerTest, AStocksDetailOpensOverTheSearchAndNothingIsChosen)
+{
+    saveSomeStocks();
+    open();
+    search->setText(QStringLiteral("600123"));
+    search->openDetail(1);
+    EXPECT_EQ(stack->top(), search);
+    search->openDetail(0);
+    auto *const detail = dynamic_cast<TZStockDetailController *>(stack->top());
+    ASSERT_NE(detail, nullptr);
+    EXPECT_EQ(detail->stockText(), "南海医药(600123)");
+    search->pick(0);
+    EXPECT_EQ(stack->top(), detail);
+    EXPECT_TRUE(opener->chosen.isEmpty());
+}
 
 TEST_F(TZSelectStockControllerTest, TheCodeItselfComesFirstThenBeginningsThenTheRestInTheTablesOrder)
 {

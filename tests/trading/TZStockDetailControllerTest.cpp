@@ -116,13 +116,19 @@ TEST_F(StockDetailTest, BearsAnswersWithLessOrWithGarbage)
     page->selectChart(TZStockDetailController::Candles);
     EXPECT_EQ(page->notice(), "暂无历史行情");
     EXPECT_EQ(values(page), QStringList(6, "--"));
-    for (const QVariant &data : {QVariant("x"), QVariant(QVariantList{1}), QVariant(QVariantMap{{"match", -1}})}) {
+    for (const QVariant &data :
+         {QVariant("x"), QVariant(QVariantList{1}), QVariant(QVariantMap{{"match", -1}})}) {
         runLoop.advance(3s);
         http.answer(quotePath, succeeded(data));
         EXPECT_EQ(page->price(), "7.00");
     }
     runLoop.advance(60s);
     EXPECT_EQ(http.countOf(detailPath), 1) << "only answered quotes count";
+    for (int i = 0; i < 5; ++i) {
+        runLoop.advance(3s);
+        http.answer(quotePath, succeeded(quoteAt("7.10")));
+    }
+    EXPECT_EQ(http.countOf(detailPath), 2) << "once a minute, though the charts tell no time";
 }
 
 TEST_F(StockDetailTest, ChartsThatCouldNotBeHadAreReadAgain)
@@ -176,6 +182,7 @@ TEST_F(StockDetailTest, ASealedBoardAndASuspensionAreNamedAndLevelsThatAreNoneCa
 
 TEST_F(StockDetailTest, ATappedLevelOpensBuyingAtItsPriceAndNothingRunsMeanwhile)
 {
+    auto *const below = push<TZBuyAndSellController>(OrderSide::Buy);
     TZStockDetailController *const page = open();
     http.answer(quotePath, succeeded(quoteAt("10.00")));
     page->sellHandicapView()->selectHandicap(2);
@@ -183,6 +190,7 @@ TEST_F(StockDetailTest, ATappedLevelOpensBuyingAtItsPriceAndNothingRunsMeanwhile
     ASSERT_NE(entry, nullptr);
     EXPECT_TRUE(entry->isBuyType());
     EXPECT_EQ(entry->price(), "10.03");
+    EXPECT_EQ(below->price(), "") << "the order entry further down is not meant";
     const int quotes = http.countOf(quotePath);
     runLoop.advance(3s);
     EXPECT_EQ(http.countOf(quotePath), quotes + 1) << "order entry's alone";
@@ -190,6 +198,7 @@ TEST_F(StockDetailTest, ATappedLevelOpensBuyingAtItsPriceAndNothingRunsMeanwhile
     EXPECT_EQ(stack().top(), entry) << "not while covered";
     stack().pop();
     EXPECT_EQ(stack().top(), page);
+    stack().pop();
     stack().pop();
     settle();
     EXPECT_EQ(runLoop.activeTimers(), 0);
@@ -206,8 +215,9 @@ TEST_F(StockDetailTest, TheHoldingIsReadEachTimeThePageAppears)
                            {"costPerShare", "9.876"}, {"profitMoney", "-5.00"}, {"totalValue", "1"}};
     };
     const auto answer = [&](const QString &code, const QString &shares) {
-        http.answer(QStringLiteral("zorvanePage"),
-                    succeeded(QVariantMap{{"stocks", QVariantList{holding("1", "9"), holding(code, shares)}}}));
+        http.answer(
+            QStringLiteral("zorvanePage"),
+            succeeded(QVariantMap{{"stocks", QVariantList{holding("1", "9"), holding(code, shares)}}}));
     };
     answer("600001", "500");
     ASSERT_EQ(page->holdingFigures()->count(), 4);

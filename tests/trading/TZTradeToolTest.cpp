@@ -75,6 +75,8 @@ const Endpoint endpoints[] = {
      Shows::Nothing, Then::Leaves},
     {OPERATION(getStockDetailWithRequestWithParam), "GET", "stockDetailPage?stockCode=600123",
      Policy::Guarded, Shows::Indicator, Then::Hides, "", true},
+    {OPERATION(refreshStockDetailWithParam), "GET", "stockDetailPage?stockCode=600123", Policy::Guarded,
+     Shows::Nothing, Then::Leaves, "", true},
 };
 
 void PrintTo(const Endpoint &endpoint, std::ostream *out)

@@ -30,6 +30,7 @@ const std::vector<ToolOperation> operations{
     OPERATION(postVerfyWithdrawCodeWithParam),
     OPERATION(postQueryOrderStatusWithParam),
     OPERATION(getStockDetailWithRequestWithParam),
+    OPERATION(refreshStockDetailWithParam),
 };
 
 INSTANTIATE_TEST_SUITE_P(TZTradeTool, AnswerTable, testing::ValuesIn(operations), operationName);

@@ -57,7 +57,9 @@ void TZBuyAndSellController::viewDidLoad()
     setShowBackButton(true);
     Platform::current().notifications.observe(
         this, TZHandicapView::priceSelectNotification, [this](const QVariant &information) {
-            selectPrice(textForm(information.toMap().value(QStringLiteral("price"))));
+            // Covered, the price is meant for the order entry on top.
+            if (shown)
+                selectPrice(textForm(information.toMap().value(QStringLiteral("price"))));
         });
     countHolding();
     getBuyPage();

@@ -9,6 +9,7 @@
 #include "core/util/Service.h"
 #include "core/util/Text.h"
 #include "trading/api/TZStockInfoTool.h"
+#include "trading/screens/TZStockDetailController.h"
 
 #include <algorithm>
 #include <array>
@@ -235,14 +236,29 @@ void TZSelectStockController::pickCurrentRow()
 
 void TZSelectStockController::pick(int row)
 {
-    // A tap may still come while the screen is leaving.
-    if (row < 0 || row >= stocks.size() || !navigationController() || navigationController()->top() != this)
+    if (!canAct(row))
         return;
     const TZStockInfoModel stock = stocks.at(row);
     remember(stock);
     if (owner)
         delegate->chooseStock(stock);
     navigationController()->pop();
+}
+
+void TZSelectStockController::openDetail(int row)
+{
+    if (!canAct(row))
+        return;
+    TZZorvanePageStocksModel stock;
+    stock.stockCode = stocks.at(row).c;
+    stock.stockName = stocks.at(row).n;
+    endEditing();
+    navigationController()->push(std::make_unique<TZStockDetailController>(std::move(stock)));
+}
+
+bool TZSelectStockController::canAct(int row) const
+{
+    return row >= 0 && row < stocks.size() && navigationController() && navigationController()->top() == this;
 }
 
 void TZSelectStockController::remember(const TZStockInfoModel &stock)

@@ -71,6 +71,8 @@ public:
     Q_INVOKABLE void pickCurrentRow();
     /// Hands the stock to the delegate and leaves.
     Q_INVOKABLE void pick(int row);
+    /// Opens the stock's detail over the search.
+    Q_INVOKABLE void openDetail(int row);
     /// Fetches the stock list again after it could not be had.
     void reloadData() override;
 
@@ -87,6 +89,8 @@ private:
     enum class ListState { Ready, Fetching, Failed, Offline, Missing, Unusable };
 
     bool hasText() const;
+    /// A tap may still come while the screen is leaving or being covered.
+    bool canAct(int row) const;
     void fetch();
     void readListState();
     void refresh();

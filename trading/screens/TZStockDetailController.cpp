@@ -128,7 +128,7 @@ void TZStockDetailController::reloadData()
 
 void TZStockDetailController::showDetail(const QVariantMap &data)
 {
-    detailMinute = integerValue(data.value(QStringLiteral("time"))) / minute;
+    detailMinute = std::max(detailMinute, integerValue(data.value(QStringLiteral("time"))) / minute);
     quotesSinceDetail = 0;
     takeQuote(data);
     intradayChart.setDay(Series::minutes(data.value(QStringLiteral("minutes"))), quote.measures());
@@ -173,8 +173,10 @@ void TZStockDetailController::fetchQuote()
         const qint64 time = integerValue(data.value(QStringLiteral("time")));
         intradayChart.setPrice(quote.price());
         candleChart.setPrice(quote.price(), Series::dayNumber(time));
-        if (++quotesSinceDetail >= quotesPerDetail || time / minute > detailMinute)
-            refreshDetail();
+        if (++quotesSinceDetail < quotesPerDetail && time / minute <= detailMinute)
+            return;
+        detailMinute = std::max(detailMinute, time / minute);
+        refreshDetail();
     };
     TZTradeTool::getTimelyInfoWithStockCode(stock.stockCode, Success{this, answered}, {});
 }

@@ -119,7 +119,7 @@ private:
     int askedQuotes = 0;
     int shownQuote = 0;
     bool refreshing = false;
-    /// Of the charts, since 1970; and how many quotes came since.
+    /// The minute since 1970 that the charts were last asked for, and how many quotes came since they came.
     qint64 detailMinute = 0;
     int quotesSinceDetail = 0;
 };

@@ -10,7 +10,7 @@ Rectangle {
     required property string title
     required property GadgetListModel model
 
-    implicitWidth: 116
+    implicitWidth: Theme.scaled(116)
     implicitHeight: lines.implicitHeight
     radius: Theme.radius
     color: Theme.deep.surface

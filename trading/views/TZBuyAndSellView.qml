@@ -23,27 +23,11 @@ PageFrame {
         chevron: page.screen.canGotoStockSelect
         onClicked: page.screen.gotoSelectStock()
     }
-    Flickable {
+    PageFlickable {
         id: scroll
         anchors { left: parent.left; right: parent.right; top: stockRow.bottom; bottom: parent.bottom }
         contentHeight: Math.max(height, form.height, book.height)
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
         onDragStarted: page.screen.scrollViewWillBeginDragging()
-
-        readonly property Item focused: Window.activeFocusItem
-        onFocusedChanged: reveal(focused)
-
-        /// Scrolls to what the keyboard reached in a window too low for the whole book.
-        function reveal(item: Item) {
-            let up = item
-            while (up && up !== contentItem)
-                up = up.parent
-            if (!up)
-                return
-            const top = item.mapToItem(contentItem, 0, 0).y
-            contentY = Math.max(Math.min(contentY, top), top + item.height - height)
-        }
 
         TapHandler {
             onTapped: page.screen.scrollViewWillBeginDragging()

@@ -57,6 +57,8 @@ PageFrame {
         // The arrow keys of the field move through it.
         activeFocusOnTab: false
         reuseItems: true
+        // Rows beyond the edge would be made later, when there may be fewer of them.
+        cacheBuffer: 0
         model: page.screen.rows
         currentIndex: page.screen.currentRow
         highlightMoveDuration: 0
@@ -67,6 +69,7 @@ PageFrame {
             width: ListView.view.width
             current: ListView.isCurrentItem
             onClicked: page.screen.pick(index)
+            onDetailAsked: page.screen.openDetail(index)
         }
         footerContent: Text {
             height: text === "" ? 0 : Theme.rowHeight
@@ -123,6 +126,8 @@ PageFrame {
         required property string sentence
         property bool current: false
 
+        signal detailAsked
+
         implicitHeight: Theme.rowHeight
         ringInset: 2
         activeFocusOnTab: false
@@ -153,11 +158,23 @@ PageFrame {
                     colour: Theme.textSecondary
                 }
             }
-            Pieces {
-                anchors { right: parent.right; rightMargin: Theme.margin; verticalCenter: parent.verticalCenter }
-                texts: row.initials
-                style: Theme.label
-                colour: Theme.textSecondary
+            Row {
+                anchors { right: parent.right; rightMargin: Theme.spacingSmall; verticalCenter: parent.verticalCenter }
+                spacing: Theme.spacingTiny
+
+                Pieces {
+                    anchors.verticalCenter: parent.verticalCenter
+                    texts: row.initials
+                    style: Theme.label
+                    colour: Theme.textSecondary
+                }
+                TextButton {
+                    // The keyboard reaches that of the row which the arrow keys have chosen.
+                    activeFocusOnTab: row.current
+                    text: "行情"
+                    font: Theme.label
+                    onClicked: row.detailAsked()
+                }
             }
         }
     }

@@ -11,27 +11,11 @@ PageFrame {
     required controller
     readonly property TZStockDetailController detail: controller as TZStockDetailController
 
-    Flickable {
+    PageFlickable {
         id: scroll
         anchors { left: parent.left; right: parent.right; top: parent.top; bottom: buttons.top }
         anchors.bottomMargin: Theme.spacing
         contentHeight: sections.height
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
-
-        readonly property Item focused: Window.activeFocusItem
-        onFocusedChanged: reveal(focused)
-
-        /// Scrolls to what the keyboard reached.
-        function reveal(item: Item) {
-            let up = item
-            while (up && up !== contentItem)
-                up = up.parent
-            if (!up)
-                return
-            const top = item.mapToItem(contentItem, 0, 0).y
-            contentY = Math.max(Math.min(contentY, top), top + item.height - height)
-        }
 
         Column {
             id: sections
@@ -74,7 +58,7 @@ PageFrame {
                         required property int index
                         required property string modelData
 
-                        width: 72
+                        width: Theme.scaled(72)
                         deep: true
                         text: modelData
                         selected: page.detail.chartIndex === index

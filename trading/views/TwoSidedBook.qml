@@ -10,7 +10,7 @@ Item {
 
     required property TZHandicapView buyView
     required property TZHandicapView sellView
-    property real rowHeight: 30
+    property real rowHeight: Theme.scaled(30)
 
     implicitHeight: title.height + levels.height
 
