@@ -4,7 +4,7 @@ import QtQuick
 import Zorvane.Ui
 import Zorvane.Trading
 
-/// The stock on top, below it the form with the order book at its side.
+/// The stock on top, below it the form with the order book at its side, the submit button at the bottom.
 PageFrame {
     id: page
 
@@ -25,7 +25,8 @@ PageFrame {
     }
     PageFlickable {
         id: scroll
-        anchors { left: parent.left; right: parent.right; top: stockRow.bottom; bottom: parent.bottom }
+        anchors { left: parent.left; right: parent.right; top: stockRow.bottom; bottom: submitButton.top }
+        anchors.bottomMargin: Theme.spacingSmall
         contentHeight: Math.max(height, form.height, book.height)
         onDragStarted: page.screen.scrollViewWillBeginDragging()
 
@@ -98,14 +99,6 @@ PageFrame {
                 verticalAlignment: Text.AlignVCenter
                 Accessible.ignored: text === ""
             }
-            PrimaryButton {
-                x: Theme.spacing
-                width: parent.width - 2 * Theme.spacing
-                deep: true
-                fill: page.screen.isBuyType ? Theme.buy : Theme.sell
-                text: page.screen.submitTitle
-                onClicked: page.screen.submit()
-            }
         }
         Column {
             id: book
@@ -153,5 +146,14 @@ PageFrame {
                 opacity: page.quoteOpacity
             }
         }
+    }
+    PrimaryButton {
+        id: submitButton
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+        anchors { leftMargin: Theme.spacing; rightMargin: Theme.spacing; bottomMargin: Theme.spacingSmall }
+        deep: true
+        fill: page.screen.isBuyType ? Theme.buy : Theme.sell
+        text: page.screen.submitTitle
+        onClicked: page.screen.submit()
     }
 }
