@@ -14,6 +14,7 @@ RefreshableList {
 
     deep: true
     canLoadMore: true
+    reuseItems: true
     model: (controller as TodayList).rows
     Accessible.name: name
 

@@ -1,0 +1,112 @@
+#include "core/session/SettingsKeys.h"
+#include "tests/trading/TradingFixture.h"
+#include "trading/screens/TZDealAndEntrustController.h"
+
+#include <QAccessible>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickView>
+
+namespace {
+constexpr int many = 10'000;
+/// Twice the rows that a window of 844 points shows, and what the page has besides.
+constexpr int fewRows = 40;
+constexpr int fewNodes = 120;
+
+QVariantList entrusts(int count)
+{
+    QVariantList all;
+    for (int i = 0; i < count; ++i)
+        all.append(QVariantMap{{"id", QString::number(i)},
+                               {"stockCode", "600001"},
+                               {"stockName", "海天传媒"},
+                               {"type", QString::number(i % 2 + 1)},
+                               {"status", QString::number(i % 10)},
+                               {"entrustPrice", "12.34"},
+                               {"entrustShares", "100"},
+                               {"createdAt", "1795261158653"}});
+    return all;
+}
+
+int nodesUnder(QAccessibleInterface *top)
+{
+    int nodes = 1;
+    for (int i = 0; i < top->childCount(); ++i)
+        nodes += nodesUnder(top->child(i));
+    return nodes;
+}
+} // namespace
+
+class LongListTest : public TradingFixture {
+protected:
+    LongListTest()
+    {
+        settings.setValue(SettingsKeys::networkStatus, true);
+        auto *const screen = push<TZDealAndEntrustController>();
+        http.answer(entrustsPath, succeeded(entrusts(many)));
+        view.engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
+        view.setInitialProperties({{"controller", QVariant::fromValue(screen)}});
+        view.setResizeMode(QQuickView::SizeRootObjectToView);
+        view.resize(390, 844);
+        view.setSource(QUrl("qrc:/qt/qml/Zorvane/Trading/TZDealAndEntrustView.qml"));
+        view.show();
+        list = find(view.rootObject());
+        page = screen->entrustTableView();
+    }
+
+    static QQuickItem *find(QQuickItem *from)
+    {
+        if (from->property("name") == "当日委托" && from->inherits("QQuickListView"))
+            return from;
+        for (QQuickItem *const child : from->childItems()) {
+            if (QQuickItem *const found = find(child))
+                return found;
+        }
+        return nullptr;
+    }
+    void scrollTo(double contentY)
+    {
+        list->setProperty("contentY", contentY);
+        view.grabWindow();
+    }
+    qsizetype rowsMade() const
+    {
+        return list->property("contentItem").value<QQuickItem *>()->childItems().size();
+    }
+
+    const QString entrustsPath = QStringLiteral("entrustsToday");
+    QQuickView view;
+    QQuickItem *list = nullptr;
+    TodayList *page = nullptr;
+};
+
+TEST_F(LongListTest, OnlyWhatIsVisibleIsMadeAndSpokenOf)
+{
+    ASSERT_NE(list, nullptr);
+    ASSERT_EQ(list->property("count"), many);
+    const double end = list->property("contentHeight").toDouble() - list->height();
+    for (const double part : {0.0, 0.3, 1.0, 0.5}) {
+        scrollTo(end * part);
+        EXPECT_GT(rowsMade(), 8);
+        EXPECT_LT(rowsMade(), fewRows) << part;
+        const int nodes = nodesUnder(QAccessible::queryAccessibleInterface(view.rootObject()));
+        EXPECT_GT(nodes, 8) << part;
+        EXPECT_LT(nodes, fewNodes) << part;
+    }
+    for (int step = 0; step < 200; ++step)
+        scrollTo(end * 0.5 + 50 * step);
+    EXPECT_LT(rowsMade(), fewRows) << "after a long way";
+}
+
+TEST_F(LongListTest, AFurtherPageLeavesThePlaceWhereItWas)
+{
+    ASSERT_NE(list, nullptr);
+    const double end = list->property("contentHeight").toDouble() - list->height();
+    scrollTo(end);
+    page->beginLoadingMore();
+    http.answer(entrustsPath, succeeded(entrusts(20)));
+    view.grabWindow();
+    EXPECT_EQ(list->property("count"), many + 20);
+    EXPECT_NEAR(list->property("contentY").toDouble(), end, 1);
+    EXPECT_LT(rowsMade(), fewRows);
+}
