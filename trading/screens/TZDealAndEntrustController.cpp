@@ -13,39 +13,33 @@ using namespace std::chrono_literals;
 TodayRow TodayRow::of(const TZEntrustsTodayModel &entrust)
 {
     const EntrustStatus status = EntrustStatus::of(entrust.status);
-    return TodayRow{TradeTexts::stock(entrust.stockName, entrust.stockCode),
-                    TradeTexts::side(entrust.type),
-                    TradeTexts::isSell(entrust.type),
-                    TradeTexts::time(entrust.createdAt),
-                    entrust.entrustPrice,
-                    entrust.entrustShares,
-                    status.text,
-                    status.tone == EntrustStatus::Dealt,
-                    status.tone == EntrustStatus::Waiting,
-                    {}}
-        .spoken();
+    return {TradeTexts::stock(entrust.stockName, entrust.stockCode),
+            TradeTexts::side(entrust.type),
+            TradeTexts::isSell(entrust.type),
+            TradeTexts::time(entrust.createdAt),
+            entrust.entrustPrice,
+            entrust.entrustShares,
+            status.text,
+            status.tone == EntrustStatus::Dealt,
+            status.tone == EntrustStatus::Waiting};
 }
 
 TodayRow TodayRow::of(const TZDetailsTodayModel &deal)
 {
-    return TodayRow{TradeTexts::stock(deal.stockName, deal.stockCode),
-                    TradeTexts::side(deal.type),
-                    TradeTexts::isSell(deal.type),
-                    TradeTexts::time(deal.updatedAt),
-                    deal.businessPrice,
-                    deal.businessShares,
-                    labelAmount(deal.businessMoney),
-                    false,
-                    false,
-                    {}}
-        .spoken();
+    return {TradeTexts::stock(deal.stockName, deal.stockCode),
+            TradeTexts::side(deal.type),
+            TradeTexts::isSell(deal.type),
+            TradeTexts::time(deal.updatedAt),
+            deal.businessPrice,
+            deal.businessShares,
+            labelAmount(deal.businessMoney),
+            false,
+            false};
 }
 
-TodayRow TodayRow::spoken() const
+QString TodayRow::sentence() const
 {
-    TodayRow row = *this;
-    row.sentence = QStringList{stock, side, time, price, shares, result}.join(QLatin1Char(' '));
-    return row;
+    return QStringList{stock, side, time, price, shares, result}.join(QLatin1Char(' '));
 }
 
 // Kept on purpose: the first page of the entrusts, unlike that of the deals, is asked for without its number.

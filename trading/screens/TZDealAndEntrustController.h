@@ -21,7 +21,7 @@ struct TodayRow {
     Q_PROPERTY(bool dealt MEMBER dealt)
     Q_PROPERTY(bool waiting MEMBER waiting)
     /// The row as one sentence.
-    Q_PROPERTY(QString sentence MEMBER sentence)
+    Q_PROPERTY(QString sentence READ sentence)
 public:
     QString stock;
     QString side;
@@ -32,13 +32,10 @@ public:
     QString result;
     bool dealt = false;
     bool waiting = false;
-    QString sentence;
 
     static TodayRow of(const TZEntrustsTodayModel &entrust);
     static TodayRow of(const TZDetailsTodayModel &deal);
-
-private:
-    TodayRow spoken() const;
+    QString sentence() const;
 };
 
 /// Today's entrusts on the left page, today's deals on the right one. The deals are read when they are first

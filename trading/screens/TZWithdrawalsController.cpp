@@ -12,22 +12,23 @@ using namespace std::chrono_literals;
 
 namespace {
 const QString dataKey = QStringLiteral("data");
-
-WithdrawalRow rowOf(const TZCallBackPageModel &entrust)
-{
-    WithdrawalRow row{TradeTexts::stock(entrust.stockName, entrust.stockCode),
-                      TradeTexts::side(entrust.type),
-                      TradeTexts::isSell(entrust.type),
-                      entrust.entrustPrice,
-                      entrust.entrustShares,
-                      entrust.businessShares,
-                      EntrustStatus::of(entrust.status).text,
-                      {}};
-    row.sentence =
-        QStringList{row.stock, row.side, row.price, row.shares, row.dealt, row.status}.join(QLatin1Char(' '));
-    return row;
-}
 } // namespace
+
+WithdrawalRow WithdrawalRow::of(const TZCallBackPageModel &entrust)
+{
+    return {TradeTexts::stock(entrust.stockName, entrust.stockCode),
+            TradeTexts::side(entrust.type),
+            TradeTexts::isSell(entrust.type),
+            entrust.entrustPrice,
+            entrust.entrustShares,
+            entrust.businessShares,
+            EntrustStatus::of(entrust.status).text};
+}
+
+QString WithdrawalRow::sentence() const
+{
+    return QStringList{stock, side, price, shares, dealt, status}.join(QLatin1Char(' '));
+}
 
 void TZWithdrawalsController::viewDidLoad()
 {
@@ -70,7 +71,7 @@ void TZWithdrawalsController::showEntrusts(const QVariant &data)
     endRefreshing();
     QList<WithdrawalRow> rows;
     for (const TZCallBackPageModel &entrust : std::as_const(entrusts))
-        rows.append(rowOf(entrust));
+        rows.append(WithdrawalRow::of(entrust));
     shownRows.setRows(rows);
 }
 

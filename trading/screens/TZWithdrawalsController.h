@@ -15,7 +15,7 @@ struct WithdrawalRow {
     Q_PROPERTY(QString dealt MEMBER dealt)
     Q_PROPERTY(QString status MEMBER status)
     /// The row as one sentence.
-    Q_PROPERTY(QString sentence MEMBER sentence)
+    Q_PROPERTY(QString sentence READ sentence)
 public:
     QString stock;
     QString side;
@@ -24,7 +24,9 @@ public:
     QString shares;
     QString dealt;
     QString status;
-    QString sentence;
+
+    static WithdrawalRow of(const TZCallBackPageModel &entrust);
+    QString sentence() const;
 };
 
 /// Cancels orders. After a cancellation was accepted it is asked every three seconds, without limit, whether
