@@ -22,7 +22,7 @@ QString described(const TZEntrustsTodayModel &entrust)
     QString text = QStringLiteral("委托编号 %1，状态：%2")
                        .arg(entrust.entrustNo, EntrustStatus::of(entrust.status).text);
     if (!Service::whetherAnEmptyString(entrust.errorMsg))
-        text += QStringLiteral("（%1）").arg(entrust.errorMsg);
+        text += u'\n' + entrust.errorMsg;
     return text;
 }
 
