@@ -1,3 +1,4 @@
+#include "tests/support/TestPlatform.h"
 #include "trading/charts/CandleChart.h"
 
 #include <QCoreApplication>
@@ -26,6 +27,11 @@ QList<Candle> days(int count)
     }
     return candles;
 }
+
+/// The platform of the tests, for the settings that the theme follows.
+class QuietPlatform : public PlatformTest {
+    void TestBody() override {}
+};
 
 /// The chart's view on a window of its own that is drawn when told, in software.
 class ChartWindow {
@@ -74,6 +80,7 @@ private:
 /// A finger going to and fro: each iteration is a move and the frame that shows it.
 void drag(benchmark::State &state, int candles, double shown)
 {
+    const QuietPlatform platform;
     CandleChart chart;
     chart.setCandles(days(candles));
     ChartWindow window(chart);

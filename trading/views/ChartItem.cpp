@@ -24,6 +24,9 @@ void ChartItem::setChart(StockChart *chart)
 void ChartItem::setColours(const QVariantList &colours)
 {
     tones = colours;
+    palette.clear();
+    for (const QVariant &tone : colours)
+        palette.append(tone.value<QColor>());
     update();
     Q_EMIT coloursChanged();
 }
@@ -72,7 +75,7 @@ void ChartItem::updatePolish()
 
 QColor ChartItem::colour(ChartTone tone) const
 {
-    return tones.value(static_cast<qsizetype>(tone)).value<QColor>();
+    return palette.value(static_cast<qsizetype>(tone));
 }
 
 void ChartItem::paint(QPainter *painter)

@@ -2,6 +2,7 @@
 
 #include "trading/charts/StockChart.h"
 
+#include <QColor>
 #include <QPointer>
 #include <QQuickPaintedItem>
 
@@ -48,5 +49,6 @@ private:
 
     QPointer<StockChart> drawnChart;
     QVariantList tones;
+    QList<QColor> palette;
     double heightOfLabels = 0;
 };
