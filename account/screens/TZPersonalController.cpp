@@ -6,9 +6,10 @@
 #include "core/session/TZUserTool.h"
 #include "core/util/Service.h"
 
-QString TZPersonalController::nick() const
+QString TZPersonalController::displayName() const
 {
-    return TZUserModel::stored().nick;
+    const QString nick = TZUserModel::stored().nick;
+    return nick.isEmpty() ? cell() : nick;
 }
 
 QString TZPersonalController::cell() const
@@ -22,9 +23,10 @@ QString TZPersonalController::name() const
     return name.isEmpty() ? QStringLiteral("未实名") : Service::encryptionName(name);
 }
 
-QString TZPersonalController::nickValue() const
+QString TZPersonalController::nick() const
 {
-    return nick().isEmpty() ? QStringLiteral("未设置") : nick();
+    const QString nick = TZUserModel::stored().nick;
+    return nick.isEmpty() ? QStringLiteral("未设置") : nick;
 }
 
 void TZPersonalController::viewDidLoad()

@@ -5,19 +5,19 @@
 /// Who the user is, as stored on this device, and the ways to change the nickname and the trade password.
 class TZPersonalController : public TZFormController {
     Q_OBJECT
-    Q_PROPERTY(QString nick READ nick NOTIFY userChanged)
-    /// Masked, as is the name.
+    /// The nickname; without one the number.
+    Q_PROPERTY(QString displayName READ displayName NOTIFY userChanged)
+    // The number and the name are masked.
     Q_PROPERTY(QString cell READ cell NOTIFY userChanged)
     Q_PROPERTY(QString name READ name NOTIFY userChanged)
-    Q_PROPERTY(QString nickValue READ nickValue NOTIFY userChanged)
+    Q_PROPERTY(QString nick READ nick NOTIFY userChanged)
 public:
     TZPersonalController() = default;
 
-    QString nick() const;
+    QString displayName() const;
     QString cell() const;
     QString name() const;
-    /// The nickname, or that there is none.
-    QString nickValue() const;
+    QString nick() const;
 
     void viewDidLoad() override;
     void viewWillAppear() override;

@@ -1,12 +1,11 @@
 import QtQuick
 import Zorvane.Ui
 
-/// Whose page it is: the picture, the nickname, the number.
+/// Whose page it is.
 Rectangle {
     id: card
 
-    required property string nick
-    required property string cell
+    required property string name
 
     width: parent ? parent.width : 0
     height: column.height + 2 * Theme.spacingHuge
@@ -26,8 +25,7 @@ Rectangle {
         }
         Text {
             width: parent.width
-            visible: text !== ""
-            text: card.nick
+            text: card.name
             font: Theme.heading
             color: Theme.deep.textPrimary
             horizontalAlignment: Text.AlignHCenter

@@ -13,10 +13,18 @@ PageFrame {
 
     Flickable {
         anchors.fill: parent
-        contentHeight: column.y + column.height + Theme.spacingHuge
+        contentHeight: Math.max(height, column.y + column.height + Theme.spacingHuge)
         boundsBehavior: Flickable.StopAtBounds
         clip: true
 
+        // A Flickable keeps the taps beside its fields from the page.
+        Item {
+            anchors.fill: parent
+
+            TapHandler {
+                onTapped: page.controller.scrollViewWillBeginDragging()
+            }
+        }
         Column {
             id: column
             y: Theme.spacingHuge
@@ -26,6 +34,7 @@ PageFrame {
 
             Text {
                 width: parent.width
+                visible: text !== ""
                 text: page.heading
                 font: Theme.heading
                 color: Theme.deep.textPrimary

@@ -9,6 +9,8 @@ StepPage {
     required controller
     readonly property TZModifyNicknameController screen: controller as TZModifyNicknameController
 
+    caption: "昵称最多十个汉字"
+
     FormCard {
         NicknameRow {
             controller: page.screen

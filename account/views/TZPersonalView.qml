@@ -23,8 +23,7 @@ PageFrame {
             width: parent.width
 
             PersonalCard {
-                nick: page.screen.nick
-                cell: page.screen.cell
+                name: page.screen.displayName
             }
             SectionHeader {
                 text: "身份信息"
@@ -44,7 +43,7 @@ PageFrame {
             FormRow {
                 chevron: true
                 label: "昵称"
-                value: page.screen.nickValue
+                value: page.screen.nick
                 onClicked: page.screen.nickRowClick()
             }
             FormRow {

@@ -11,7 +11,7 @@ Tappable {
     deep: true
     ringInset: 2
     implicitHeight: Theme.scaled(96)
-    text: nick + " " + cell
+    text: nick === "" ? cell : nick + " " + cell
     background: Rectangle {
         color: title.pressed ? title.tones.surfacePressed : title.tones.page
     }

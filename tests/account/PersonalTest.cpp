@@ -356,6 +356,9 @@ TEST_F(PersonalTest, TheNicknameIsChangedFromThePersonalPage)
     EXPECT_EQ(stack->top(), personal);
     EXPECT_EQ(changes, 1);
     EXPECT_EQ(personal->nick(), QStringLiteral("一二三四五六七八九十"));
+    settings.values.remove(SettingsKeys::user);
+    EXPECT_EQ(personal->nick(), QStringLiteral("未设置"));
+    EXPECT_EQ(personal->name(), QStringLiteral("未实名"));
     runLoop.advance(500ms);
     EXPECT_EQ(banners(), QStringList(QStringLiteral("设置成功")));
 }

@@ -13,6 +13,8 @@
 
 #include <QGuiApplication>
 #include <QInputMethodEvent>
+#include <QMouseEvent>
+#include <QQuickWindow>
 
 using namespace std::chrono_literals;
 
@@ -67,6 +69,22 @@ TEST_F(ViewsTest, GuideThenHomeWithBothFacesThenTheMenuWithItsPages)
     pass();
     router.showCommissions(*window.topStack()->top());
     pass();
+}
+
+TEST_F(ViewsTest, ATapBesideTheFieldEndsEditing)
+{
+    window.present(std::make_unique<TZModifyNicknameController>());
+    pass();
+    auto *const shown = qobject_cast<QQuickWindow *>(engine->rootObjects().first());
+    const QObject *const field = QGuiApplication::focusObject();
+    ASSERT_TRUE(field->inherits("QQuickTextInput"));
+    const QPointF beside(shown->width() / 2, shown->height() - 100);
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, beside, shown->mapToGlobal(beside), Qt::LeftButton,
+                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(shown, &event);
+    }
+    EXPECT_NE(QGuiApplication::focusObject(), field);
 }
 
 TEST_F(ViewsTest, ANicknameIsCutWhenTheInputMethodHasEnded)
