@@ -215,7 +215,7 @@ TEST(ChartsTest, CandlesStandWhereTheirPricesAreAndTakeTheLatestOne)
 {
     CandleChart chart;
     chart.resize(width, height, labelHeight);
-    QList<Candle> candles = days(VisibleRange::usual);
+    QList<Candle> candles = days(static_cast<int>(VisibleRange::usual));
     candles.last().close = candles.constLast().open - 0.01;
     chart.setCandles(candles);
     chart.layOut();
