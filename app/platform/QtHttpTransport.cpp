@@ -78,7 +78,7 @@ private:
         if ((status == 301 || status == 302 || status == 303) && target.isValid())
             return redirect(reply->url().resolved(target));
         finish(HttpResponse{status, reply->header(QNetworkRequest::ContentTypeHeader).toByteArray(),
-                            reply->readAll()});
+                            reply->readAll(), bodyWasSent});
     }
 
     void redirect(const QUrl &target)

@@ -16,6 +16,9 @@ class RequestOperation : public QObject {
 public:
     explicit RequestOperation(QString requestUrl) : url(std::move(requestUrl)) {}
     const QString url;
+    /// What came back is from where a redirect led after the body was sent: it says nothing of the work that
+    /// the body asked for. Set before the callbacks.
+    bool redirected = false;
 
 Q_SIGNALS:
     void finished();
@@ -29,13 +32,16 @@ using Operation = std::shared_ptr<RequestOperation>;
 struct RequestError {
     std::optional<HttpFailure> failure;
     int status = 0;
+    /// As of `RequestOperation`.
+    bool redirected = false;
 
     /// The service may have done the work that the request, one with a body, asked for. Not when nothing was
     /// sent, and not after a status that says that the request was wrong.
     bool mayHaveArrived() const
     {
-        return failure ? *failure != HttpFailure::Offline && *failure != HttpFailure::Tls
-                       : status < 400 || status > 499;
+        if (failure)
+            return *failure != HttpFailure::Offline && *failure != HttpFailure::Tls;
+        return redirected || status < 400 || status > 499;
     }
 };
 

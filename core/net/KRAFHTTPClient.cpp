@@ -72,10 +72,11 @@ void deliver(const Operation &operation, const HttpOutcome &outcome, const Succe
 {
     const auto *response = std::get_if<HttpResponse>(&outcome);
     if (!response)
-        return fail(operation, error, {std::get<HttpFailure>(outcome), 0});
+        return fail(operation, error, {std::get<HttpFailure>(outcome)});
+    operation->redirected = response->redirected;
     const std::optional<QVariantMap> answer = decodeEnvelope(*response);
     if (!answer)
-        return fail(operation, error, {std::nullopt, response->status});
+        return fail(operation, error, {std::nullopt, response->status, response->redirected});
     KRAFHTTPClient::showMsgWithDict(*answer, operation->url);
     done(operation, *answer);
     Q_EMIT operation->finished();
@@ -132,7 +133,7 @@ Operation KRAFHTTPClient::execute(const QString &url, const QString &method, con
     if (!addParameters(request, dict, mutiPart, andPartName)) {
         auto later = std::make_shared<Timer>();
         later->startOnce(0ms, [later, operation, error = std::move(error)] {
-            fail(operation, error, {HttpFailure::Cancelled, 0});
+            fail(operation, error, {HttpFailure::Cancelled});
         });
         return operation;
     }

@@ -20,6 +20,8 @@ struct HttpResponse {
     int status = 0;
     QByteArray contentType;
     QByteArray body;
+    /// It answers a GET to which a redirect led after the body of the request was sent.
+    bool redirected = false;
 };
 
 /// `Offline`: no connection came about. `Tls`: the other side could not prove itself, or an address was not

@@ -252,6 +252,22 @@ TEST_F(HttpTransportTest, FollowsRedirectsOnlyToSafePlacesAndKeepsTheTokenAtHome
         EXPECT_EQ(request.header("api_token"), "t");
 }
 
+TEST_F(HttpTransportTest, SaysThatAnAnswerCameFromWhereASentBodyWasRedirected)
+{
+    server.answer = [](QTcpSocket &socket, const WireServer::Request &request) {
+        if (request.line().contains("/login"))
+            respond(socket, "401 X", "", "{}");
+        else
+            respond(socket, "302 Found", "Location: /login\r\n", "");
+    };
+    const auto redirected = [this](const HttpRequest &request) {
+        return std::get<HttpResponse>(send(request)).redirected;
+    };
+    EXPECT_TRUE(redirected(form(server.url(QStringLiteral("order")))));
+    EXPECT_FALSE(redirected(form(server.url(QStringLiteral("login")))));
+    EXPECT_FALSE(redirected({"GET", server.url(QStringLiteral("order")), {}, {}}));
+}
+
 TEST_F(HttpTransportTest, LeavesHttpsOnlyForLoopbackInDeveloperBuilds)
 {
     WireServer loopbackHttp;

@@ -46,11 +46,17 @@ struct Fault {
     QString entrusts;
 };
 
-const QList<Fault> faults{
-    {"drop-before", "0", ""},       {"drop-after", "0", ""},   {"status", "0", ""},
-    {"garbage", "0", ""},           {"content-type", "0", ""}, {"truncate", "0", ""},
-    {"delay", "600", ""},           {"delay", "50", ""},       {"drop-after", "0", "drop-before"},
-    {"drop-before", "0", "garbage"}};
+const QList<Fault> faults{{"drop-before", "0", ""},
+                          {"drop-after", "0", ""},
+                          {"status", "0", ""},
+                          {"garbage", "0", ""},
+                          {"content-type", "0", ""},
+                          {"truncate", "0", ""},
+                          {"delay", "600", ""},
+                          {"delay", "50", ""},
+                          {"drop-after", "0", "drop-before"},
+                          {"drop-before", "0", "garbage"},
+                          {"delay-before", "600", ""}};
 } // namespace
 
 /// Order entry of the real client over the real transport against a sandbox; only time is simulated.
@@ -135,10 +141,18 @@ protected:
         quiet();
     }
 
+    void sendAgain()
+    {
+        alert()->leftBtnClick();
+        quiet();
+        sendWhatWasSubmitted();
+    }
+
     /// Does what a user does who wants this order once and believes what the client says. False when that
     /// leads nowhere.
     bool place(const QString &price, const QString &shares, bool leavesMeanwhile)
     {
+        const int before = ordersInTheBooks();
         submit(price, shares);
         for (int step = 0; step < 30; ++step) {
             const QString said = alert() ? alert()->titleText() : QString();
@@ -148,11 +162,12 @@ protected:
             }
             if (said == "未找到这笔委托") {
                 alert()->rightBtnClick();
+                // As long as a person takes to think about it, some of what is late arrives.
+                Hand::wait([&] { return ordersInTheBooks() > before; }, 400ms);
                 submit(price, shares);
                 if (!alert() || alert()->titleText() != "确认再次提交")
                     return false;
-                alert()->leftBtnClick();
-                sendWhatWasSubmitted();
+                sendAgain();
             } else if (said == "委托结果未知" && std::exchange(leavesMeanwhile, false)) {
                 alert()->cancel();
                 reopen();
@@ -212,4 +227,26 @@ TEST_F(OrderFaultsTest, FiftyLostOrLateAnswersAndExactlyOneOrderPerIntent)
     }
     EXPECT_EQ(ordersInTheBooks() - ordersBefore, intents);
     EXPECT_EQ(sandbox.unknownRequests(), 0);
+}
+
+TEST_F(OrderFaultsTest, WhoeverInsistsIsToldOfEveryOrderThatStands)
+{
+    // The first stands and the entrusts cannot be read; the second is lost on the way.
+    sandbox.post("fault", {{"kind", "drop-after"}, {"path", "entrust/createBuy"}});
+    sandbox.post("fault", {{"kind", "drop-before"}, {"path", "entrust/createBuy"}});
+    sandbox.post("fault", {{"kind", "garbage"}, {"path", "entrustsToday"}});
+    sandbox.post("fault", {{"kind", "garbage"}, {"path", "entrustsToday"}});
+    const QString price = QString::number(screen->currentPrice().toDouble() * 0.96, 'f', 2);
+    submit(price, QStringLiteral("100"));
+    ASSERT_EQ(alert()->titleText(), "委托结果未知");
+    alert()->cancel();
+    submit(price, QStringLiteral("100"));
+    ASSERT_EQ(alert()->titleText(), "确认再次提交");
+    sendAgain();
+    ASSERT_EQ(alert()->leftTitle(), "再次提交") << "once more unreadable";
+    sendAgain();
+    ASSERT_NE(alert(), nullptr);
+    EXPECT_EQ(alert()->titleText(), "已找到这笔委托");
+    EXPECT_TRUE(alert()->ensureText().contains("另有 1 次提交没有找到"));
+    EXPECT_EQ(ordersInTheBooks() - ordersBefore, 1);
 }

@@ -38,15 +38,47 @@ TEST_F(OrderEntryTest, NoSecondOrderGoesWhileOneIsOnItsWay)
     EXPECT_EQ(http.countOf(buyPath), 2);
 }
 
-TEST_F(OrderEntryTest, StaysUntilTheOutcomeOfAnOrderIsKnown)
+TEST_F(OrderEntryTest, StaysUntilTheOutcomeOfAnOrderIsKnownAndSaysSoToItsView)
 {
     openWithEntry();
+    QList<bool> told;
+    QObject::connect(screen, &KRBaseController::barChanged, screen,
+                     [&] { told.append(screen->canBeLeft()); });
     submitEntry();
     screen->backButtonClicked();
     EXPECT_EQ(top<TZBuyAndSellController>(), screen);
     http.answer(buyPath, refused("资金不足"));
+    EXPECT_EQ(told, (QList<bool>{false, true}));
     screen->backButtonClicked();
     EXPECT_EQ(top<TZBuyAndSellController>(), nullptr);
+}
+
+TEST_F(OrderEntryTest, ThePasswordSendsTheOrderThatWasRefusedWithoutIt)
+{
+    openWithEntry();
+    submitEntry();
+    // A refused quote takes the indicator away, and the entry can be edited.
+    http.answer(quotePath, refused("行情不可用"));
+    enter("99", "150");
+    QVariantMap answer = refused("请输入交易密码");
+    answer.insert("code", "12000");
+    http.answer(buyPath, answer);
+    typePassword("123456");
+    const QVariantMap sent = http.pending(buyPath).fields();
+    EXPECT_EQ(sent.value("entrustPrice").toString() + sent.value("entrustShares").toString(), "12.34800");
+}
+
+TEST_F(OrderEntryTest, ASubmissionThatAnotherScreenBrokeIsSaidOnReturn)
+{
+    openWithEntry();
+    screen->submit();
+    push<KRBaseController>();
+    runLoop.advance(1s);
+    EXPECT_EQ(http.countOf(buyPath), 0);
+    EXPECT_EQ(lastBanner(), "");
+    stack().pop();
+    EXPECT_EQ(lastBanner(), "委托没有提交，请重新提交");
+    EXPECT_EQ(screen->quantity(), "800");
 }
 
 TEST_F(OrderEntryTest, AnEntryChangedInTheHalfSecondIsCheckedAgain)

@@ -1,6 +1,7 @@
 #include "trading/screens/OrderInquiry.h"
 
 #include "core/net/Callbacks.h"
+#include "core/util/Service.h"
 #include "core/util/Text.h"
 #include "trading/api/TZTradeTool.h"
 
@@ -9,13 +10,30 @@
 using namespace std::chrono_literals;
 
 namespace {
-constexpr int mostLooks = 2;
 constexpr int mostPages = 100;
+
+/// None unless it is a list of entrusts, each with an identifier: anything else proves nothing.
+std::optional<QList<TZEntrustsTodayModel>> entrustsIn(const QVariant &data)
+{
+    if (data.typeId() != QMetaType::QVariantList)
+        return std::nullopt;
+    const auto entrusts = fromArray<TZEntrustsTodayModel>(data);
+    const bool isWhole = std::none_of(entrusts.begin(), entrusts.end(), [](const auto &entrust) {
+        return Service::whetherAnEmptyString(entrust.id);
+    });
+    return isWhole ? std::optional(entrusts) : std::nullopt;
+}
 } // namespace
 
-void OrderInquiry::start()
+OrderInquiry::OrderInquiry(QList<OrderIntent> orders, int mostLooks)
+    : sought(std::move(orders)), looksLeft(mostLooks)
 {
-    looks = 0;
+}
+
+void OrderInquiry::look()
+{
+    entrusts.clear();
+    firstOfPreviousPage.reset();
     read(0);
 }
 
@@ -27,7 +45,7 @@ void OrderInquiry::read(int page)
         if (!operation)
             return;
         *answered = true;
-        look(page, fromArray<TZEntrustsTodayModel>(dictionary.value(QStringLiteral("data"))));
+        take(page, dictionary.value(QStringLiteral("data")));
     };
     // As the list of today's entrusts asks: the first page without its number.
     const QVariantMap param = page == 0 ? QVariantMap() : QVariantMap{{QStringLiteral("page"), page}};
@@ -36,44 +54,63 @@ void OrderInquiry::read(int page)
         Q_EMIT unreadable();
         return;
     }
+    Service::hideWaitingProgressView();
     connect(operation.get(), &RequestOperation::finished, this, [this, answered] {
         if (!*answered)
             Q_EMIT unreadable();
     });
 }
 
-void OrderInquiry::look(int page, const QList<TZEntrustsTodayModel> &entrusts)
+void OrderInquiry::take(int page, const QVariant &data)
 {
-    const auto own = std::find_if(entrusts.begin(), entrusts.end(),
-                                  [this](const auto &entrust) { return intent.became(entrust); });
-    if (own != entrusts.end()) {
-        Q_EMIT found(*own);
+    const std::optional<QList<TZEntrustsTodayModel>> read = entrustsIn(data);
+    if (!read) {
+        Q_EMIT unreadable();
         return;
     }
-    if (!isLast(entrusts)) {
-        firstOfLastPage = entrusts.constFirst().id;
-        if (page + 1 == mostPages)
-            Q_EMIT unreadable();
-        else
-            read(page + 1);
-        return;
+    const bool last = isLast(*read);
+    for (const TZEntrustsTodayModel &entrust : *read) {
+        const auto isSame = [&entrust](const auto &each) { return each.id == entrust.id; };
+        // A new entrust shifts those of the pages that follow.
+        if (std::none_of(entrusts.begin(), entrusts.end(), isSame))
+            entrusts.append(entrust);
     }
-    firstOfLastPage.clear();
-    if (++looks == mostLooks)
-        Q_EMIT notFound();
-    else
-        again.startOnce(3s, [this] { read(0); });
+    if (last) {
+        finish();
+    } else if (page + 1 == mostPages) {
+        Q_EMIT unreadable();
+    } else {
+        firstOfPreviousPage = read->constFirst().id;
+        this->read(page + 1);
+    }
 }
 
-/// Whether what follows cannot hold the order: there is nothing more, the service has no pages and repeats
-/// itself, or the newest come first and these reach back beyond the order.
-bool OrderInquiry::isLast(const QList<TZEntrustsTodayModel> &entrusts) const
+void OrderInquiry::finish()
 {
-    if (entrusts.isEmpty() || entrusts.constFirst().id == firstOfLastPage)
+    const QList<FoundOrder> orders = UnknownOrders::settle(sought, entrusts);
+    if (!orders.isEmpty())
+        Q_EMIT found(orders);
+    else if (--looksLeft == 0)
+        Q_EMIT notFound();
+    else
+        again.startOnce(3s, [this] { look(); });
+}
+
+/// Whether what follows cannot hold any of the orders: there is nothing more, the service has no pages and
+/// repeats itself, or the newest come first and these reach back beyond the orders.
+bool OrderInquiry::isLast(const QList<TZEntrustsTodayModel> &page) const
+{
+    if (page.isEmpty() || page.constFirst().id == firstOfPreviousPage)
         return true;
-    const auto time = [](const TZEntrustsTodayModel &entrust) { return integerValue(entrust.createdAt); };
+    const auto time = [](const TZEntrustsTodayModel &entrust) {
+        return OrderIntent::serviceTime(entrust.createdAt);
+    };
     const bool newestFirst =
-        std::is_sorted(entrusts.begin(), entrusts.end(),
+        std::is_sorted(page.begin(), page.end(),
                        [&time](const auto &one, const auto &other) { return time(one) > time(other); });
-    return newestFirst && time(entrusts.constLast()) > 0 && time(entrusts.constLast()) < intent.quotedAt;
+    const qint64 oldest = time(page.constLast());
+    return newestFirst && oldest > 0 &&
+           std::all_of(sought.begin(), sought.end(), [oldest](const auto &order) {
+               return oldest < order.quotedAt - OrderIntent::clockTolerance;
+           });
 }

@@ -1,31 +1,38 @@
 #pragma once
 
 #include "core/platform/Timer.h"
-#include "trading/screens/OrderIntent.h"
+#include "trading/screens/UnknownOrders.h"
 
-/// Looks through today's entrusts, page by page, for the one that an order became. What is not there at once
-/// may reach the books late: a few seconds after a first look in vain there is a second one.
+#include <optional>
+
+/// Reads today's entrusts, page by page, and settles the orders that are sought. What is not there at once
+/// may reach the books late: a few seconds after a look in vain there may be another one. Shows no indicator.
 class OrderInquiry : public QObject {
     Q_OBJECT
 public:
-    explicit OrderInquiry(OrderIntent order) : intent(std::move(order)) {}
+    /// Looks that often before it says that nothing is there.
+    OrderInquiry(QList<OrderIntent> orders, int mostLooks);
 
     /// One of the signals follows.
-    void start();
+    void start() { look(); }
 
 Q_SIGNALS:
-    void found(const TZEntrustsTodayModel &entrust);
+    void found(const QList<FoundOrder> &orders);
     void notFound();
     /// The entrusts could not be read to their end.
     void unreadable();
 
 private:
+    void look();
     void read(int page);
-    void look(int page, const QList<TZEntrustsTodayModel> &entrusts);
-    bool isLast(const QList<TZEntrustsTodayModel> &entrusts) const;
+    void take(int page, const QVariant &data);
+    void finish();
+    bool isLast(const QList<TZEntrustsTodayModel> &page) const;
 
-    const OrderIntent intent;
-    QString firstOfLastPage;
-    int looks = 0;
+    const QList<OrderIntent> sought;
+    int looksLeft;
+    /// What the present look has read, and the first identifier of its latest page.
+    QList<TZEntrustsTodayModel> entrusts;
+    std::optional<QString> firstOfPreviousPage;
     Timer again;
 };

@@ -3,6 +3,7 @@
 #include "core/util/Text.h"
 #include "trading/screens/TradeTexts.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -22,6 +23,17 @@ bool isSamePrice(const QString &one, const QString &other)
 }
 } // namespace
 
+qint64 OrderIntent::serviceTime(const QVariant &stamp)
+{
+    // Other units and written dates begin with digits too; read as milliseconds they would be long ago.
+    constexpr int digits = 13;
+    const QString text = textForm(stamp);
+    const bool isStamp = text.size() == digits && std::all_of(text.begin(), text.end(), [](QChar each) {
+                             return each >= u'0' && each <= u'9';
+                         });
+    return isStamp ? integerValue(text) : 0;
+}
+
 QVariantMap OrderIntent::parameters() const
 {
     return {{codeKey, stockCode}, {sharesKey, shares}, {priceKey, price}};
@@ -33,6 +45,11 @@ bool OrderIntent::isSameOrder(const OrderIntent &other) const
            integerValue(shares) == integerValue(other.shares);
 }
 
+bool OrderIntent::isSameIntent(const OrderIntent &other) const
+{
+    return isSameOrder(other) && sentAt == other.sentAt;
+}
+
 bool OrderIntent::isLike(const TZEntrustsTodayModel &entrust) const
 {
     return TradeTexts::isSell(entrust.type) == (side == OrderSide::Sell) && stockCode == entrust.stockCode &&
@@ -40,10 +57,10 @@ bool OrderIntent::isLike(const TZEntrustsTodayModel &entrust) const
            integerValue(shares) == integerValue(entrust.entrustShares);
 }
 
-bool OrderIntent::became(const TZEntrustsTodayModel &entrust) const
+bool OrderIntent::mayHaveBecome(const TZEntrustsTodayModel &entrust) const
 {
-    const qint64 createdAt = integerValue(entrust.createdAt);
-    const bool isOlder = quotedAt > 0 && createdAt > 0 && createdAt < quotedAt;
+    const qint64 createdAt = serviceTime(entrust.createdAt);
+    const bool isOlder = quotedAt > 0 && createdAt > 0 && createdAt < quotedAt - clockTolerance;
     return isLike(entrust) && !isOlder && !earlier.contains(entrust.id);
 }
 

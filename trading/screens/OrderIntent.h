@@ -15,19 +15,27 @@ struct OrderIntent {
 
     /// Milliseconds since 1970 on this device.
     qint64 sentAt = 0;
-    /// The time on the service's clock of the latest quote before, in its own unit; 0 when it tells none.
+    /// The `serviceTime` of the latest quote before that told it; 0 when none did.
     qint64 quotedAt = 0;
     /// The identifiers of entrusts of the same kind that stood before.
     QStringList earlier;
+
+    /// The clocks of the service that give quotes and entrusts their times differ by no more, in
+    /// milliseconds.
+    static constexpr qint64 clockTolerance = 60'000;
+    /// Milliseconds since 1970 on the service's clock; 0 for what is not such a stamp.
+    static qint64 serviceTime(const QVariant &stamp);
 
     /// The fields of the request.
     QVariantMap parameters() const;
     /// Whether sending both would be the same order twice.
     bool isSameOrder(const OrderIntent &other) const;
+    /// Whether both are the same submission of it.
+    bool isSameIntent(const OrderIntent &other) const;
     /// Whether `entrust` is an order like this one.
     bool isLike(const TZEntrustsTodayModel &entrust) const;
-    /// Whether `entrust` came of this very intent: like it, and not there before.
-    bool became(const TZEntrustsTodayModel &entrust) const;
+    /// Whether `entrust` may have come of this very intent: like it, and not known to be older.
+    bool mayHaveBecome(const TZEntrustsTodayModel &entrust) const;
     /// As a person reads it: "买入 海天传媒(600001)", a line break, "12.34元 × 800股".
     QString text() const;
 

@@ -62,6 +62,8 @@ void TZBuyAndSellController::viewDidLoad()
                 selectPrice(textForm(information.toMap().value(QStringLiteral("price"))));
         });
     countHolding();
+    if (window())
+        UnknownOrderDialogs::lookQuietly(*window(), 0s);
     getBuyPage();
 }
 
@@ -72,6 +74,8 @@ void TZBuyAndSellController::viewWillAppear()
     setTitle(texts.title);
     if (!isBuyType() || !Service::whetherAnEmptyString(stock.stockCode))
         startQuoteTimer();
+    if (std::exchange(submissionBroken, false))
+        Service::showErrorWithMsg(QStringLiteral("委托没有提交，请重新提交"));
 }
 
 void TZBuyAndSellController::viewWillDisappear()
@@ -85,6 +89,7 @@ void TZBuyAndSellController::viewDidDisappear()
     KRBaseController::viewDidDisappear();
     shown = false;
     quoteTimer.stop();
+    submissionBroken = orderTimer.isActive();
     orderTimer.stop();
     age.stop();
 }
@@ -158,7 +163,8 @@ void TZBuyAndSellController::showQuote(const QVariantMap &data)
         latestPrice = textForm(match);
         Q_EMIT currentPriceChanged();
     }
-    quotedAt = integerValue(data.value(QStringLiteral("time")));
+    if (const qint64 time = OrderIntent::serviceTime(data.value(QStringLiteral("time"))); time > 0)
+        quotedAt = time;
     previousClose = doubleValue(data.value(QStringLiteral("previousClose")));
     const QVariant buyPankou = data.value(QStringLiteral("buyPankou"));
     if (buyPankou.typeId() == QMetaType::QVariantList)
@@ -295,18 +301,20 @@ OrderIntent TZBuyAndSellController::entry() const
     return {side, stock.stockCode, stock.stockName, priceField, quantityField, 0, quotedAt, {}};
 }
 
-bool TZBuyAndSellController::asksAboutUnknownOrder()
+bool TZBuyAndSellController::isInDoubt(const OrderIntent &order) const
 {
-    const OrderIntent order = entry();
-    const std::optional<OrderIntent> unknown = UnknownOrders::find(order);
-    if (!unknown || !window() || (wantedAgain && wantedAgain->isSameOrder(order)))
-        return false;
+    const bool wanted = wantedAgain && wantedAgain->isSameOrder(order);
+    return !wanted && !UnknownOrders::like(order).isEmpty();
+}
+
+void TZBuyAndSellController::askAboutUnknownOrders(const OrderIntent &order)
+{
     const auto again = [this, order] {
         wantedAgain = order;
         passOn();
     };
-    UnknownOrderDialogs::ask(*window(), *unknown, ways(), OwnedAction{this, again});
-    return true;
+    if (window())
+        UnknownOrderDialogs::ask(*window(), order, ways(), OwnedAction{this, again});
 }
 
 bool TZBuyAndSellController::needTradePwd() const
@@ -321,9 +329,12 @@ void TZBuyAndSellController::submit()
         return;
     orderTimer.stop();
     wantedAgain.reset();
+    wantsPassword.reset();
     if (const QString message = fault(); !message.isEmpty())
         Service::showErrorWithMsg(message);
-    else if (!asksAboutUnknownOrder())
+    else if (const OrderIntent order = entry(); isInDoubt(order))
+        askAboutUnknownOrders(order);
+    else
         passOn();
 }
 
@@ -356,28 +367,33 @@ void TZBuyAndSellController::sendOrder(const QString &password)
     if (orderOnItsWay)
         return;
     // The entry may have been edited since it was checked.
-    if (const QString message = fault(); !message.isEmpty())
+    if (const QString message = fault(); !wantsPassword && !message.isEmpty())
         return Service::showErrorWithMsg(message);
-    if (asksAboutUnknownOrder())
-        return;
+    const OrderIntent order = std::exchange(wantsPassword, {}).value_or(entry());
+    if (isInDoubt(order))
+        return askAboutUnknownOrders(order);
     endEditing();
-    orderOnItsWay = true;
-    OrderIntent order = entry();
-    const auto answered = [this, hadPassword = !password.isEmpty()](const Operation &,
-                                                                    const QVariantMap &answer) {
-        showAnswer(answer, hadPassword);
+    setOrderOnItsWay(true);
+    const auto answered = [this, order, hadPassword = !password.isEmpty()](const Operation &,
+                                                                           const QVariantMap &answer) {
+        showAnswer(order, answer, hadPassword);
     };
-    const auto failed = [this, order](const Operation &, const RequestError &error) {
-        const std::optional<OrderIntent> unknown = UnknownOrders::find(order);
-        if (error.mayHaveArrived() && unknown && window())
-            UnknownOrderDialogs::tell(*window(), *unknown, ways());
+    const auto lost = [this](const Operation &, const OrderIntent &lostOrder) {
+        if (window())
+            UnknownOrderDialogs::tell(*window(), lostOrder, ways());
     };
     const Operation operation =
-        UnknownOrders::send(order, password, Success{this, answered}, Failure{this, failed});
-    connect(operation.get(), &RequestOperation::finished, this, [this] { orderOnItsWay = false; });
+        UnknownOrders::send(order, password, Success{this, answered}, UnknownOrders::Lost{this, lost});
+    connect(operation.get(), &RequestOperation::finished, this, [this] { setOrderOnItsWay(false); });
 }
 
-void TZBuyAndSellController::showAnswer(const QVariantMap &answer, bool hadPassword)
+void TZBuyAndSellController::setOrderOnItsWay(bool onItsWay)
+{
+    orderOnItsWay = onItsWay;
+    Q_EMIT barChanged();
+}
+
+void TZBuyAndSellController::showAnswer(const OrderIntent &order, const QVariantMap &answer, bool hadPassword)
 {
     if (boolValue(answer.value(QStringLiteral("success")))) {
         SettingsStore &settings = Platform::current().settings;
@@ -387,10 +403,13 @@ void TZBuyAndSellController::showAnswer(const QVariantMap &answer, bool hadPassw
         if (!Service::whetherAnEmptyString(id)) {
             orderPlaced();
             showResult();
+        } else if (window()) {
+            UnknownOrderDialogs::lookQuietly(*window(), 30s);
         }
     } else if (wantsTradePassword(answer)) {
         if (hadPassword && Service::whetherAnEmptyString(answer.value(QStringLiteral("message"))))
             Service::showErrorWithMsg(QStringLiteral("交易密码不正确，请重试"));
+        wantsPassword = order;
         showTradePwdPrompt();
     }
 }

@@ -115,14 +115,16 @@ private:
     /// What stands against sending the entry as it is now; "" when nothing does.
     QString fault() const;
     OrderIntent entry() const;
-    /// Whether the same order is among those of unknown outcome; asks the user about it then, and goes on
-    /// with the submission when the user wants the order once more.
-    bool asksAboutUnknownOrder();
+    /// Whether one like it is of unknown outcome and the user has not yet said to want it once more.
+    bool isInDoubt(const OrderIntent &order) const;
+    /// Goes on with the submission when the user wants the order once more.
+    void askAboutUnknownOrders(const OrderIntent &order);
     bool needTradePwd() const;
     void passOn();
     void showTradePwdPrompt();
     void sendOrder(const QString &password);
-    void showAnswer(const QVariantMap &answer, bool hadPassword);
+    void setOrderOnItsWay(bool onItsWay);
+    void showAnswer(const OrderIntent &order, const QVariantMap &answer, bool hadPassword);
     void orderPlaced();
     void showResult();
     OrderWays ways();
@@ -144,7 +146,7 @@ private:
 
     QString latestPrice;
     double previousClose = 0;
-    /// On the service's clock, as the quote says.
+    /// On the service's clock, as the latest quote says that tells it.
     qint64 quotedAt = 0;
     QList<TZHandicapModel> buyLevels;
     QList<TZHandicapModel> sellLevels;
@@ -164,4 +166,9 @@ private:
     bool orderOnItsWay = false;
     /// The order that the user wants although one like it is of unknown outcome.
     std::optional<OrderIntent> wantedAgain;
+    /// The order that the service refused for want of the trade password: that one is sent with it, whatever
+    /// the entry says by then.
+    std::optional<OrderIntent> wantsPassword;
+    /// The screen was covered before the half second of a submission was over.
+    bool submissionBroken = false;
 };

@@ -3,12 +3,14 @@
 #include "core/util/OwnedAction.h"
 #include "trading/screens/OrderIntent.h"
 
+#include <chrono>
+
 class KRWindow;
 
 /// What order entry offers once an order stands in the books.
 struct OrderWays {
     /// Run at once when the order is found.
-    OwnedAction placed;
+    OwnedAction whenFound;
     /// "实盘炒股".
     OwnedAction leave;
     /// "继续买入", "继续卖出".
@@ -18,12 +20,16 @@ struct OrderWays {
 /// What the user is told of orders whose outcome is unknown. The dialogs outlive the screen that shows them.
 namespace UnknownOrderDialogs {
 
-/// Says that the outcome is unknown, looks for the order in today's entrusts and says what was found; the
-/// order that was found is settled. Closing it ends the search.
+/// Says that the outcome is unknown, looks for all unknown orders like this one in today's entrusts, and says
+/// what was found. Closing it ends the search.
 void tell(KRWindow &window, const OrderIntent &order, const OrderWays &ways);
 
-/// Asks before the same order goes out once more: `again` when the user wants it. The other way out is to
-/// look for `order` first.
+/// Asks before the same order goes out once more. When the user wants it the entrusts are read once more
+/// first: `again` runs when it is not among them. The other way out is to look for it.
 void ask(KRWindow &window, const OrderIntent &order, const OrderWays &ways, const OwnedAction &again);
+
+/// Looks for all unknown orders once, without a word unless one is found. Waits while a dialog is shown or an
+/// order may be on its way. The other functions stop it, and start it anew for what arrives late.
+void lookQuietly(KRWindow &window, std::chrono::milliseconds after);
 
 } // namespace UnknownOrderDialogs

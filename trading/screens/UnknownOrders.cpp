@@ -9,36 +9,46 @@
 #include "core/util/Text.h"
 #include "trading/api/TZTradeTool.h"
 
-#include <QDateTime>
 #include <algorithm>
 
 namespace {
 const QString userKey = QStringLiteral("user");
-const QString dayKey = QStringLiteral("day");
 const QString ordersKey = QStringLiteral("orders");
-const QString placedKey = QStringLiteral("placed");
+const QString knownKey = QStringLiteral("known");
 
-/// What is written down of one user and one day.
+/// More than anybody orders by hand in a day.
+constexpr qsizetype mostKnown = 1000;
+/// Milliseconds after which a request is no longer under way anywhere.
+constexpr qint64 longEnough = 5 * 60'000;
+
+/// What is written down of one user.
 struct Record {
     QList<OrderIntent> unknown;
-    /// The identifiers of the orders whose outcome was told.
-    QStringList placed;
-};
+    /// The identifiers of entrusts that no unknown order became: those of an order whose outcome was told,
+    /// and those that stood before.
+    QStringList known;
 
-QString today()
-{
-    constexpr int exchangeTimeZone = 8 * 3600;
-    return QDateTime::fromMSecsSinceEpoch(Platform::current().runLoop.now(), Qt::OffsetFromUTC,
-                                          exchangeTimeZone)
-        .toString(QStringLiteral("yyyyMMdd"));
-}
+    void know(const QString &id)
+    {
+        if (known.contains(id))
+            return;
+        known.append(id);
+        if (known.size() > mostKnown)
+            known.removeFirst();
+    }
+    /// False when it was not there.
+    bool crossOut(const OrderIntent &order)
+    {
+        return unknown.removeIf([&](const OrderIntent &each) { return each.isSameIntent(order); }) > 0;
+    }
+};
 
 Record stored()
 {
     const QVariantMap map = Platform::current().settings.value(UnknownOrders::settingsKey).toMap();
-    if (map.value(userKey) != TZUserModel::stored().cell || map.value(dayKey) != today())
+    if (map.value(userKey) != TZUserModel::stored().cell)
         return {};
-    Record record{{}, map.value(placedKey).toStringList()};
+    Record record{{}, map.value(knownKey).toStringList()};
     const QVariantList orders = map.value(ordersKey).toList();
     for (const QVariant &order : orders)
         record.unknown.append(OrderIntent::fromMap(order.toMap()));
@@ -51,10 +61,9 @@ void store(const Record &record)
     for (const OrderIntent &order : record.unknown)
         orders.append(order.toMap());
     SettingsStore &settings = Platform::current().settings;
-    settings.setValue(UnknownOrders::settingsKey, QVariantMap{{userKey, TZUserModel::stored().cell},
-                                                              {dayKey, today()},
-                                                              {ordersKey, orders},
-                                                              {placedKey, record.placed}});
+    settings.setValue(
+        UnknownOrders::settingsKey,
+        QVariantMap{{userKey, TZUserModel::stored().cell}, {ordersKey, orders}, {knownKey, record.known}});
     settings.synchronize();
 }
 
@@ -71,64 +80,137 @@ QStringList likeOnesReadBefore(const OrderIntent &intent)
     return ids;
 }
 
-void writeDown(OrderIntent &intent)
+void writeDown(OrderIntent &order)
 {
     Record record = stored();
-    intent.sentAt = Platform::current().runLoop.now();
-    intent.earlier = record.placed + likeOnesReadBefore(intent);
-    record.unknown.append(intent);
+    // Two submissions within a millisecond would be one.
+    order.sentAt = Platform::current().runLoop.now();
+    for (const OrderIntent &each : std::as_const(record.unknown))
+        order.sentAt = std::max(order.sentAt, each.sentAt + 1);
+    order.earlier = record.known + likeOnesReadBefore(order);
+    record.unknown.append(order);
     store(record);
 }
 
-void hear(const OrderIntent &intent, const QVariantMap &answer)
+/// The outcome of `order` is known: the entrust with this identifier, or none when it is empty.
+void crossOut(const OrderIntent &order, const QString &id)
+{
+    Record record = stored();
+    if (!record.crossOut(order))
+        return;
+    if (!id.isEmpty())
+        record.know(id);
+    store(record);
+}
+
+enum class Outcome { Placed, PlacedSomewhere, Refused, Unknown };
+
+/// Without "success" only a reason makes a refusal: anybody on the way may answer with other JSON. And where
+/// a redirect led, nobody knows of the order.
+Outcome outcomeOf(const Operation &operation, const QVariantMap &answer, const QString &id)
+{
+    if (ToolPolicy::succeeded(answer))
+        return id.isEmpty() ? Outcome::PlacedSomewhere : Outcome::Placed;
+    const auto says = [&answer](const QString &key) {
+        return !Service::whetherAnEmptyString(answer.value(key));
+    };
+    const bool refused =
+        says(QStringLiteral("success")) || says(QStringLiteral("code")) || says(QStringLiteral("message"));
+    return refused && !operation->redirected ? Outcome::Refused : Outcome::Unknown;
+}
+
+QString identifier(const QVariantMap &answer)
 {
     const QVariant id = answer.value(QStringLiteral("data")).toMap().value(QStringLiteral("id"));
-    if (!ToolPolicy::succeeded(answer))
-        UnknownOrders::settle(intent);
-    else if (!Service::whetherAnEmptyString(id))
-        UnknownOrders::settle(intent, textForm(id));
-    // Accepted, and no word of an entrust: nobody knows.
+    return Service::whetherAnEmptyString(id) ? QString() : textForm(id);
+}
+
+/// None of the entrusts that `order` may have become is certainly its own.
+void doubt(QList<FoundOrder> &found, const OrderIntent &order)
+{
+    for (FoundOrder &each : found)
+        each.certain = each.certain && !each.order.isSameOrder(order);
+}
+
+/// No longer when its user signed out meanwhile.
+bool isUnknown(const OrderIntent &order)
+{
+    const QList<OrderIntent> unknown = UnknownOrders::all();
+    return std::any_of(unknown.begin(), unknown.end(),
+                       [&order](const OrderIntent &each) { return each.isSameIntent(order); });
 }
 } // namespace
 
-Operation UnknownOrders::send(OrderIntent &intent, const QString &password, Success success, Failure failure)
+Operation UnknownOrders::send(OrderIntent order, const QString &password, Success answered, Lost lost)
 {
-    writeDown(intent);
-    const Success answered = Success::unowned(
-        [intent, success = std::move(success)](const Operation &operation, const QVariantMap &answer) {
-            hear(intent, answer);
-            success(operation, answer);
+    writeDown(order);
+    const Success heard = Success::unowned(
+        [order, answered = std::move(answered), lost](const Operation &operation, const QVariantMap &answer) {
+            const QString id = identifier(answer);
+            const Outcome outcome = outcomeOf(operation, answer, id);
+            if (outcome == Outcome::Placed || outcome == Outcome::Refused)
+                crossOut(order, outcome == Outcome::Placed ? id : QString());
+            answered(operation, answer);
+            if (outcome == Outcome::Unknown && isUnknown(order))
+                lost(operation, order);
         });
-    const Failure failed = Failure::unowned(
-        [intent, failure = std::move(failure)](const Operation &operation, const RequestError &error) {
+    const Failure failed =
+        Failure::unowned([order, lost](const Operation &operation, const RequestError &error) {
             if (!error.mayHaveArrived())
-                settle(intent);
-            failure(operation, error);
+                crossOut(order, {});
+            else if (isUnknown(order))
+                lost(operation, order);
         });
-    QVariantMap param = intent.parameters();
+    QVariantMap param = order.parameters();
     if (!password.isEmpty())
         param.insert(QStringLiteral("tradePassword"), password);
-    return intent.side == OrderSide::Buy ? TZTradeTool::postCreatBuyWithParam(param, answered, failed)
-                                         : TZTradeTool::postCreatSellWithParam(param, answered, failed);
+    return order.side == OrderSide::Buy ? TZTradeTool::postCreatBuyWithParam(param, heard, failed)
+                                        : TZTradeTool::postCreatSellWithParam(param, heard, failed);
 }
 
-std::optional<OrderIntent> UnknownOrders::find(const OrderIntent &order)
+QList<OrderIntent> UnknownOrders::all()
 {
-    const QList<OrderIntent> unknown = stored().unknown;
-    const auto latest = std::find_if(unknown.rbegin(), unknown.rend(),
-                                     [&order](const OrderIntent &each) { return each.isSameOrder(order); });
-    return latest == unknown.rend() ? std::nullopt : std::optional(*latest);
+    return stored().unknown;
 }
 
-void UnknownOrders::settle(const OrderIntent &order, const QString &id)
+QList<OrderIntent> UnknownOrders::like(const OrderIntent &order)
+{
+    QList<OrderIntent> unknown = stored().unknown;
+    unknown.removeIf([&order](const OrderIntent &each) { return !each.isSameOrder(order); });
+    return unknown;
+}
+
+QList<FoundOrder> UnknownOrders::settle(const QList<OrderIntent> &sought,
+                                        const QList<TZEntrustsTodayModel> &entrusts)
 {
     Record record = stored();
-    const auto removed = record.unknown.removeIf([&](const OrderIntent &each) {
-        return each.isSameOrder(order) && (each.sentAt == order.sentAt || !id.isEmpty());
-    });
-    if (removed == 0)
-        return;
-    if (!id.isEmpty())
-        record.placed.append(id);
+    QList<FoundOrder> found;
+    QList<OrderIntent> missing = sought;
+    for (const TZEntrustsTodayModel &entrust : entrusts) {
+        const auto mayBe = [&](const OrderIntent &order) { return order.mayHaveBecome(entrust); };
+        const auto like = [&](const OrderIntent &order) { return order.isLike(entrust); };
+        if (record.known.contains(entrust.id) || std::none_of(sought.begin(), sought.end(), like))
+            continue;
+        record.know(entrust.id);
+        if (std::none_of(sought.begin(), sought.end(), mayBe))
+            continue;
+        // What an order may have become may also have come of one before it: those are left the others.
+        const auto missed = std::find_if(missing.rbegin(), missing.rend(), mayBe);
+        const bool tooMany = missed == missing.rend();
+        const OrderIntent order = tooMany ? *std::find_if(sought.rbegin(), sought.rend(), mayBe) : *missed;
+        const bool timed = order.quotedAt > 0 && OrderIntent::serviceTime(entrust.createdAt) > 0;
+        found.append({order, entrust, timed});
+        if (tooMany)
+            doubt(found, order);
+        else
+            missing.erase(std::next(missed).base());
+        record.crossOut(order);
+    }
+    const qint64 now = Platform::current().runLoop.now();
+    for (const OrderIntent &order : std::as_const(missing)) {
+        if (now - order.sentAt > longEnough)
+            record.crossOut(order);
+    }
     store(record);
+    return found;
 }
