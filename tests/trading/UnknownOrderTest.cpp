@@ -1,87 +1,6 @@
 #include "core/util/Service.h"
-#include "tests/trading/OrderEntryFixture.h"
+#include "tests/trading/UnknownOrderFixture.h"
 #include "trading/api/TZTradeTool.h"
-#include "trading/screens/UnknownOrders.h"
-
-namespace {
-const QString entrustsPath = QStringLiteral("entrustsToday");
-
-/// Milliseconds on the service's clock, which is not the device's.
-qint64 seconds(int count)
-{
-    return 1'600'000'000'000 + count * 1000;
-}
-
-QVariantMap entrust(const QString &id, int createdAt = 0)
-{
-    return {{"id", id},      {"entrustNo", "1000" + id}, {"stockCode", "600001"},
-            {"type", "1"},   {"entrustPrice", "12.340"}, {"entrustShares", "800"},
-            {"status", "2"}, {"errorMsg", ""},           {"createdAt", QString::number(seconds(createdAt))}};
-}
-
-QVariantMap with(QVariantMap map, const QString &key, const QVariant &value)
-{
-    map.insert(key, value);
-    return map;
-}
-} // namespace
-
-/// A purchase of 800 at 12.34, and what becomes of it.
-class UnknownOrderTest : public OrderEntryTest {
-protected:
-    UnknownOrderTest()
-    {
-        reachability.change(NetworkStatus::ReachableViaWiFi);
-        settings.setValue(SettingsKeys::networkStatus, true);
-    }
-
-    /// Sends the order of the entry; no answer comes back.
-    void lose(const HttpOutcome &outcome = HttpFailure::TimedOut)
-    {
-        submitEntry();
-        http.answerRaw(http.pending(buyPath), outcome);
-    }
-    void loseNext()
-    {
-        enter("12.34", "800");
-        lose();
-    }
-    /// The service tells its time with every quote.
-    void quoteAt(const QVariant &time)
-    {
-        QVariantMap answer = quote("12.30");
-        answer["data"] = with(answer["data"].toMap(), "time", time);
-        http.answer(quotePath, answer);
-        runLoop.advance(3s);
-    }
-    void quoteAt(int time) { quoteAt(QString::number(seconds(time))); }
-    void answerPage(const QVariantList &entrusts) { http.answer(entrustsPath, succeeded(entrusts)); }
-    /// All there is today.
-    void answerEntrusts(const QVariantList &entrusts)
-    {
-        answerPage(entrusts);
-        if (!entrusts.isEmpty() && http.hasPending(entrustsPath))
-            answerPage({});
-    }
-    void findNothing(const QVariantList &entrusts = {})
-    {
-        answerEntrusts(entrusts);
-        runLoop.advance(3s);
-        answerEntrusts(entrusts);
-        EXPECT_EQ(said(), "未找到这笔委托");
-    }
-    /// Goes through the question, and the reading that follows it.
-    void submitAgain(const QVariantList &entrusts)
-    {
-        submitEntry();
-        EXPECT_EQ(said(), "确认再次提交");
-        alert()->leftBtnClick();
-        answerEntrusts(entrusts);
-        runLoop.advance(500ms);
-    }
-    QString said() { return alert() ? alert()->titleText() : QString(); }
-    bool says(const QString &part) { return alert() && alert()->ensureText().contains(part); }
-};
 
 TEST_F(UnknownOrderTest, IsSaidAndLookedForAndFoundWithItsStatus)
 {
@@ -304,110 +223,6 @@ TEST_F(UnknownOrderTest, EntrustsThatCannotBeReadAreSaidAndReadAgainOnDemand)
     EXPECT_EQ(said(), "已找到这笔委托");
 }
 
-TEST_F(UnknownOrderTest, TheFirstOfTwoLostOnesIsFoundWhenOnlyItStands)
-{
-    openWithEntry();
-    quoteAt(0);
-    lose();
-    http.fail(entrustsPath, HttpFailure::TimedOut);
-    alert()->rightBtnClick();
-    quoteAt(500);
-    TZTradeTool::getEntrustsTodayWithParam({}, {}, {});
-    answerPage({entrust("4", 1)});
-    submitEntry();
-    alert()->leftBtnClick();
-    http.fail(entrustsPath, HttpFailure::TimedOut);
-    EXPECT_EQ(alert()->leftTitle(), "再次提交") << "the entrusts cannot be read, and the user knows";
-    alert()->leftBtnClick();
-    runLoop.advance(500ms);
-    EXPECT_EQ(http.countOf(buyPath), 2);
-    http.fail(buyPath, HttpFailure::TimedOut);
-    // It was in a list that was read before the second went out.
-    answerEntrusts({entrust("4", 1)});
-    EXPECT_EQ(said(), "已找到这笔委托");
-    EXPECT_TRUE(says("10004"));
-    EXPECT_TRUE(says("另有 1 次提交没有找到"));
-    alert()->cancel();
-
-    enter("12.34", "800");
-    submitEntry();
-    EXPECT_EQ(said(), "确认再次提交") << "the second may still arrive";
-    alert()->rightBtnClick();
-    answerEntrusts({entrust("5", 501), entrust("4", 1)});
-    EXPECT_TRUE(says("10005"));
-    alert()->cancel();
-    EXPECT_TRUE(UnknownOrders::all().isEmpty());
-}
-
-TEST_F(UnknownOrderTest, WhenBothStandBothAreNamed)
-{
-    openWithEntry();
-    quoteAt(0);
-    lose();
-    findNothing();
-    alert()->rightBtnClick();
-    submitAgain({});
-    http.fail(buyPath, HttpFailure::Connection);
-    answerEntrusts({entrust("5", 20), entrust("4", 1)});
-    EXPECT_EQ(said(), "已找到 2 笔委托");
-    EXPECT_TRUE(says("10004"));
-    EXPECT_TRUE(says("10005"));
-    EXPECT_FALSE(says("可能是这笔"));
-    alert()->cancel();
-
-    loseNext();
-    answerEntrusts({entrust("7", 20), entrust("6", 10), entrust("5", 20), entrust("4", 1)});
-    EXPECT_EQ(said(), "已找到 2 笔委托");
-    EXPECT_TRUE(says("可能是这笔：委托编号 10006")) << "one of them is not this client's";
-    EXPECT_TRUE(says("可能是这笔：委托编号 10007"));
-}
-
-TEST_F(UnknownOrderTest, WhatArrivesLateIsFoundBeforeTheSecondGoesOutOrToldAfterIt)
-{
-    openWithEntry();
-    quoteAt(0);
-    lose();
-    findNothing();
-    alert()->rightBtnClick();
-    submitEntry();
-    alert()->leftBtnClick();
-    EXPECT_EQ(said(), "再次提交");
-    answerEntrusts({entrust("4", 25)});
-    EXPECT_EQ(said(), "已找到这笔委托");
-    alert()->cancel();
-    EXPECT_EQ(http.countOf(buyPath), 1);
-
-    loseNext();
-    findNothing({entrust("4", 25)});
-    alert()->rightBtnClick();
-    submitAgain({entrust("4", 25)});
-    http.answer(buyPath, succeeded(QVariantMap{{"id", "6"}}));
-    EXPECT_EQ(said(), "委托挂单成功");
-    alert()->leftBtnClick();
-    settle();
-    runLoop.advance(30s);
-    answerEntrusts({entrust("6", 60), entrust("5", 50), entrust("4", 25)});
-    EXPECT_EQ(said(), "已找到这笔委托") << "the screen is gone, and it is told all the same";
-    EXPECT_TRUE(says("10005"));
-    EXPECT_TRUE(UnknownOrders::all().isEmpty());
-}
-
-TEST_F(UnknownOrderTest, TheQuestionSendsNothingWhenItsReadingIsClosed)
-{
-    openWithEntry();
-    lose();
-    findNothing();
-    alert()->rightBtnClick();
-    submitEntry();
-    alert()->leftBtnClick();
-    FakeTransport::Sent &reading = http.pending(entrustsPath);
-    alert()->cancel();
-    settle();
-    http.answer(reading, succeeded(QVariantList()));
-    runLoop.advance(1s);
-    EXPECT_EQ(http.countOf(buyPath), 1);
-}
-
 TEST_F(UnknownOrderTest, IsReadQuietlyWhenOrderEntryOpensAfterAKill)
 {
     openWithEntry();
@@ -419,8 +234,16 @@ TEST_F(UnknownOrderTest, IsReadQuietlyWhenOrderEntryOpensAfterAKill)
     runLoop.advance(1ms);
     http.fail(entrustsPath, HttpFailure::TimedOut);
     EXPECT_EQ(alert(), nullptr);
-    openBuying();
+    openWithEntry();
+    runLoop.advance(1ms);
+    FakeTransport::Sent &reading = http.pending(entrustsPath);
+    enter("12.34", "100");
+    submitEntry();
+    http.answer(reading, succeeded(QVariantList{entrust("4")}));
+    EXPECT_FALSE(http.hasPending(entrustsPath)) << "it began before this order went out";
+    http.answer(buyPath, refused("资金不足"));
     enter("12.50", "100");
+    runLoop.advance(30s);
     answerEntrusts({entrust("4")});
     EXPECT_EQ(said(), "已找到这笔委托");
     EXPECT_EQ(screen->price(), "12.50") << "another entry stays";
@@ -447,62 +270,6 @@ TEST_F(UnknownOrderTest, ARefusedEntrustKeepsTheEntryAndWhatIsLeftOutIsNotSaid)
     EXPECT_EQ(said(), "已找到这笔委托");
     EXPECT_FALSE(says("委托编号"));
     EXPECT_FALSE(says("状态"));
-}
-
-TEST_F(UnknownOrderTest, TheSameOrderAsksForOneConfirmationAnotherOneDoesNot)
-{
-    openWithEntry();
-    lose();
-    findNothing();
-    alert()->rightBtnClick();
-
-    enter("12.35", "800");
-    submitEntry();
-    EXPECT_EQ(http.countOf(buyPath), 2) << "another price is another order";
-    http.answer(buyPath, refused("资金不足"));
-
-    enter("12.34", "0800");
-    submitEntry();
-    EXPECT_EQ(said(), "确认再次提交");
-    EXPECT_EQ(http.countOf(buyPath), 2);
-    alert()->cancel();
-    runLoop.advance(1s);
-    EXPECT_EQ(http.countOf(buyPath), 2);
-
-    submitAgain({});
-    EXPECT_EQ(http.countOf(buyPath), 3);
-    http.answer(buyPath, refused("资金不足"));
-    submitAgain({});
-    EXPECT_EQ(http.countOf(buyPath), 4) << "a refusal says nothing of the first one";
-    http.answer(buyPath, succeeded(QVariantMap{{"id", "5"}}));
-    EXPECT_EQ(said(), "委托挂单成功");
-    alert()->cancel();
-
-    enter("12.34", "800");
-    runLoop.advance(6min);
-    answerEntrusts({entrust("5")});
-    EXPECT_EQ(said(), "") << "what is missing for so long never arrived";
-    submitEntry();
-    EXPECT_EQ(http.countOf(buyPath), 5);
-}
-
-TEST_F(UnknownOrderTest, TheQuestionLeadsToTheSearchToo)
-{
-    openWithEntry();
-    lose();
-    alert()->cancel();
-    submitEntry();
-    EXPECT_EQ(said(), "确认再次提交");
-    alert()->rightBtnClick();
-    EXPECT_EQ(said(), "委托结果未知");
-    // Two requests: the search that was closed died with its dialog.
-    settle();
-    answerEntrusts({entrust("4")});
-    EXPECT_EQ(said(), "已找到这笔委托");
-    alert()->cancel();
-    enter("12.34", "800");
-    submitEntry();
-    EXPECT_EQ(http.countOf(buyPath), 2);
 }
 
 TEST_F(UnknownOrderTest, IsRememberedBeyondItsScreenUntilItsUserSignsOutOrTheDayEnds)

@@ -391,6 +391,9 @@ void TZBuyAndSellController::setOrderOnItsWay(bool onItsWay)
 {
     orderOnItsWay = onItsWay;
     Q_EMIT barChanged();
+    // A reading from before does not know of this order; one soon after may know of those that are late.
+    if (window())
+        UnknownOrderDialogs::lookQuietly(*window(), 30s);
 }
 
 void TZBuyAndSellController::showAnswer(const OrderIntent &order, const QVariantMap &answer, bool hadPassword)
@@ -403,8 +406,6 @@ void TZBuyAndSellController::showAnswer(const OrderIntent &order, const QVariant
         if (!Service::whetherAnEmptyString(id)) {
             orderPlaced();
             showResult();
-        } else if (window()) {
-            UnknownOrderDialogs::lookQuietly(*window(), 30s);
         }
     } else if (wantsTradePassword(answer)) {
         if (hadPassword && Service::whetherAnEmptyString(answer.value(QStringLiteral("message"))))

@@ -103,14 +103,14 @@ void crossOut(const OrderIntent &order, const QString &id)
     store(record);
 }
 
-enum class Outcome { Placed, PlacedSomewhere, Refused, Unknown };
+enum class Outcome { Placed, PlacedUnnamed, Refused, Unknown };
 
 /// Without "success" only a reason makes a refusal: anybody on the way may answer with other JSON. And where
 /// a redirect led, nobody knows of the order.
 Outcome outcomeOf(const Operation &operation, const QVariantMap &answer, const QString &id)
 {
     if (ToolPolicy::succeeded(answer))
-        return id.isEmpty() ? Outcome::PlacedSomewhere : Outcome::Placed;
+        return id.isEmpty() ? Outcome::PlacedUnnamed : Outcome::Placed;
     const auto says = [&answer](const QString &key) {
         return !Service::whetherAnEmptyString(answer.value(key));
     };
