@@ -23,7 +23,7 @@ Client::Client(Options startOptions)
     : options(std::move(startOptions)), views(std::in_place), trust(trustOf(options)),
       settings(settingsPath(options)), application(options.apiBaseUrl, options.dataDirectory), http(trust),
       reachability(QUrl(options.apiBaseUrl)), share(pasteboard, urlOpener),
-      feedback(urlOpener, Configuration::serviceMail, QStringLiteral("用户反馈")),
+      feedback(pasteboard, urlOpener, Configuration::serviceMail, QStringLiteral("用户反馈")),
 #ifdef ZORVANE_DEVELOPER_OPTIONS
       push(options.apiBaseUrl, trust),
 #endif

@@ -1,20 +1,67 @@
 import QtQuick
 
 /// A list between two ordinary items that scroll with it, `headerContent` and `footerContent`: the components for this of
-/// ListView cannot be made in documents with bound components. Scrolls with the keyboard.
+/// ListView cannot be made in documents with bound components. The arrow keys go from row to row where rows can be
+/// reached with the keyboard, otherwise they scroll; what the keyboard reaches is scrolled into view.
 ListView {
     id: list
 
     property Item headerContent
     property Item footerContent
+    readonly property bool scrolls: contentHeight > height
+    readonly property Item focused: Window.activeFocusItem
 
     function scrollBy(distance: real) {
         const end = Math.max(originY, originY + contentHeight - height)
         contentY = Math.max(originY, Math.min(end, contentY + distance))
     }
 
+    function holds(area: Item, item: Item): bool {
+        let up = item
+        while (up && up !== area)
+            up = up.parent
+        return up !== null
+    }
+
+    /// What the keyboard goes to in a row; null in a row of texts.
+    function stopIn(row: Item): Item {
+        if (!row || row.activeFocusOnTab)
+            return row
+        const first = row.nextItemInFocusChain(true)
+        return holds(row, first) ? first : null
+    }
+
+    function focusedRow(): int {
+        let row = focused
+        while (row && row.parent !== contentItem)
+            row = row.parent
+        return row ? indexAt(row.x, row.y + 1) : -1
+    }
+
+    function focusRow(row: int): bool {
+        if (row < 0 || row >= count)
+            return false
+        positionViewAtIndex(row, ListView.Contain)
+        const stop = stopIn(itemAtIndex(row))
+        if (stop)
+            stop.forceActiveFocus(Qt.TabFocusReason)
+        return stop !== null
+    }
+
+    function step(by: int) {
+        const from = focusedRow()
+        const seen = indexAt(0, Math.max(contentY, 0))
+        if (!focusRow(from < 0 ? Math.max(seen, 0) : from + by))
+            scrollBy(by * Theme.rowHeight)
+    }
+
+    function leap(row: int, distance: real) {
+        if (!focusRow(row))
+            scrollBy(distance)
+    }
+
     clip: true
-    activeFocusOnTab: contentHeight > height || activeFocus
+    activeFocusOnTab: scrolls && !stopIn(currentItem) || activeFocus
     boundsBehavior: Flickable.StopAtBounds
     keyNavigationEnabled: false
     header: ListSlot {
@@ -24,20 +71,37 @@ ListView {
         content: (ListView.view as ContentList)?.footerContent ?? null
     }
     Accessible.role: Accessible.List
+    onFocusedChanged: {
+        if (!focused || focused === list || !holds(contentItem, focused))
+            return
+        const top = focused.mapToItem(contentItem, 0, 0).y
+        contentY = Math.max(Math.min(contentY, top), top + focused.height - height)
+    }
 
-    Keys.onDownPressed: scrollBy(Theme.rowHeight)
-    Keys.onUpPressed: scrollBy(-Theme.rowHeight)
+    Keys.onDownPressed: step(1)
+    Keys.onUpPressed: step(-1)
     Keys.onPressed: event => {
+        const rows = Math.max(1, Math.floor(height / Theme.rowHeight) - 1)
         event.accepted = true
         if (event.key === Qt.Key_PageDown)
-            scrollBy(height - Theme.rowHeight)
+            leap(Math.min(focusedRow() + rows, count - 1), height - Theme.rowHeight)
         else if (event.key === Qt.Key_PageUp)
-            scrollBy(Theme.rowHeight - height)
+            leap(Math.max(focusedRow() - rows, 0), Theme.rowHeight - height)
         else if (event.key === Qt.Key_Home)
-            scrollBy(-contentHeight)
+            leap(0, -contentHeight)
         else if (event.key === Qt.Key_End)
-            scrollBy(contentHeight)
+            leap(count - 1, contentHeight)
         else
             event.accepted = false
+    }
+
+    Rectangle {
+        parent: list
+        anchors.fill: parent
+        z: 1
+        visible: list.activeFocus && list.scrolls && !list.stopIn(list.currentItem)
+        color: Theme.transparent
+        border.width: Theme.focusRingWidth
+        border.color: Theme.deep.focusRing
     }
 }

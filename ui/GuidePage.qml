@@ -29,18 +29,20 @@ Item {
             width: parent.width
             text: page.headline
             font: Theme.headline
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: Theme.title.pixelSize
             color: Theme.navigationText
             horizontalAlignment: Text.AlignHCenter
-            wrapMode: Text.Wrap
             Accessible.ignored: true
         }
         Text {
             width: parent.width
             text: page.line
             font: Theme.body
-            color: Theme.deep.textSecondary
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: Theme.smallestText
+            color: Theme.deepLight.textSecondary
             horizontalAlignment: Text.AlignHCenter
-            wrapMode: Text.Wrap
             Accessible.ignored: true
         }
     }

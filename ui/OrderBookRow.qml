@@ -17,10 +17,13 @@ Tappable {
     ringInset: 1
     deep: true
     text: title + " " + price + " " + volume
-    background: Item {
+    background: Rectangle {
+        color: row.tones.surface
+
+        // Beside the price, which would not be read as well on it.
         Rectangle {
             anchors { right: parent.right; top: parent.top; bottom: parent.bottom; margins: 2 }
-            width: (parent.width - 4) * Math.min(1, Math.max(0, row.share))
+            width: (parent.width / 2 - Theme.spacingLarge) * Math.min(1, Math.max(0, row.share))
             color: row.buySide ? Theme.buy : Theme.sell
             opacity: 0.2
         }
@@ -41,7 +44,7 @@ Tappable {
             Accessible.ignored: true
         }
         AmountText {
-            anchors { left: parent.left; leftMargin: Theme.touchTarget; right: parent.horizontalCenter }
+            anchors { left: parent.left; leftMargin: Theme.scaled(44); right: parent.horizontalCenter }
             anchors.verticalCenter: parent.verticalCenter
             anchors.rightMargin: -Theme.spacingLarge
             text: row.price

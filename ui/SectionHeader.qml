@@ -23,6 +23,14 @@ Item {
         elide: Text.ElideRight
         Accessible.ignored: true
     }
+    // A trend is not read as well on the page itself.
+    Rectangle {
+        anchors { fill: trailingText; leftMargin: -Theme.spacing; rightMargin: -Theme.spacing }
+        anchors { topMargin: -Theme.spacingTiny; bottomMargin: -Theme.spacingTiny }
+        visible: header.trailingTrend !== 0
+        radius: height / 2
+        color: Theme.tones(header.deep).surface
+    }
     Text {
         id: trailingText
         anchors { right: parent.right; rightMargin: Theme.margin; verticalCenter: parent.verticalCenter }

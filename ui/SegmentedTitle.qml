@@ -38,7 +38,7 @@ Row {
             }
             background: Item {
                 Rectangle {
-                    anchors { bottom: parent.bottom; horizontalCenter: parent.horizontalCenter; bottomMargin: 4 }
+                    anchors { bottom: parent.bottom; horizontalCenter: parent.horizontalCenter; bottomMargin: 1 }
                     width: 24
                     height: 3
                     radius: 1.5

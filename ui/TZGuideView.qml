@@ -70,7 +70,7 @@ FocusScope {
                 width: current ? 20 : 8
                 height: 8
                 radius: 4
-                color: current ? Theme.link : Theme.deep.disabled
+                color: current ? Theme.deep.accent : Theme.deep.disabled
             }
         }
     }

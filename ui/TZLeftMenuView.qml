@@ -18,10 +18,14 @@ FocusScope {
             model: menu.controller.rows
 
             LeftMenuRow {
+                id: row
+
                 required property int index
 
                 width: parent.width
                 focus: index === 0
+                Keys.onDownPressed: row.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+                Keys.onUpPressed: row.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
                 onClicked: menu.controller.didSelectRow(index)
             }
         }

@@ -90,6 +90,8 @@ FocusScope {
             visible: field.length === 0 && !row.composing
             text: row.placeholder
             font: field.font
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 11
             color: row.tones.placeholder
             verticalAlignment: Text.AlignVCenter
             elide: Text.ElideRight

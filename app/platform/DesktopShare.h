@@ -5,7 +5,8 @@
 class Pasteboard;
 class UrlOpener;
 
-/// Sharing without a vendor's kit: the text goes to the pasteboard and into a mail draft.
+/// Sharing without a vendor's kit: everything in one string goes to the pasteboard, the text with its link
+/// into a mail draft.
 class DesktopShare : public ShareService {
 public:
     DesktopShare(Pasteboard &pasteboard, UrlOpener &urlOpener);

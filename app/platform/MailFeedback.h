@@ -2,17 +2,19 @@
 
 #include "core/platform/FeedbackService.h"
 
+class Pasteboard;
 class UrlOpener;
 
-/// Feedback as a mail draft to the service.
+/// Feedback as a mail draft to the service; where nothing opens it, the address goes to the pasteboard.
 class MailFeedback : public FeedbackService {
 public:
-    MailFeedback(UrlOpener &urlOpener, QString mailAddress, QString mailSubject);
+    MailFeedback(Pasteboard &pasteboard, UrlOpener &urlOpener, QString mailAddress, QString mailSubject);
 
     void start(const QString &) override {}
     void show() override;
 
 private:
+    Pasteboard &board;
     UrlOpener &opener;
     const QString address;
     const QString subject;

@@ -3,9 +3,9 @@
 #include <QDesktopServices>
 #include <QUrl>
 
-void QtUrlOpener::open(const QString &url)
+bool QtUrlOpener::open(const QString &url)
 {
     const QUrl target(url);
-    if (target.isValid() && !target.isRelative() && !target.isLocalFile())
-        QDesktopServices::openUrl(target);
+    return target.isValid() && !target.isRelative() && !target.isLocalFile() &&
+           QDesktopServices::openUrl(target);
 }

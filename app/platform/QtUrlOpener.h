@@ -6,5 +6,5 @@
 /// service.
 class QtUrlOpener : public UrlOpener {
 public:
-    void open(const QString &url) override;
+    bool open(const QString &url) override;
 };

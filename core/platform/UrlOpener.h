@@ -6,5 +6,6 @@
 class UrlOpener {
 public:
     virtual ~UrlOpener() = default;
-    virtual void open(const QString &url) = 0;
+    /// False when nothing on this machine opens it.
+    virtual bool open(const QString &url) = 0;
 };

@@ -12,10 +12,10 @@
 namespace {
 enum Row { Comment, Phone, Feedback, Recommend };
 
-void openStorePage()
+void openOutside(const QString &url)
 {
-    Platform::current().urlOpener.open(
-        QStringLiteral("itms-apps://itunes.apple.com/app/i%1").arg(Configuration::storeIdentifier));
+    if (!Platform::current().urlOpener.open(url))
+        Service::showErrorWithMsg(QStringLiteral("没有可以打开的应用"));
 }
 
 void recommend()
@@ -44,7 +44,8 @@ void TZMoreViewController::didSelectRow(int row)
 {
     switch (row) {
     case Comment:
-        return openStorePage();
+        return openOutside(
+            QStringLiteral("itms-apps://itunes.apple.com/app/i%1").arg(Configuration::storeIdentifier));
     case Phone:
         return showAlert(AlertTag::Phone,
                          {QStringLiteral("联系客服"),
@@ -102,8 +103,7 @@ void TZMoreViewController::alertConfirmed(AlertTag tag)
 {
     switch (tag) {
     case AlertTag::Phone:
-        return Platform::current().urlOpener.open(
-            QStringLiteral("tel://%1").arg(Configuration::servicePhone));
+        return openOutside(QStringLiteral("tel://%1").arg(Configuration::servicePhone));
     case AlertTag::Logout:
         return logout();
     }

@@ -35,6 +35,8 @@ Tappable {
                 visible: text !== ""
                 text: title.nick
                 font: Theme.heading
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: Theme.body.pixelSize
                 color: title.tones.textPrimary
                 elide: Text.ElideRight
                 Accessible.ignored: true

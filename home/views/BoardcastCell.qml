@@ -34,6 +34,8 @@ Item {
         anchors { leftMargin: Theme.spacingSmall; rightMargin: Theme.spacingSmall }
         text: cell.text
         font: Theme.body
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: Theme.smallestText
         color: Theme.deep.textPrimary
         elide: Text.ElideRight
         Accessible.ignored: true

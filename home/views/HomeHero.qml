@@ -16,7 +16,8 @@ Item {
 
     Image {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
-        height: Math.min(width * 0.56, parent.height - Theme.spacingLarge)
+        // Below the figure, where there is room for it.
+        height: Math.min(width * 0.56, Math.max(parent.height - column.y - column.height, parent.height / 3))
         asynchronous: true
         sourceSize.width: width
         fillMode: Image.PreserveAspectCrop

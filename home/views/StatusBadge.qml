@@ -11,8 +11,8 @@ Tappable {
     deep: true
     leftPadding: Theme.spacing
     rightPadding: Theme.spacing
-    topInset: Theme.spacingSmall
-    bottomInset: Theme.spacingSmall
+    topInset: Theme.spacingTiny
+    bottomInset: Theme.spacingTiny
     background: Rectangle {
         radius: height / 2
         color: badge.atRisk ? Theme.riskBadge : Theme.warningBadge
@@ -22,7 +22,7 @@ Tappable {
         Icon {
             anchors.verticalCenter: parent.verticalCenter
             name: badge.image
-            size: 16
+            size: 20
         }
         Text {
             anchors.verticalCenter: parent.verticalCenter

@@ -12,73 +12,77 @@ PageFrame {
 
     colour: Theme.pageGray
 
-    Flickable {
+    ContentList {
         anchors { left: parent.left; right: parent.right; top: parent.top; bottom: buttons.top }
-        contentHeight: card.height + 2 * Theme.margin
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
+        focus: true
+        model: 0
+        Accessible.role: Accessible.Pane
 
-        Rectangle {
-            id: card
-            x: Theme.margin
-            y: Theme.margin
-            width: parent.width - 2 * Theme.margin
-            height: column.height + 2 * Theme.spacingLarge
-            radius: Theme.radiusLarge
-            color: Theme.surface
+        headerContent: Item {
+            height: card.height + 2 * Theme.margin
 
-            Column {
-                id: column
-                anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.spacingLarge }
-                spacing: Theme.spacing
+            Rectangle {
+                id: card
+                x: Theme.margin
+                y: Theme.margin
+                width: parent.width - 2 * Theme.margin
+                height: column.height + 2 * Theme.spacingLarge
+                radius: Theme.radiusLarge
+                color: Theme.surface
 
-                Row {
-                    width: parent.width
+                Column {
+                    id: column
+                    anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.spacingLarge }
                     spacing: Theme.spacing
 
-                    Icon {
-                        id: icon
-                        name: "message_detail"
-                        size: 40
-                    }
-                    Column {
-                        width: parent.width - icon.width - Theme.spacing
-                        spacing: Theme.spacingTiny
+                    Row {
+                        width: parent.width
+                        spacing: Theme.spacing
 
-                        Text {
-                            width: parent.width
-                            text: page.message.messageTitle
-                            textFormat: Text.PlainText
-                            font: Theme.title
-                            color: Theme.textPrimary
-                            wrapMode: Text.Wrap
-                            Accessible.role: Accessible.Heading
-                            Accessible.name: text
+                        Icon {
+                            id: icon
+                            name: "message_detail"
+                            size: 40
                         }
-                        Text {
-                            width: parent.width
-                            text: page.message.time
-                            textFormat: Text.PlainText
-                            font: Theme.label
-                            color: Theme.textSecondary
-                            Accessible.role: Accessible.StaticText
-                            Accessible.name: text
+                        Column {
+                            width: parent.width - icon.width - Theme.spacing
+                            spacing: Theme.spacingTiny
+
+                            Text {
+                                width: parent.width
+                                text: page.message.messageTitle
+                                textFormat: Text.PlainText
+                                font: Theme.title
+                                color: Theme.textPrimary
+                                wrapMode: Text.Wrap
+                                Accessible.role: Accessible.Heading
+                                Accessible.name: text
+                            }
+                            Text {
+                                width: parent.width
+                                text: page.message.time
+                                textFormat: Text.PlainText
+                                font: Theme.label
+                                color: Theme.textSecondary
+                                Accessible.role: Accessible.StaticText
+                                Accessible.name: text
+                            }
                         }
                     }
-                }
-                Hairline {
-                    width: parent.width
-                }
-                Text {
-                    width: parent.width
-                    text: page.message.content
-                    textFormat: Text.PlainText
-                    font: Theme.body
-                    color: Theme.textPrimary
-                    lineHeight: 1.5
-                    wrapMode: Text.Wrap
-                    Accessible.role: Accessible.StaticText
-                    Accessible.name: text
+                    Hairline {
+                        width: parent.width
+                    }
+                    Text {
+                        width: parent.width
+                        text: page.message.content
+                        textFormat: Text.PlainText
+                        font: Theme.body
+                        color: Theme.textPrimary
+                        lineHeight: 1.5
+                        wrapMode: Text.Wrap
+                        Accessible.role: Accessible.StaticText
+                        Accessible.name: text
+                    }
                 }
             }
         }

@@ -2,13 +2,27 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
 #include <QTimer>
 
 using namespace std::chrono_literals;
 
-Hand::Hand(QQuickWindow &usedWindow) : window(usedWindow)
+namespace {
+/// What is spoken of an item, or else of what it is part of.
+QAccessibleInterface *spokenOf(QQuickItem *item)
+{
+    for (; item; item = item->parentItem()) {
+        QAccessibleInterface *const spoken = QAccessible::queryAccessibleInterface(item);
+        if (spoken && !spoken->text(QAccessible::Name).isEmpty())
+            return spoken;
+    }
+    return nullptr;
+}
+} // namespace
+
+Hand::Hand(QQuickWindow &usedWindow, Means usedMeans) : window(usedWindow), means(usedMeans)
 {
     QAccessible::setActive(true);
 }
@@ -49,22 +63,31 @@ bool Hand::waitUntilGone(const QString &name) const
 
 bool Hand::press(const QString &name)
 {
-    return click(standing(name, false));
+    return pressed(standing(name, false));
 }
 
 bool Hand::pressPart(const QString &part)
 {
-    return click(standing(part, true));
+    return pressed(standing(part, true));
 }
 
 bool Hand::type(const QString &field, const QString &text)
 {
-    if (!press(field))
+    if (!reach(standing(field, false)))
         return false;
     QTest::keyClick(&window, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&window, Qt::Key_Delete);
     keys(text);
     return true;
+}
+
+bool Hand::back()
+{
+    if (means == Means::Mouse)
+        return press(QStringLiteral("返回"));
+    const bool hasWayBack = standing(QStringLiteral("返回"), false).has_value();
+    key(Qt::Key_Escape);
+    return hasWayBack;
 }
 
 void Hand::key(Qt::Key key)
@@ -138,11 +161,40 @@ std::optional<Hand::Control> Hand::standing(const QString &name, bool part) cons
     return before;
 }
 
-bool Hand::click(const std::optional<Control> &control)
+bool Hand::reach(const std::optional<Control> &control)
 {
-    if (!control)
+    return control && (means == Means::Mouse ? click(*control) : tabTo(*control));
+}
+
+bool Hand::pressed(const std::optional<Control> &control)
+{
+    if (!reach(control))
         return false;
-    QTest::mouseClick(&window, Qt::LeftButton, {}, window.mapFromGlobal(control->place.center()));
+    if (means == Means::Keyboard)
+        key(Qt::Key_Return);
+    return true;
+}
+
+bool Hand::click(const Control &control)
+{
+    QTest::mouseClick(&window, Qt::LeftButton, {}, window.mapFromGlobal(control.place.center()));
     QCoreApplication::processEvents();
     return true;
+}
+
+bool Hand::tabTo(const Control &control)
+{
+    constexpr int longestWay = 80;
+    for (int tabs = 0; tabs < longestWay; ++tabs) {
+        // A field shows that it has the keyboard with its cursor and its line, all else with a ring. The
+        // control may have been scrolled into view, so its place says nothing, but its size does.
+        const QAccessibleInterface *const focused = spokenOf(window.activeFocusItem());
+        const QVariant ring = window.activeFocusItem()->property("showsFocus");
+        if (focused && focused->text(QAccessible::Name) == control.name &&
+            focused->rect().size() == control.place.size() && (!ring.isValid() || ring.toBool()))
+            return true;
+        key(Qt::Key_Tab);
+        QCoreApplication::processEvents();
+    }
+    return false;
 }

@@ -12,10 +12,12 @@
 class QQuickWindow;
 
 /// Uses a window as a person does who reads what is on it: finds a control by the name that a screen reader
-/// would speak, and presses it with the mouse or types on the keyboard.
+/// would speak, and presses it with the mouse, or gets to it with Tab and presses Enter.
 class Hand {
 public:
-    explicit Hand(QQuickWindow &usedWindow);
+    enum class Means { Mouse, Keyboard };
+
+    explicit Hand(QQuickWindow &usedWindow, Means usedMeans = Means::Mouse);
 
     /// Runs the client until `reached`, or until the time is over; says which.
     static bool wait(const std::function<bool()> &reached,
@@ -28,11 +30,14 @@ public:
     bool waitForPart(const QString &part) const;
     bool waitUntilGone(const QString &name) const;
 
-    /// Waits for the control, then clicks its middle. False when it did not come.
+    /// Waits for the control, then presses it. False when it did not come, or when the keyboard does not get
+    /// to it or does not show that it has.
     bool press(const QString &name);
     bool pressPart(const QString &part);
-    /// Clicks into the field of that name (its placeholder), empties it and types.
+    /// Goes into the field of that name (its placeholder), empties it and types.
     bool type(const QString &field, const QString &text);
+    /// Out of the screen: by its back button, or by Esc.
+    bool back();
     void key(Qt::Key key);
     void keys(const QString &text);
 
@@ -49,7 +54,11 @@ private:
     /// Waits until the control is there and stands still, as a person does.
     std::optional<Control> standing(const QString &name, bool part) const;
     void visit(QAccessibleInterface *from, const std::function<bool(QAccessibleInterface *)> &seen) const;
-    bool click(const std::optional<Control> &control);
+    bool reach(const std::optional<Control> &control);
+    bool click(const Control &control);
+    bool tabTo(const Control &control);
+    bool pressed(const std::optional<Control> &control);
 
     QQuickWindow &window;
+    const Means means;
 };

@@ -31,7 +31,7 @@ QList<Tour::Step> Tour::steps()
         {QStringLiteral("buy placed"), [this] { return submitBuy(); }},
         {QStringLiteral("order in the books"), [this] { return buyStandsInTheBooks(); }},
         {QStringLiteral("sell placed"), [this] { return sellHolding(); }},
-        {QStringLiteral("order cancelled"), [this] { return cancelOrder(); }},
+        {QStringLiteral("orders cancelled"), [this] { return cancelOrders(); }},
         {QStringLiteral("entrusts and deals"), [this] { return readEntrustsAndDeals(); }},
         {QStringLiteral("detail"), [this] { return readDetail(); }},
         {QStringLiteral("my account"), [this] { return openMyAccount(); }},
@@ -128,16 +128,22 @@ bool Tour::sellHolding()
            hand.pressPart(heldStock()) && hand.waitForPart(price) && hand.pressPart(price) &&
            hand.type(QStringLiteral("请输入卖出数量"), QStringLiteral("100")) &&
            hand.press(QStringLiteral("卖出")) && hand.waitFor(placed) &&
-           ordersInTheBooks() == ordersBefore + 2 && hand.press(QStringLiteral("实盘炒股")) && back();
+           ordersInTheBooks() == ordersBefore + 2 && hand.press(QStringLiteral("实盘炒股")) && hand.back();
 }
 
-bool Tour::cancelOrder()
+bool Tour::cancelOrders()
 {
     // The row's own button comes with the row, which says that the order is open; the page is called the
-    // same.
-    return hand.press(QStringLiteral("撤单")) && hand.waitForPart(QStringLiteral("委托中")) &&
-           hand.press(QStringLiteral("撤单")) && hand.waitUntilGone(QStringLiteral("加载中...")) &&
-           hand.waitFor(QStringLiteral("暂无可撤委托")) && back();
+    // same. The price may have moved away from the buy, so that it is open too.
+    const auto open = [this] { return hand.names().filter(QStringLiteral("委托中")).size(); };
+    if (!hand.press(QStringLiteral("撤单")) || !hand.waitForPart(QStringLiteral("委托中")))
+        return false;
+    while (const auto before = open()) {
+        if (!hand.press(QStringLiteral("撤单")) || !Hand::wait([&] { return open() < before; }) ||
+            !hand.waitUntilGone(QStringLiteral("加载中...")))
+            return false;
+    }
+    return hand.waitFor(QStringLiteral("暂无可撤委托")) && hand.back();
 }
 
 bool Tour::readEntrustsAndDeals()
@@ -154,7 +160,7 @@ bool Tour::readDetail()
 
 bool Tour::openMyAccount()
 {
-    return hand.press(QStringLiteral("关闭")) && back() && back() && openAccountOfMenu();
+    return hand.press(QStringLiteral("关闭")) && hand.back() && hand.back() && openAccountOfMenu();
 }
 
 bool Tour::changeNickname()
@@ -233,11 +239,6 @@ bool Tour::enterTradePassword()
         return false;
     hand.keys(tradePassword);
     return true;
-}
-
-bool Tour::back()
-{
-    return hand.press(QStringLiteral("返回"));
 }
 
 QVariantMap Tour::user() const

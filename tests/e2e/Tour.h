@@ -33,7 +33,7 @@ private:
     bool submitBuy();
     bool buyStandsInTheBooks();
     bool sellHolding();
-    bool cancelOrder();
+    bool cancelOrders();
     bool readEntrustsAndDeals();
     bool readDetail();
     bool openMyAccount();
@@ -47,7 +47,6 @@ private:
     bool enterTradePassword();
     bool askForCode(const QString &number);
     bool openAccountOfMenu();
-    bool back();
     /// The demo user in the sandbox's books.
     QVariantMap user() const;
     QString heldStock() const;

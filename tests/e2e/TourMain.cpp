@@ -6,9 +6,10 @@
 #include <QQuickWindow>
 #include <cstdio>
 
-/// usage: zorvane-tour [FOLDER]
-/// Walks through the client offscreen against a fresh sandbox; the pictures of the steps go to FOLDER. Status
-/// 1 when a step fails or the sandbox was asked for something it does not know.
+/// usage: zorvane-tour [--keyboard] [FOLDER]
+/// Walks through the client offscreen against a fresh sandbox; the pictures of the steps go to FOLDER. With
+/// --keyboard the mouse is not touched. Status 1 when a step fails or the sandbox was asked for something it
+/// does not know.
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -17,7 +18,10 @@ int main(int argc, char **argv)
     installLook();
 
     const QTemporaryDir passing;
-    const QDir pictures(argc > 1 ? QString::fromLocal8Bit(argv[1]) : passing.path());
+    QStringList arguments = QGuiApplication::arguments().mid(1);
+    const auto means =
+        arguments.removeOne(QStringLiteral("--keyboard")) ? Hand::Means::Keyboard : Hand::Means::Mouse;
+    const QDir pictures(arguments.value(0, passing.path()));
     if (!pictures.mkpath(QStringLiteral("."))) {
         std::fprintf(stderr, "zorvane-tour: '%s' cannot be made; name another folder\n",
                      qPrintable(pictures.path()));
@@ -29,12 +33,12 @@ int main(int argc, char **argv)
     QQuickWindow *const window = client.show();
     if (!window)
         return 1;
-    Hand hand(*window);
+    Hand hand(*window, means);
     const bool walked = Tour(hand, sandbox, pictures).walk();
     const int unknown = sandbox.unknownRequests();
     if (unknown > 0)
         std::printf("the sandbox did not know %d requests\n", unknown);
-    if (argc > 1)
+    if (!arguments.isEmpty())
         std::printf("pictures: %s\n", qPrintable(pictures.absolutePath()));
     return walked && unknown == 0 ? 0 : 1;
 }

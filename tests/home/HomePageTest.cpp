@@ -290,6 +290,15 @@ TEST_F(HomePageTest, EachWayInAsksForASignInFirstAndThenGoesOn)
     }
 }
 
+TEST_F(HomePageTest, TheFinancingOffersAreToldTheStateOfTheAccount)
+{
+    signIn();
+    show();
+    http.answer(userIndex, assets(QStringLiteral("2"), QStringLiteral("1"), QStringLiteral("1")));
+    home->capitalBtnDidClick();
+    EXPECT_EQ(router.accountStatus, QStringLiteral("2"));
+}
+
 TEST_F(HomePageTest, ASignInElsewhereTurnsThePageAndEndsTheTicker)
 {
     showSignedOut(5);

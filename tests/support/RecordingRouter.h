@@ -2,6 +2,7 @@
 
 #include "core/shell/Router.h"
 #include "core/shell/TZWebModel.h"
+#include "home/api/TZUserIndexModel.h"
 
 #include <QStringList>
 
@@ -19,8 +20,9 @@ public:
     void showCommissions(KRBaseController &) override { calls.append(QStringLiteral("showCommissions")); }
     void setupSideMenuController() override { calls.append(QStringLiteral("setupSideMenuController")); }
     void openRealTrading(KRBaseController &) override { calls.append(QStringLiteral("openRealTrading")); }
-    void openStockCapital(KRBaseController &, const TZUserIndexModel &) override
+    void openStockCapital(KRBaseController &, const TZUserIndexModel &userIndexModel) override
     {
+        accountStatus = userIndexModel.userAccountStatus;
         calls.append(QStringLiteral("openStockCapital"));
     }
     void openMessages(KRBaseController &) override { calls.append(QStringLiteral("openMessages")); }
@@ -48,4 +50,5 @@ public:
     QStringList calls;
     ToSomeController toSomeController;
     QVariantMap pushed;
+    QString accountStatus;
 };

@@ -206,9 +206,10 @@ void RecordingKits::setText(const QString &text)
     calls.append(QStringLiteral("setText ") + text);
 }
 
-void RecordingKits::open(const QString &url)
+bool RecordingKits::open(const QString &url)
 {
     calls.append(QStringLiteral("open ") + url);
+    return opens;
 }
 
 void RecordingKits::start(const QString &applicationKey)

@@ -116,7 +116,7 @@ public:
     }
 
     void setText(const QString &text) override;
-    void open(const QString &url) override;
+    bool open(const QString &url) override;
 
     void start(const QString &applicationKey) override;
     void hideTargetsNotInstalled() override;
@@ -131,6 +131,8 @@ public:
     void endLogPageView(const QString &page) override;
 
     QStringList calls;
+    /// Whether there is something that opens URLs.
+    bool opens = true;
     std::function<void(const QString &alias)> onAlias;
     QList<PushCategory> categories;
     ShareContent shared;

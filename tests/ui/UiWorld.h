@@ -12,6 +12,7 @@ class CountingList : public TZBaseTableViewController {
     Q_PROPERTY(int loads MEMBER loads)
 public:
     Q_INVOKABLE void finish() { endRefreshing(); }
+    Q_INVOKABLE void cover() { viewWillDisappear(); }
 
 protected:
     void refreshData() override { ++refreshes; }

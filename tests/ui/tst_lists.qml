@@ -8,6 +8,7 @@ Item {
     height: 400
 
     property var screen: world.makeList()
+    property bool rowsLead: false
 
     RefreshableList {
         id: list
@@ -23,6 +24,18 @@ Item {
             required property int index
             width: ListView.view.width
             label: "row " + index
+            chevron: root.rowsLead
+        }
+    }
+    PageFrame {
+        id: page
+        y: parent.height
+        width: parent.width
+        height: parent.height
+        controller: root.screen
+
+        TextInputRow {
+            id: search
         }
     }
     TestCase {
@@ -30,6 +43,7 @@ Item {
         when: windowShown
 
         function cleanup() {
+            root.rowsLead = false
             root.screen.finish()
             list.positionViewAtBeginning()
             root.screen.refreshes = 0
@@ -78,6 +92,35 @@ Item {
             compare(list.contentY, list.originY)
             keyClick(Qt.Key_F5)
             compare(root.screen.refreshes, 1)
+        }
+
+        function test_theArrowKeysGoFromRowToRowWhereRowsLeadSomewhere() {
+            root.rowsLead = true
+            list.forceActiveFocus()
+            const at = () => root.Window.activeFocusItem.text
+            keyClick(Qt.Key_Down)
+            compare(at(), "row 0")
+            verify(root.Window.activeFocusItem.showsFocus)
+            keyClick(Qt.Key_Down)
+            compare(at(), "row 1")
+            keyClick(Qt.Key_End)
+            compare(at(), "row 19")
+            const last = root.Window.activeFocusItem.mapToItem(list, 0, 0).y
+            verify(last >= 0 && last + Theme.rowHeight <= list.height, "what the keyboard reaches is seen")
+            keyClick(Qt.Key_Down)
+            compare(at(), "row 19")
+            keyClick(Qt.Key_Home)
+            keyClick(Qt.Key_Up)
+            compare(at(), "row 0")
+        }
+
+        function test_coveringAListEndsWhatIsEditedOnIt() {
+            search.field.forceActiveFocus()
+            list.forceActiveFocus()
+            root.screen.cover()
+            page.forceActiveFocus()
+            verify(page.activeFocus || search.activeFocus)
+            verify(!search.field.activeFocus)
         }
 
         function test_theHeaderScrollsWithTheRows() {

@@ -10,12 +10,10 @@ PageFrame {
     required controller
     readonly property TZDealDetailController detail: controller as TZDealDetailController
 
-    ListView {
+    ContentList {
         anchors.fill: parent
-        clip: true
-        boundsBehavior: Flickable.StopAtBounds
+        focus: true
         model: page.detail.rows
-        Accessible.role: Accessible.List
         Accessible.name: page.detail.title
 
         delegate: DetailLine {

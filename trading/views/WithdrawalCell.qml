@@ -17,7 +17,7 @@ Item {
 
     signal cancelled
 
-    implicitHeight: Theme.scaled(76)
+    implicitHeight: Math.max(Theme.scaled(76), texts.height + 2 * Theme.spacing)
     Accessible.role: Accessible.ListItem
     Accessible.name: sentence
 
@@ -26,34 +26,38 @@ Item {
         color: Theme.deep.surface
     }
     Column {
+        id: texts
         anchors { left: parent.left; right: cancel.left; margins: Theme.margin; verticalCenter: parent.verticalCenter }
         spacing: Theme.spacingSmall
 
         Row {
+            width: parent.width
             spacing: Theme.spacingSmall
 
             Text {
+                id: sideText
                 text: cell.side
                 font: Theme.bodyBold
                 color: cell.isSell ? Theme.fall : Theme.rise
                 Accessible.ignored: true
             }
-            Text {
+            AmountText {
+                width: Math.min(implicitWidth, parent.width - sideText.width - statusText.width - 2 * parent.spacing)
                 text: cell.stock
                 font: Theme.body
                 color: Theme.deep.textPrimary
                 Accessible.ignored: true
             }
             Text {
-                anchors.baseline: parent.children[0].baseline
+                id: statusText
+                anchors.baseline: sideText.baseline
                 text: cell.status
                 font: Theme.caption
                 color: Theme.deep.textSecondary
                 Accessible.ignored: true
             }
         }
-        Row {
-            id: figures
+        Flow {
             width: parent.width
             spacing: Theme.spacing
 
