@@ -9,6 +9,7 @@ Text {
     font: Theme.amount
     color: Theme.trend(trend, deep)
     fontSizeMode: Text.HorizontalFit
+    verticalAlignment: Text.AlignVCenter
     minimumPixelSize: Theme.smallestText
     Accessible.role: Accessible.StaticText
     Accessible.name: text

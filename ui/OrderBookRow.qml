@@ -11,6 +11,7 @@ Tappable {
     /// Of the price against yesterday's close: 1 rise, 0 flat, -1 fall.
     property int trend: 0
     property bool buySide: true
+    readonly property real priceEnd: width * 0.64
 
     implicitWidth: parent ? parent.width : 0
     implicitHeight: Theme.scaled(32)
@@ -23,7 +24,7 @@ Tappable {
         // Beside the price, which would not be read as well on it.
         Rectangle {
             anchors { right: parent.right; top: parent.top; bottom: parent.bottom; margins: 2 }
-            width: (parent.width / 2 - Theme.spacingLarge) * Math.min(1, Math.max(0, row.share))
+            width: (row.width - row.priceEnd - 4) * Math.min(1, Math.max(0, row.share))
             color: row.buySide ? Theme.buy : Theme.sell
             opacity: 0.2
         }
@@ -44,9 +45,8 @@ Tappable {
             Accessible.ignored: true
         }
         AmountText {
-            anchors { left: parent.left; leftMargin: Theme.scaled(44); right: parent.horizontalCenter }
-            anchors.verticalCenter: parent.verticalCenter
-            anchors.rightMargin: -Theme.spacingLarge
+            anchors { left: parent.left; leftMargin: Theme.scaled(40); verticalCenter: parent.verticalCenter }
+            width: row.priceEnd - x
             text: row.price
             font: Theme.bodyBold
             deep: row.deep
@@ -55,9 +55,8 @@ Tappable {
             Accessible.ignored: true
         }
         AmountText {
-            anchors { left: parent.horizontalCenter; leftMargin: Theme.spacingHuge; right: parent.right }
-            anchors.rightMargin: Theme.spacingSmall
-            anchors.verticalCenter: parent.verticalCenter
+            anchors { right: parent.right; rightMargin: Theme.spacingSmall; verticalCenter: parent.verticalCenter }
+            width: parent.width - row.priceEnd - 2 * Theme.spacingSmall
             text: row.volume
             font: Theme.label
             deep: row.deep

@@ -33,7 +33,8 @@ Item {
     }
     Text {
         id: trailingText
-        anchors { right: parent.right; rightMargin: Theme.margin; verticalCenter: parent.verticalCenter }
+        anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+        anchors.rightMargin: header.trailingTrend === 0 ? Theme.margin : Theme.margin + Theme.spacing
         text: header.trailing
         font: Theme.label
         color: header.trailingTrend === 0 ? Theme.tones(header.deep).textSecondary

@@ -20,7 +20,7 @@ Item {
         height: Math.min(width * 0.56, Math.max(parent.height - column.y - column.height, parent.height / 3))
         asynchronous: true
         sourceSize.width: width
-        fillMode: Image.PreserveAspectCrop
+        fillMode: Image.Stretch
         source: Theme.image(hero.picture)
         Accessible.ignored: true
     }
