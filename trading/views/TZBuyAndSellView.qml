@@ -109,7 +109,7 @@ PageFrame {
             Item {
                 id: bookTitle
                 width: parent.width
-                height: 36
+                height: Theme.scaled(36)
 
                 // The age finds room within the title: levels never move below a finger.
                 SectionHeader {
