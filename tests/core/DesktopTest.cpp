@@ -71,6 +71,7 @@ TEST_F(DesktopKitsTest, SharingPutsTheTextOnThePasteboardAndIntoAMailDraft)
                          "open mailto:?subject=%E6%A0%87%E9%A2%98%3F&body=%E4%B8%80%E8%B5%B7%E7%82%92%E8%82%"
                          "A1%20%26%20%E8%B5%9A%0D%0Ahttps%3A%2F%2Fx.test%2F%3Fa%3D1%26b%3D2")}));
 
+    runLoop.advance(500ms);
     EXPECT_EQ(banners(), QStringList(QStringLiteral("分享内容已复制")));
 }
 
@@ -85,6 +86,7 @@ TEST_F(DesktopKitsTest, FeedbackIsAMailDraftOrElseTheAddress)
     kits.calls.clear();
     feedback.show();
     EXPECT_EQ(kits.calls, QStringList({draft, QStringLiteral("setText help@zorvane.example")}));
+    runLoop.advance(500ms);
     EXPECT_EQ(banners(), QStringList(QStringLiteral("反馈邮箱已复制：help@zorvane.example")));
 }
 

@@ -186,15 +186,33 @@ bool Hand::tabTo(const Control &control)
 {
     constexpr int longestWay = 80;
     for (int tabs = 0; tabs < longestWay; ++tabs) {
-        // A field shows that it has the keyboard with its cursor and its line, all else with a ring. The
-        // control may have been scrolled into view, so its place says nothing, but its size does.
-        const QAccessibleInterface *const focused = spokenOf(window.activeFocusItem());
-        const QVariant ring = window.activeFocusItem()->property("showsFocus");
-        if (focused && focused->text(QAccessible::Name) == control.name &&
-            focused->rect().size() == control.place.size() && (!ring.isValid() || ring.toBool()))
+        if (isAt(control) || goesTo(control, Qt::Key_Up) || goesTo(control, Qt::Key_Down))
             return true;
         key(Qt::Key_Tab);
         QCoreApplication::processEvents();
     }
     return false;
+}
+
+bool Hand::goesTo(const Control &control, Qt::Key arrow)
+{
+    const QQuickItem *before = nullptr;
+    while (window.activeFocusItem() != before) {
+        before = window.activeFocusItem();
+        key(arrow);
+        QCoreApplication::processEvents();
+        if (isAt(control))
+            return true;
+    }
+    return false;
+}
+
+bool Hand::isAt(const Control &control) const
+{
+    // A field shows that it has the keyboard with its cursor and its line, all else with a ring.
+    QQuickItem *const focused = window.activeFocusItem();
+    const QAccessibleInterface *const spoken = spokenOf(focused);
+    const bool seen =
+        focused && (focused->inherits("QQuickTextInput") || focused->property("showsFocus").toBool());
+    return seen && spoken && spoken->text(QAccessible::Name) == control.name;
 }
