@@ -1,0 +1,5 @@
+import QtQuick
+
+/// A place for views that are made one by one.
+Item {
+}
