@@ -1,7 +1,7 @@
 import QtQuick
 
 /// Money or a quantity, in digits of equal width. Shrinks rather than clips when it is given a width.
-Text {
+PlainText {
     property bool deep: false
     /// 1 rise, 0 flat, -1 fall.
     property int trend: 0

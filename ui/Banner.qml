@@ -26,7 +26,7 @@ Rectangle {
         anchors { left: parent.left; leftMargin: Theme.margin; verticalCenter: parent.verticalCenter }
         name: banner.success ? "notice_success" : "notice_warning"
     }
-    Text {
+    PlainText {
         anchors { left: icon.right; right: parent.right; verticalCenter: parent.verticalCenter }
         anchors.leftMargin: Theme.spacingSmall
         anchors.rightMargin: Theme.margin

@@ -29,7 +29,7 @@ Tappable {
             visible: item.image !== ""
             name: item.image
         }
-        Text {
+        PlainText {
             anchors.verticalCenter: parent.verticalCenter
             visible: item.text !== ""
             text: item.text

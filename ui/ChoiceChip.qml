@@ -20,7 +20,7 @@ Tappable {
         border.width: chip.selected ? 0 : Theme.hairlineWidth
         border.color: chip.enabled ? chip.tones.placeholder : chip.tones.disabled
     }
-    contentItem: Text {
+    contentItem: PlainText {
         text: chip.text
         font: Theme.label
         color: !chip.enabled ? chip.tones.disabled : chip.selected ? Theme.textOnAccent : chip.tones.textPrimary

@@ -12,7 +12,7 @@ Tappable {
         radius: Theme.radiusLarge
         color: control.pressed ? Theme.surfacePressed : Theme.surface
     }
-    contentItem: Text {
+    contentItem: PlainText {
         text: control.text
         font: control.strong ? Theme.title : Theme.body
         color: control.strong ? control.tones.accent : Theme.textSecondary

@@ -38,7 +38,7 @@ Tappable {
             visible: row.picture !== ""
             name: row.picture
         }
-        Text {
+        PlainText {
             id: labelText
             anchors { left: row.picture === "" ? parent.left : iconImage.right; verticalCenter: parent.verticalCenter }
             anchors.leftMargin: row.picture === "" ? Theme.margin : Theme.spacing

@@ -25,7 +25,7 @@ Item {
         anchors.bottomMargin: page.footer + Theme.spacingSmall
         spacing: Theme.spacing
 
-        Text {
+        PlainText {
             width: parent.width
             text: page.headline
             font: Theme.headline
@@ -35,7 +35,7 @@ Item {
             horizontalAlignment: Text.AlignHCenter
             Accessible.ignored: true
         }
-        Text {
+        PlainText {
             width: parent.width
             text: page.line
             font: Theme.body

@@ -27,7 +27,7 @@ Tappable {
         anchors { left: icon.right; right: parent.right; leftMargin: Theme.spacingLarge }
         anchors.verticalCenter: parent.verticalCenter
 
-        Text {
+        PlainText {
             width: parent.width
             text: row.topLabel
             font: Theme.title
@@ -35,7 +35,7 @@ Tappable {
             elide: Text.ElideRight
             Accessible.ignored: true
         }
-        Text {
+        PlainText {
             width: parent.width
             text: row.bottomLabel
             font: Theme.caption

@@ -10,7 +10,7 @@ Tappable {
     enabled: !loading
     ringInset: 2
     text: loading ? "加载中..." : "加载更多"
-    contentItem: Text {
+    contentItem: PlainText {
         text: row.text
         font: Theme.label
         color: row.tones.textSecondary

@@ -20,7 +20,7 @@ Item {
             name: panel.deep ? "no_data_deep" : "no_data"
             size: 96
         }
-        Text {
+        PlainText {
             width: parent.width
             text: panel.text
             font: Theme.body

@@ -20,7 +20,7 @@ Item {
             name: panel.deep ? "no_net_deep" : "no_net"
             size: 96
         }
-        Text {
+        PlainText {
             width: parent.width
             text: panel.text
             font: Theme.body
@@ -28,7 +28,7 @@ Item {
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
         }
-        Text {
+        PlainText {
             width: parent.width
             text: panel.hint
             font: Theme.label

@@ -31,7 +31,7 @@ Rectangle {
             onClicked: bar.controller.leftItemClick()
         }
     }
-    Text {
+    PlainText {
         anchors { bottom: parent.bottom; horizontalCenter: parent.horizontalCenter }
         width: Math.min(implicitWidth, bar.width - 2 * bar.sideWidth - Theme.spacingLarge)
         height: Theme.navigationBarHeight

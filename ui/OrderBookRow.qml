@@ -37,7 +37,7 @@ Tappable {
     Item {
         anchors.fill: parent
 
-        Text {
+        PlainText {
             anchors { left: parent.left; leftMargin: Theme.spacingSmall; verticalCenter: parent.verticalCenter }
             text: row.title
             font: Theme.caption

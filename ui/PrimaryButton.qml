@@ -14,7 +14,7 @@ Tappable {
         radius: Theme.radius
         color: !control.enabled ? control.tones.disabled : control.pressed ? Qt.darker(control.fill, 1.2) : control.fill
     }
-    contentItem: Text {
+    contentItem: PlainText {
         text: control.text
         font: control.font
         color: Theme.textOnAccent

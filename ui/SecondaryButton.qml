@@ -19,7 +19,7 @@ Tappable {
         border.width: Theme.hairlineWidth
         border.color: control.enabled ? control.stroke : control.tones.disabled
     }
-    contentItem: Text {
+    contentItem: PlainText {
         text: control.text
         font: control.small ? Theme.label : Theme.title
         color: control.enabled ? control.stroke : control.tones.disabled

@@ -14,7 +14,7 @@ Item {
     Accessible.role: Accessible.Heading
     Accessible.name: trailing === "" ? text : text + " " + trailing
 
-    Text {
+    PlainText {
         anchors { left: parent.left; right: trailingText.left; leftMargin: Theme.margin; rightMargin: Theme.spacing }
         anchors.verticalCenter: parent.verticalCenter
         text: header.text
@@ -31,7 +31,7 @@ Item {
         radius: height / 2
         color: Theme.tones(header.deep).surface
     }
-    Text {
+    PlainText {
         id: trailingText
         anchors { right: parent.right; verticalCenter: parent.verticalCenter }
         anchors.rightMargin: header.trailingTrend === 0 ? Theme.margin : Theme.margin + Theme.spacing

@@ -29,7 +29,7 @@ Row {
             Accessible.role: Accessible.PageTab
             Accessible.selected: current
             onClicked: segments.selected(index)
-            contentItem: Text {
+            contentItem: PlainText {
                 text: segment.text
                 font: segment.current ? Theme.title : Theme.body
                 color: segment.current ? Theme.navigationText : segment.tones.textSecondary

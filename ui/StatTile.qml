@@ -14,7 +14,7 @@ Column {
     Accessible.role: Accessible.StaticText
     Accessible.name: label + " " + value
 
-    Text {
+    PlainText {
         width: tile.width
         text: tile.label
         font: Theme.caption

@@ -18,7 +18,7 @@ DialogFrame {
             id: texts
             anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.spacingHuge }
             spacing: Theme.spacingSmall
-            Text {
+            PlainText {
                 width: parent.width
                 text: alert.info.titleText
                 font: Theme.title
@@ -26,7 +26,7 @@ DialogFrame {
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.Wrap
             }
-            Text {
+            PlainText {
                 width: parent.width
                 visible: text !== ""
                 text: alert.info.ensureText

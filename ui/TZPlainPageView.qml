@@ -9,7 +9,7 @@ PageFrame {
     required controller
     readonly property TZPlainPageController plain: controller as TZPlainPageController
 
-    Text {
+    PlainText {
         anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.spacingHuge }
         text: page.plain.text
         font: Theme.body

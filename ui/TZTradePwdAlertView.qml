@@ -16,7 +16,7 @@ DialogFrame {
         width: parent.width
         height: Theme.rowHeight
 
-        Text {
+        PlainText {
             id: title
             anchors.centerIn: parent
             text: "请输入交易密码"

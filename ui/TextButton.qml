@@ -8,7 +8,7 @@ Tappable {
 
     leftPadding: Theme.spacingSmall
     rightPadding: Theme.spacingSmall
-    contentItem: Text {
+    contentItem: PlainText {
         text: control.text
         font: control.font
         color: control.enabled ? control.textColour : control.tones.disabled

@@ -49,7 +49,7 @@ FocusScope {
         visible: row.icon !== ""
         name: row.icon
     }
-    Text {
+    PlainText {
         id: labelText
         anchors { left: row.icon === "" ? parent.left : iconImage.right; verticalCenter: parent.verticalCenter }
         anchors.leftMargin: row.icon === "" ? Theme.margin : Theme.spacing
@@ -85,7 +85,7 @@ FocusScope {
         }
         onAccepted: row.accepted()
 
-        Text {
+        PlainText {
             anchors.fill: parent
             visible: field.length === 0 && !row.composing
             text: row.placeholder

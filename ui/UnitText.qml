@@ -12,14 +12,14 @@ Row {
     Accessible.role: Accessible.StaticText
     Accessible.name: figure.text + unit.text
 
-    Text {
+    PlainText {
         id: figure
         text: whole.value.figure
         font: whole.font
         color: whole.color
         Accessible.ignored: true
     }
-    Text {
+    PlainText {
         id: unit
         anchors.baseline: figure.baseline
         text: whole.value.unit

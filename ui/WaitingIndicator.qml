@@ -43,7 +43,7 @@ FocusScope {
                 anchors.horizontalCenter: parent.horizontalCenter
                 size: 32
             }
-            Text {
+            PlainText {
                 anchors.horizontalCenter: parent.horizontalCenter
                 text: indicator.status
                 font: Theme.label

@@ -23,7 +23,7 @@ Rectangle {
             name: "account_avatar"
             size: 72
         }
-        Text {
+        PlainText {
             width: parent.width
             text: card.name
             font: Theme.heading

@@ -32,7 +32,7 @@ PageFrame {
             anchors.horizontalCenter: parent.horizontalCenter
             spacing: Theme.spacingLarge
 
-            Text {
+            PlainText {
                 width: parent.width
                 visible: text !== ""
                 text: page.heading
@@ -42,7 +42,7 @@ PageFrame {
                 Accessible.role: Accessible.Heading
                 Accessible.name: text
             }
-            Text {
+            PlainText {
                 width: parent.width
                 visible: text !== ""
                 text: page.caption

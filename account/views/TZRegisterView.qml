@@ -37,7 +37,7 @@ StepPage {
     Row {
         anchors.horizontalCenter: parent.horizontalCenter
 
-        Text {
+        PlainText {
             height: Theme.touchTarget
             text: "注册即表示您同意"
             font: Theme.label

@@ -33,7 +33,7 @@ Tappable {
             font: Theme.body
             text: "可用余额"
         }
-        Text {
+        PlainText {
             id: name
             anchors { right: parent.left; rightMargin: -Theme.margin - widest.advanceWidth; verticalCenter: parent.verticalCenter }
             text: row.title

@@ -30,7 +30,7 @@ Tappable {
             anchors { leftMargin: Theme.spacingLarge; rightMargin: Theme.spacing }
             spacing: Theme.spacingTiny
 
-            Text {
+            PlainText {
                 width: parent.width
                 visible: text !== ""
                 text: title.nick
@@ -41,7 +41,7 @@ Tappable {
                 elide: Text.ElideRight
                 Accessible.ignored: true
             }
-            Text {
+            PlainText {
                 width: parent.width
                 text: title.cell
                 font: Theme.body

@@ -29,7 +29,7 @@ Item {
         name: "home_user"
         size: 20
     }
-    Text {
+    PlainText {
         anchors { left: avatar.right; right: parent.right; verticalCenter: parent.verticalCenter }
         anchors { leftMargin: Theme.spacingSmall; rightMargin: Theme.spacingSmall }
         text: cell.text

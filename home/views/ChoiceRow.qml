@@ -20,7 +20,7 @@ Rectangle {
     Accessible.role: Accessible.Grouping
     Accessible.name: title
 
-    Text {
+    PlainText {
         anchors { left: parent.left; leftMargin: Theme.margin; verticalCenter: parent.verticalCenter }
         text: row.title
         font: Theme.body

@@ -27,7 +27,7 @@ Tappable {
                 name: card.image
                 size: 48
             }
-            Text {
+            PlainText {
                 width: parent.width
                 text: card.text
                 font: Theme.title
@@ -35,7 +35,7 @@ Tappable {
                 horizontalAlignment: Text.AlignHCenter
                 Accessible.ignored: true
             }
-            Text {
+            PlainText {
                 width: parent.width
                 text: card.caption
                 font: Theme.label

@@ -41,7 +41,7 @@ Item {
                     Accessible.role: Accessible.StaticText
                     Accessible.name: prefix.text + profit.text
 
-                    Text {
+                    PlainText {
                         id: prefix
                         text: cell.header.profitPrefix
                         font: Theme.body
@@ -58,7 +58,7 @@ Item {
                         Accessible.ignored: true
                     }
                 }
-                Text {
+                PlainText {
                     anchors.verticalCenter: parent.verticalCenter
                     visible: text !== ""
                     text: cell.header.rate
@@ -117,7 +117,7 @@ Item {
             name: "home_custody"
             size: 16
         }
-        Text {
+        PlainText {
             text: cell.home.custodyText
             font: Theme.label
             color: Theme.deep.textSecondary

@@ -24,7 +24,7 @@ Tappable {
             name: badge.image
             size: 20
         }
-        Text {
+        PlainText {
             anchors.verticalCenter: parent.verticalCenter
             text: badge.text
             font: Theme.badge

@@ -48,7 +48,7 @@ PageFrame {
                             width: parent.width - icon.width - Theme.spacing
                             spacing: Theme.spacingTiny
 
-                            Text {
+                            PlainText {
                                 width: parent.width
                                 text: page.message.messageTitle
                                 textFormat: Text.PlainText
@@ -58,7 +58,7 @@ PageFrame {
                                 Accessible.role: Accessible.Heading
                                 Accessible.name: text
                             }
-                            Text {
+                            PlainText {
                                 width: parent.width
                                 text: page.message.time
                                 textFormat: Text.PlainText
@@ -72,7 +72,7 @@ PageFrame {
                     Hairline {
                         width: parent.width
                     }
-                    Text {
+                    PlainText {
                         width: parent.width
                         text: page.message.content
                         textFormat: Text.PlainText

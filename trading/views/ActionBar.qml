@@ -42,7 +42,7 @@ Row {
                         name: action.image
                         size: 36
                     }
-                    Text {
+                    PlainText {
                         anchors.horizontalCenter: parent.horizontalCenter
                         text: action.title
                         font: Theme.label

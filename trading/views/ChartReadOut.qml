@@ -22,7 +22,7 @@ Rectangle {
         padding: Theme.spacingSmall
         spacing: 2
 
-        Text {
+        PlainText {
             text: panel.title
             font: Theme.unit
             color: Theme.deep.textSecondary
@@ -41,7 +41,7 @@ Rectangle {
                 width: lines.width - 2 * lines.padding
                 height: name.implicitHeight
 
-                Text {
+                PlainText {
                     id: name
                     text: line.label
                     font: Theme.unit

@@ -17,7 +17,7 @@ Row {
     Repeater {
         model: columns.titles
 
-        Text {
+        PlainText {
             required property int index
             required property string modelData
 

@@ -44,7 +44,7 @@ Column {
                 trend: head.detail.trend
                 opacity: head.detail.quoteAge.stale ? Theme.disabledOpacity : 1
             }
-            Text {
+            PlainText {
                 text: head.detail.stockCode
                 visible: !age.visible
                 font: Theme.caption
@@ -67,7 +67,7 @@ Column {
             border.width: Theme.hairlineWidth
             border.color: tag.color
 
-            Text {
+            PlainText {
                 id: tag
                 anchors.centerIn: parent
                 text: head.detail.tag
@@ -99,7 +99,7 @@ Column {
                 Accessible.role: Accessible.StaticText
                 Accessible.name: label + " " + value
 
-                Text {
+                PlainText {
                     id: name
                     text: cell.label
                     font: Theme.label

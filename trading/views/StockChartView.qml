@@ -54,7 +54,7 @@ T.Control {
         Repeater {
             model: view.chart.legend
 
-            Text {
+            PlainText {
                 required text
                 required property int tone
 
@@ -69,7 +69,7 @@ T.Control {
     Repeater {
         model: view.chart.labels
 
-        Text {
+        PlainText {
             required text
             required property point place
             required property int side
@@ -196,7 +196,7 @@ T.Control {
         implicitHeight: words.implicitHeight
         color: Theme.deep.textSecondary
 
-        Text {
+        PlainText {
             id: words
             anchors.centerIn: parent
             font: Theme.unit

@@ -71,7 +71,7 @@ PageFrame {
             onClicked: page.screen.pick(index)
             onDetailAsked: page.screen.openDetail(index)
         }
-        footerContent: Text {
+        footerContent: PlainText {
             height: text === "" ? 0 : Theme.rowHeight
             text: page.screen.footnote
             font: Theme.label
@@ -105,7 +105,7 @@ PageFrame {
         Repeater {
             model: pieces.texts
 
-            Text {
+            PlainText {
                 required property int index
                 required property string modelData
 

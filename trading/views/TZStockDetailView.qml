@@ -77,7 +77,7 @@ PageFrame {
                     visible: !page.detail.canRetry
                     chart: page.detail.chart
                 }
-                Text {
+                PlainText {
                     anchors.centerIn: parent
                     visible: text !== "" && !page.detail.canRetry
                     text: page.detail.notice

@@ -30,7 +30,7 @@ Tappable {
         }
     }
 
-    Text {
+    PlainText {
         id: sideText
         anchors { left: parent.left; leftMargin: Theme.margin; top: parent.top; topMargin: Theme.spacing }
         text: cell.side
@@ -38,7 +38,7 @@ Tappable {
         color: cell.isSell ? Theme.fall : Theme.rise
         Accessible.ignored: true
     }
-    Text {
+    PlainText {
         anchors { left: sideText.right; leftMargin: Theme.spacingSmall; right: resultText.left }
         anchors.baseline: sideText.baseline
         text: cell.stock
@@ -47,7 +47,7 @@ Tappable {
         elide: Text.ElideRight
         Accessible.ignored: true
     }
-    Text {
+    PlainText {
         id: resultText
         anchors { right: parent.right; rightMargin: Theme.margin; baseline: sideText.baseline }
         text: cell.result
@@ -55,7 +55,7 @@ Tappable {
         color: cell.dealt ? Theme.dealt : cell.waiting ? Theme.pendingEntrust : cell.tones.textPrimary
         Accessible.ignored: true
     }
-    Text {
+    PlainText {
         anchors { left: sideText.left; bottom: parent.bottom; bottomMargin: Theme.spacing }
         text: cell.time
         font: Theme.caption
@@ -66,19 +66,19 @@ Tappable {
         anchors { right: resultText.right; bottom: parent.bottom; bottomMargin: Theme.spacing }
         spacing: Theme.spacingSmall
 
-        Text {
+        PlainText {
             text: cell.price
             font: Theme.label
             color: cell.tones.textPrimary
             Accessible.ignored: true
         }
-        Text {
+        PlainText {
             text: "×"
             font: Theme.label
             color: cell.tones.textSecondary
             Accessible.ignored: true
         }
-        Text {
+        PlainText {
             text: cell.shares
             font: Theme.label
             color: cell.tones.textPrimary

@@ -34,7 +34,7 @@ Item {
             width: parent.width
             spacing: Theme.spacingSmall
 
-            Text {
+            PlainText {
                 id: sideText
                 text: cell.side
                 font: Theme.bodyBold
@@ -48,7 +48,7 @@ Item {
                 color: Theme.deep.textPrimary
                 Accessible.ignored: true
             }
-            Text {
+            PlainText {
                 id: statusText
                 anchors.baseline: sideText.baseline
                 text: cell.status
@@ -96,13 +96,13 @@ Item {
 
         spacing: Theme.spacingTiny
 
-        Text {
+        PlainText {
             text: figure.label
             font: Theme.caption
             color: Theme.deep.textSecondary
             Accessible.ignored: true
         }
-        Text {
+        PlainText {
             text: figure.value
             font: Theme.caption
             color: Theme.deep.textPrimary
