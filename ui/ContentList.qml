@@ -50,7 +50,7 @@ ListView {
 
     function step(by: int) {
         const from = focusedRow()
-        const seen = indexAt(0, Math.max(contentY, 0))
+        const seen = indexAt(0, contentY)
         if (!focusRow(from < 0 ? Math.max(seen, 0) : from + by))
             scrollBy(by * Theme.rowHeight)
     }

@@ -185,11 +185,13 @@ bool Hand::click(const Control &control)
 bool Hand::tabTo(const Control &control)
 {
     constexpr int longestWay = 80;
-    for (int tabs = 0; tabs < longestWay; ++tabs) {
-        if (isAt(control) || goesTo(control, Qt::Key_Up) || goesTo(control, Qt::Key_Down))
-            return true;
-        key(Qt::Key_Tab);
-        QCoreApplication::processEvents();
+    for (const bool arrows : {false, true}) {
+        for (int tabs = 0; tabs < longestWay; ++tabs) {
+            if (isAt(control) || (arrows && (goesTo(control, Qt::Key_Up) || goesTo(control, Qt::Key_Down))))
+                return true;
+            key(Qt::Key_Tab);
+            QCoreApplication::processEvents();
+        }
     }
     return false;
 }

@@ -56,7 +56,7 @@ private:
     void visit(QAccessibleInterface *from, const std::function<bool(QAccessibleInterface *)> &seen) const;
     bool reach(const std::optional<Control> &control);
     bool click(const Control &control);
-    /// With Tab, and within a list with the arrow keys.
+    /// With Tab alone, or else with the arrow keys too.
     bool tabTo(const Control &control);
     bool goesTo(const Control &control, Qt::Key arrow);
     bool isAt(const Control &control) const;
