@@ -25,8 +25,9 @@ ListView {
 
     /// What the keyboard goes to in a row; null in a row of texts.
     function stopIn(row: Item): Item {
-        if (!row || row.activeFocusOnTab)
-            return row
+        const control = row as Tappable
+        if (!row || control)
+            return control && control.focusPolicy !== Qt.NoFocus ? control : null
         const first = row.nextItemInFocusChain(true)
         return holds(row, first) ? first : null
     }
@@ -50,8 +51,9 @@ ListView {
 
     function step(by: int) {
         const from = focusedRow()
-        const seen = indexAt(0, contentY)
-        if (!focusRow(from < 0 ? Math.max(seen, 0) : from + by))
+        // What has the keyboard without showing it, as when the page comes, is shown first.
+        const shown = (focused as Tappable)?.showsFocus ?? false
+        if (!focusRow(from < 0 ? Math.max(indexAt(0, contentY), 0) : shown ? from + by : from))
             scrollBy(by * Theme.rowHeight)
     }
 
