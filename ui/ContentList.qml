@@ -44,7 +44,10 @@ ListView {
             return false
         positionViewAtIndex(row, ListView.Contain)
         const stop = stopIn(itemAtIndex(row))
-        if (stop)
+        const control = stop as Tappable
+        if (control)
+            control.takeKeyboard()
+        else if (stop)
             stop.forceActiveFocus(Qt.TabFocusReason)
         return stop !== null
     }
@@ -60,6 +63,12 @@ ListView {
     function leap(row: int, distance: real) {
         if (!focusRow(row))
             scrollBy(distance)
+    }
+
+    /// To the first row and what stands above it, or the last and what stands below it.
+    function goToEnd(row: int, distance: real) {
+        focusRow(row)
+        scrollBy(distance)
     }
 
     clip: true
@@ -90,9 +99,9 @@ ListView {
         else if (event.key === Qt.Key_PageUp)
             leap(Math.max(focusedRow() - rows, 0), Theme.rowHeight - height)
         else if (event.key === Qt.Key_Home)
-            leap(0, -contentHeight)
+            goToEnd(0, -contentHeight)
         else if (event.key === Qt.Key_End)
-            leap(count - 1, contentHeight)
+            goToEnd(count - 1, contentHeight)
         else
             event.accepted = false
     }

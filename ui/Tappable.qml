@@ -14,6 +14,12 @@ T.AbstractButton {
     readonly property bool showsFocus: activeFocus
                                        && (focusReason === Qt.TabFocusReason || focusReason === Qt.BacktabFocusReason)
 
+    /// Takes the focus and shows it, also when it has it already.
+    function takeKeyboard() {
+        forceActiveFocus(Qt.TabFocusReason)
+        focusReason = Qt.TabFocusReason
+    }
+
     function press() {
         if (enabled)
             clicked()
