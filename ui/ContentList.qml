@@ -24,12 +24,11 @@ ListView {
     }
 
     /// What the keyboard goes to in a row; null in a row of texts.
-    function stopIn(row: Item): Item {
-        const control = row as Tappable
-        if (!row || control)
-            return control && control.focusPolicy !== Qt.NoFocus ? control : null
-        const first = row.nextItemInFocusChain(true)
-        return holds(row, first) ? first : null
+    function stopIn(row) {
+        if (!row)
+            return null
+        const first = row instanceof Tappable ? row : row.nextItemInFocusChain(true)
+        return first instanceof Tappable && first.leads && holds(row, first) ? first : null
     }
 
     function focusedRow(): int {
@@ -44,11 +43,8 @@ ListView {
             return false
         positionViewAtIndex(row, ListView.Contain)
         const stop = stopIn(itemAtIndex(row))
-        const control = stop as Tappable
-        if (control)
-            control.takeKeyboard()
-        else if (stop)
-            stop.forceActiveFocus(Qt.TabFocusReason)
+        if (stop)
+            stop.takeKeyboard()
         return stop !== null
     }
 

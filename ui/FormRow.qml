@@ -15,6 +15,7 @@ Tappable {
 
     implicitWidth: parent ? parent.width : 0
     implicitHeight: Theme.rowHeight
+    leads: chevron
     hoverEnabled: false
     ringInset: 2
     text: value === "" ? label : label + " " + value

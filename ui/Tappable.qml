@@ -7,6 +7,8 @@ T.AbstractButton {
     id: control
 
     property bool deep: false
+    /// Whether a press does something: rows of texts are made of this block too.
+    property bool leads: true
     property real ringRadius: Theme.radius
     /// Inwards for controls that fill the width of the page.
     property real ringInset: -2

@@ -12,6 +12,7 @@ Tappable {
     signal infoClicked
 
     implicitHeight: Theme.rowHeight
+    leads: hasInfo
     ringInset: 2
     text: title + " " + value
     activeFocusOnTab: hasInfo
