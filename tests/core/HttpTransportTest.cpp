@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QElapsedTimer>
+#include <QThread>
 #include <QTimer>
 #include <gtest/gtest.h>
 #include <memory>
@@ -14,6 +15,10 @@ namespace {
 
 class HttpTransportTest : public testing::Test {
 protected:
+    /// A thread of the network library counts as ended a moment before the TLS library has let go of what it
+    /// keeps for it: a process that ends between the two seems to leak.
+    static void TearDownTestSuite() { QThread::msleep(100); }
+
     std::vector<HttpOutcome> sendAll(const std::vector<HttpRequest> &requests)
     {
         std::vector<HttpOutcome> outcomes;
@@ -196,8 +201,6 @@ TEST_F(HttpTransportTest, RefusesCertificatesThatDoNotProveTheServer)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
     EXPECT_EQ(described(outcome), "tls") << "without the developer's authority";
     EXPECT_TRUE(server.requests.isEmpty());
-    // The library's own thread lets go of the refused certificate.
-    linger();
 }
 
 TEST_F(HttpTransportTest, FollowsRedirectsOnlyToSafePlacesAndKeepsTheTokenAtHome)
