@@ -54,7 +54,7 @@ int main(int argc, char *argv[])
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Zorvane"));
     QGuiApplication::setApplicationVersion(QStringLiteral(ZORVANE_VERSION));
     const QGuiApplication qt(argc, argv);
-    installLook();
+    const Look look;
     Client client(std::move(std::get<Options>(line)));
     if (const QString problem = client.problem(); !problem.isEmpty())
         return answer({cannotStart, problem});

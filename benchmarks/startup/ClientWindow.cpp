@@ -35,7 +35,7 @@ int main(int argc, char **argv)
     const QString &data = arguments.at(3);
     if (!QFile::exists(data + QStringLiteral("/settings")))
         prepare(data, arguments.at(4));
-    installLook();
+    const Look look;
     Client client({arguments.at(1), data, arguments.at(2)});
     QQuickWindow *const window = client.show();
     if (!window)

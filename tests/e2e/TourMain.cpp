@@ -15,7 +15,7 @@ int main(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
     const QGuiApplication qt(argc, argv);
-    installLook();
+    const Look look;
 
     const QTemporaryDir passing;
     QStringList arguments = QGuiApplication::arguments().mid(1);

@@ -22,21 +22,18 @@ RealWindowTest::RealWindowTest()
     collected.clear();
     signIn();
     shell.didFinishLaunchingWithOptions({});
-    engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
-    engine->setInitialProperties({{QStringLiteral("window"), QVariant::fromValue(&window)},
-                                  {QStringLiteral("overlays"), QVariant::fromValue(&overlays)}});
-    engine->load(QUrl(QStringLiteral("qrc:/qt/qml/Zorvane/Ui/Main.qml")));
+    shown = views->show(window, overlays);
     pass();
 }
 
 void RealWindowTest::SetUp()
 {
-    ASSERT_FALSE(engine->rootObjects().isEmpty());
+    ASSERT_TRUE(shown);
 }
 
 void RealWindowTest::TearDown()
 {
-    engine.reset();
+    views.reset();
     settle();
     EXPECT_EQ(complaints(), "");
 }
@@ -70,7 +67,7 @@ int main(int argc, char **argv)
     qputenv("QT_QUICK_BACKEND", "software");
     qputenv("TZ", "Asia/Shanghai");
     const QGuiApplication application(argc, argv);
-    installLook();
+    const Look look;
     qInstallMessageHandler(collect);
     return RUN_ALL_TESTS();
 }

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "app/AppRouter.h"
+#include "app/Views.h"
 #include "core/shell/AppDelegate.h"
 #include "core/shell/KRWindow.h"
 #include "tests/support/TestPlatform.h"
 
-#include <QQmlApplicationEngine>
+#include <optional>
+
+class QQuickWindow;
 
 /// The real window offscreen, with a signed-in user and a service that answers when told. What the views
 /// complain of is collected.
@@ -25,5 +28,6 @@ protected:
     KRWindow window;
     AppRouter router{window};
     AppDelegate shell{window, router, [] {}};
-    std::unique_ptr<QQmlApplicationEngine> engine = std::make_unique<QQmlApplicationEngine>();
+    std::optional<Views> views{std::in_place};
+    QQuickWindow *shown = nullptr;
 };

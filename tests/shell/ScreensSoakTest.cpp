@@ -4,6 +4,8 @@
 #include "tests/shell/RealWindow.h"
 
 #include <QCoreApplication>
+#include <QQmlEngine>
+#include <QQuickWindow>
 #include <malloc.h>
 
 #ifdef __SANITIZE_ADDRESS__
@@ -62,7 +64,7 @@ protected:
     {
         for (int i = 0; i < count; ++i)
             openAndClose();
-        engine->collectGarbage();
+        qmlEngine(shown)->collectGarbage();
         settle();
         return allocatedBytes();
     }

@@ -75,7 +75,6 @@ TEST_F(ViewsTest, ATapBesideTheFieldEndsEditing)
 {
     window.present(std::make_unique<TZModifyNicknameController>());
     pass();
-    auto *const shown = qobject_cast<QQuickWindow *>(engine->rootObjects().first());
     const QObject *const field = QGuiApplication::focusObject();
     ASSERT_TRUE(field->inherits("QQuickTextInput"));
     const QPointF beside(shown->width() / 2, shown->height() - 100);
@@ -119,9 +118,9 @@ TEST_F(ViewsTest, StockSearchWhoseResultsShrinkWhileItsRowsAreBeingMade)
     TZStockInfoTool::saveStockInfo(stocks);
     while (TZStockInfoTool::isSaving())
         settle();
-    auto shown = std::make_unique<TZSelectStockController>(nullptr, nullptr);
-    TZSelectStockController *const search = shown.get();
-    window.present(std::move(shown));
+    auto screen = std::make_unique<TZSelectStockController>(nullptr, nullptr);
+    TZSelectStockController *const search = screen.get();
+    window.present(std::move(screen));
     pass();
     for (const char *const text : {"6", "600299", "60", "600001", "6", "x"}) {
         search->setText(text);
@@ -138,9 +137,9 @@ TEST_F(ViewsTest, StockDetailWithItsCharts)
         candles.append(QVariantMap{
             {"day", 20260101 + day}, {"open", 10}, {"high", 12}, {"low", 9}, {"close", 11}, {"volume", 100}});
     const QVariantList minutes{QVariantMap{{"time", "1795224600000"}, {"price", "11"}, {"average", "10"}}};
-    auto shown = std::make_unique<TZStockDetailController>(TZZorvanePageStocksModel{});
-    TZStockDetailController *const detail = shown.get();
-    window.present(std::move(shown));
+    auto screen = std::make_unique<TZStockDetailController>(TZZorvanePageStocksModel{});
+    TZStockDetailController *const detail = screen.get();
+    window.present(std::move(screen));
     http.answer(QStringLiteral("stockDetailPage"),
                 succeeded(QVariantMap{{"previousClose", "10"}, {"candles", candles}, {"minutes", minutes}}));
     for (const int chart : {TZStockDetailController::Intraday, TZStockDetailController::Candles}) {
