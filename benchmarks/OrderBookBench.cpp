@@ -48,10 +48,9 @@ void rowsOurs(benchmark::State &state)
             OrderBook::buyLevels(data.value(QStringLiteral("buyPankou")).toList());
         const QList<TZHandicapModel> sell =
             OrderBook::sellLevels(data.value(QStringLiteral("sellPankou")).toList());
-        const double deepest =
-            std::max(TZHandicapView::deepestVolume(buy), TZHandicapView::deepestVolume(sell));
-        buySide.setLevels(buy, {deepest, 12.20});
-        sellSide.setLevels(sell, {deepest, 12.20});
+        const auto scale = TZHandicapView::Scale::of(buy, sell, 12.20);
+        buySide.setLevels(buy, scale);
+        sellSide.setLevels(sell, scale);
     }
 }
 } // namespace

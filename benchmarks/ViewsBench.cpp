@@ -2,6 +2,7 @@
 // drawn by the software renderer into an offscreen window when they are asked for.
 
 #include "app/AppRouter.h"
+#include "app/Views.h"
 #include "core/session/SettingsKeys.h"
 #include "core/shell/KRNavigationController.h"
 #include "core/shell/KRSideMenu.h"
@@ -16,7 +17,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QQmlApplicationEngine>
 #include <QQmlComponent>
 #include <QQuickItem>
 #include <QQuickView>
@@ -235,12 +235,8 @@ void pushFloor(benchmark::State &state)
 void pushOurs(benchmark::State &state)
 {
     World world;
-    QQmlApplicationEngine engine;
-    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    engine.setInitialProperties({{QStringLiteral("window"), QVariant::fromValue(&world.window)},
-                                 {QStringLiteral("overlays"), QVariant::fromValue(&world.overlays)}});
-    engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Zorvane/Ui/Main.qml")));
-    auto *const window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
+    Views views;
+    QQuickWindow *const window = views.show(world.window, world.overlays);
     draw(*window);
     KRNavigationController *const stack = world.window.topStack();
     stack->setProperty("animated", false);

@@ -28,10 +28,8 @@ public:
 
     void start(const QUrl &url)
     {
-        if (!isSafe(url)) {
-            QTimer::singleShot(0, this, [this] { fail(HttpFailure::Tls); });
-            return;
-        }
+        if (!isSafe(url))
+            return fail(HttpFailure::Tls);
         body = new OneShotBody(request.body, this);
         reply = manager.sendCustomRequest(prepared(url), request.method, body);
         connect(reply, &QNetworkReply::finished, this, [this] { receive(); });
@@ -168,6 +166,7 @@ QtHttpTransport::QtHttpTransport(const DeveloperTrust &trust)
 void QtHttpTransport::send(const HttpRequest &request, std::function<void(const HttpOutcome &)> done)
 {
     auto *exchange = new Exchange(manager, tls, loopbackHttp, request, std::move(done));
-    // The first requests are made before the first frame is drawn: they wait for the event loop.
+    // No outcome comes from inside this call, and the first requests, which are made before the first frame
+    // is drawn, wait for the event loop.
     QTimer::singleShot(0, exchange, [exchange, url = QUrl(request.url)] { exchange->start(url); });
 }

@@ -42,9 +42,8 @@ Json verify(Service &service, const Call &call)
     return success(userJson(user, service.users.issueToken(user.id), known.has_value()));
 }
 
-Json setNick(Service &service, const Call &call)
+Json setNick(Service &service, const User &user, const Call &call)
 {
-    const User user = signedIn(service, call);
     const std::string nick = call.need("nick", "昵称");
     if (characters(nick) > 20)
         throw Refusal("昵称最多十个汉字");
@@ -52,9 +51,8 @@ Json setNick(Service &service, const Call &call)
     return success({{"nick", nick}});
 }
 
-Json setRealName(Service &service, const Call &call)
+Json setRealName(Service &service, User user, const Call &call)
 {
-    User user = signedIn(service, call);
     const std::string name = call.need("realName", "姓名");
     const std::string number = call.need("idCard", "身份证号");
     if (!isRealName(name))
@@ -68,9 +66,8 @@ Json setRealName(Service &service, const Call &call)
     return success({{"name", name}, {"next_step", user.nextStep()}});
 }
 
-Json bindCard(Service &service, const Call &call)
+Json bindCard(Service &service, const User &user, const Call &call)
 {
-    const User user = signedIn(service, call);
     const std::string number = call.need("cardNo", "银行卡号");
     const std::string cell = call.need("cell", "银行预留手机号");
     call.need("province", "开户省份");
@@ -94,9 +91,8 @@ Json bindCard(Service &service, const Call &call)
     return success({{"order_id", orderId}, {"cell", cell}});
 }
 
-Json verifyBind(Service &service, const Call &call)
+Json verifyBind(Service &service, User user, const Call &call)
 {
-    User user = signedIn(service, call);
     const std::string code = call.need("code", "手机验证码");
     const auto pending = service.sessions.pendingCard(call.token);
     if (!pending || (!call.text("orderId").empty() && call.text("orderId") != pending->orderId))
@@ -128,9 +124,8 @@ std::string newPassword(const Call &call)
     return password;
 }
 
-Json setPassword(Service &service, const Call &call)
+Json setPassword(Service &service, User user, const Call &call)
 {
-    User user = signedIn(service, call);
     const std::string password = newPassword(call);
     if (user.hasTradePassword)
         throw Refusal("您已设置过交易密码");
@@ -147,15 +142,14 @@ void requireResettable(const User &user)
         throw Refusal("请先开通资金托管账户");
 }
 
-Json canUpdatePassword(Service &service, const Call &call)
+Json canUpdatePassword(Service &, const User &user, const Call &)
 {
-    requireResettable(signedIn(service, call));
+    requireResettable(user);
     return success({{"canUpdate", "1"}});
 }
 
-Json sendResetCode(Service &service, const Call &call)
+Json sendResetCode(Service &service, const User &user, const Call &call)
 {
-    const User user = signedIn(service, call);
     requireResettable(user);
     service.resets.setStep(call.token, ResetStep::None);
     service.sms.send(user.cell, purpose::passwordReset);
@@ -164,9 +158,8 @@ Json sendResetCode(Service &service, const Call &call)
     return envelope;
 }
 
-Json verifyResetCode(Service &service, const Call &call)
+Json verifyResetCode(Service &service, const User &user, const Call &call)
 {
-    const User user = signedIn(service, call);
     const std::string code = call.need("userInput", "手机验证码");
     if (call.need("bizCode", "交易码") != purpose::passwordReset)
         throw Refusal("交易码异常");
@@ -176,9 +169,8 @@ Json verifyResetCode(Service &service, const Call &call)
     return success();
 }
 
-Json verifyIdentity(Service &service, const Call &call)
+Json verifyIdentity(Service &service, const User &user, const Call &call)
 {
-    const User user = signedIn(service, call);
     const std::string number = call.need("idCard", "身份证号");
     if (service.resets.step(call.token) == ResetStep::None)
         throw Refusal("请先验证手机验证码");
@@ -192,9 +184,8 @@ Json verifyIdentity(Service &service, const Call &call)
     return success();
 }
 
-Json updatePassword(Service &service, const Call &call)
+Json updatePassword(Service &service, const User &user, const Call &call)
 {
-    const User user = signedIn(service, call);
     const std::string password = newPassword(call);
     if (service.resets.step(call.token) != ResetStep::IdentityVerified)
         throw Refusal("请先完成身份验证");
@@ -211,9 +202,8 @@ std::string pictureKind(const std::string &content)
     return content.rfind("\xff\xd8\xff", 0) == 0 ? "jpg" : "";
 }
 
-Json uploadImage(Service &service, const Call &call)
+Json uploadImage(Service &service, const User &user, const Call &call)
 {
-    const User user = signedIn(service, call);
     const std::string kind = call.file ? pictureKind(call.file->content) : "";
     if (kind.empty())
         throw Refusal("请选择一张PNG或JPEG图片");
@@ -230,11 +220,11 @@ Json uploadImage(Service &service, const Call &call)
 
 void addAccountRoutes(Router &router, Service &service)
 {
-    const auto post = [&](const std::string &path, Json (*handler)(Service &, const Call &)) {
-        router.json("POST", path, [&service, handler](const Call &call) { return handler(service, call); });
+    router.json("POST", "user/start", [&service](const Call &call) { return start(service, call); });
+    router.json("POST", "user/verify", [&service](const Call &call) { return verify(service, call); });
+    const auto post = [&](const std::string &path, UserHandler handler) {
+        addUserRoute(router, service, "POST", path, std::move(handler));
     };
-    post("user/start", start);
-    post("user/verify", verify);
     post("user/set_nick", setNick);
     post("user/set_real_name", setRealName);
     post("user/bind_card", bindCard);
@@ -245,8 +235,7 @@ void addAccountRoutes(Router &router, Service &service)
     post("user/verify_id_card", verifyIdentity);
     post("user/update_password", updatePassword);
     post("image/upload", uploadImage);
-    router.json("GET", "user/can_update_password",
-                [&service](const Call &call) { return canUpdatePassword(service, call); });
+    addUserRoute(router, service, "GET", "user/can_update_password", canUpdatePassword);
     router.json("GET", "index/bank_list", [](const Call &) { return bankList(); });
 }
 

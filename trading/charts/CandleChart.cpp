@@ -243,19 +243,14 @@ QList<StockFigure> CandleChart::figuresOf(int index) const
     const auto price = [base](const QString &label, double yuan) {
         return StockFigure{label, FigureTexts::price(yuan), trendOf(yuan, base)};
     };
-    const int trend = trendOf(candle.close, base);
-    const bool compared = base > 0;
-    return {
-        price(QStringLiteral("开"), candle.open),
-        price(QStringLiteral("高"), candle.high),
-        price(QStringLiteral("低"), candle.low),
-        price(QStringLiteral("收"), candle.close),
-        {QStringLiteral("涨跌"), compared ? FigureTexts::change(candle.close - base) : FigureTexts::none,
-         trend},
-        {QStringLiteral("涨幅"), compared ? FigureTexts::rate(candle.close - base, base) : FigureTexts::none,
-         trend},
-        {QStringLiteral("成交量"), FigureTexts::volume(candle.volume), 0},
-    };
+    return QList<StockFigure>{
+               price(QStringLiteral("开"), candle.open),
+               price(QStringLiteral("高"), candle.high),
+               price(QStringLiteral("低"), candle.low),
+               price(QStringLiteral("收"), candle.close),
+           } +
+           changeFigures(candle.close, base) +
+           QList<StockFigure>{{QStringLiteral("成交量"), FigureTexts::volume(candle.volume), 0}};
 }
 
 QList<ChartLabel> CandleChart::legendOf(int index) const

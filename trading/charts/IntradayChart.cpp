@@ -161,17 +161,12 @@ QList<StockFigure> IntradayChart::figuresOf(int index) const
 {
     const Minute &minute = minutes.at(index);
     const double base = reference.previousClose;
-    const int trend = trendOf(minute.price, base);
-    const bool compared = base > 0;
-    return {
-        {QStringLiteral("价格"), FigureTexts::price(minute.price), trend},
-        {QStringLiteral("均价"), FigureTexts::price(minute.average), trendOf(minute.average, base)},
-        {QStringLiteral("涨跌"), compared ? FigureTexts::change(minute.price - base) : FigureTexts::none,
-         trend},
-        {QStringLiteral("涨幅"), compared ? FigureTexts::rate(minute.price - base, base) : FigureTexts::none,
-         trend},
-        {QStringLiteral("成交量"), FigureTexts::volume(minute.volume), 0},
-    };
+    return QList<StockFigure>{
+               {QStringLiteral("价格"), FigureTexts::price(minute.price), trendOf(minute.price, base)},
+               {QStringLiteral("均价"), FigureTexts::price(minute.average), trendOf(minute.average, base)},
+           } +
+           changeFigures(minute.price, base) +
+           QList<StockFigure>{{QStringLiteral("成交量"), FigureTexts::volume(minute.volume), 0}};
 }
 
 QList<ChartLabel> IntradayChart::legendOf(int index) const

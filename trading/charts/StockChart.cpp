@@ -98,6 +98,16 @@ void StockChart::labelVolume(double largest, QList<ChartLabel> &texts) const
                       ChartTone::Text});
 }
 
+QList<StockFigure> StockChart::changeFigures(double price, double base)
+{
+    const int trend = trendOf(price, base);
+    const bool compared = base > 0;
+    return {
+        {QStringLiteral("涨跌"), compared ? FigureTexts::change(price - base) : FigureTexts::none, trend},
+        {QStringLiteral("涨幅"), compared ? FigureTexts::rate(price - base, base) : FigureTexts::none, trend},
+    };
+}
+
 // The cross-hair.
 
 void StockChart::pointAt(double x, double y)

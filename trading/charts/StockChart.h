@@ -129,6 +129,8 @@ protected:
     virtual double priceOf(int index) const = 0;
     virtual QString timeOf(int index) const = 0;
     virtual QList<StockFigure> figuresOf(int index) const = 0;
+    /// How far `price` is from `base`, in yuan and in percent; dashes without a base.
+    static QList<StockFigure> changeFigures(double price, double base);
     virtual QList<ChartLabel> legendOf(int index) const = 0;
     virtual void reveal(int) {}
 

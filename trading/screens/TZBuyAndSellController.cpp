@@ -188,9 +188,7 @@ void TZBuyAndSellController::forgetQuotes()
 
 void TZBuyAndSellController::drawBook()
 {
-    const TZHandicapView::Scale scale{
-        std::max(TZHandicapView::deepestVolume(buyLevels), TZHandicapView::deepestVolume(sellLevels)),
-        previousClose};
+    const auto scale = TZHandicapView::Scale::of(buyLevels, sellLevels, previousClose);
     buyView.setLevels(buyLevels, scale);
     sellView.setLevels(sellLevels, scale);
 }

@@ -4,19 +4,12 @@
 #include "core/platform/Platform.h"
 #include "core/util/Service.h"
 #include "core/util/Text.h"
+#include "trading/charts/StockChart.h"
 
 #include <algorithm>
 
 namespace {
 const QString noFigure = QStringLiteral("--");
-
-int trendOf(const QString &price, double previousClose)
-{
-    const double yuan = doubleValue(price);
-    if (yuan <= 0 || previousClose <= 0)
-        return 0;
-    return (yuan > previousClose) - (yuan < previousClose);
-}
 
 HandicapRow rowOf(const TZHandicapModel &level, const TZHandicapView::Scale &scale)
 {
@@ -26,17 +19,21 @@ HandicapRow rowOf(const TZHandicapModel &level, const TZHandicapView::Scale &sca
             hasPrice ? level.price : noFigure,
             Service::whetherAnEmptyString(level.volume) ? noFigure : level.volume,
             scale.deepestVolume > 0 ? volume / scale.deepestVolume : 0,
-            trendOf(level.price, scale.previousClose),
+            trendOf(doubleValue(level.price), scale.previousClose),
             hasPrice};
 }
 } // namespace
 
-double TZHandicapView::deepestVolume(const QList<TZHandicapModel> &levels)
+TZHandicapView::Scale TZHandicapView::Scale::of(const QList<TZHandicapModel> &buyLevels,
+                                                const QList<TZHandicapModel> &sellLevels,
+                                                double previousClose)
 {
-    double deepest = 0;
-    for (const TZHandicapModel &level : levels)
-        deepest = std::max(deepest, doubleValue(level.volume));
-    return deepest;
+    Scale scale{0, previousClose};
+    for (const QList<TZHandicapModel> *const side : {&buyLevels, &sellLevels}) {
+        for (const TZHandicapModel &level : *side)
+            scale.deepestVolume = std::max(scale.deepestVolume, doubleValue(level.volume));
+    }
+    return scale;
 }
 
 void TZHandicapView::setLevels(const QList<TZHandicapModel> &levels, const Scale &scale)

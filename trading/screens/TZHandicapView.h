@@ -39,8 +39,10 @@ public:
         double deepestVolume = 0;
         /// Yuan; 0 when unknown.
         double previousClose = 0;
+
+        static Scale of(const QList<TZHandicapModel> &buyLevels, const QList<TZHandicapModel> &sellLevels,
+                        double previousClose);
     };
-    static double deepestVolume(const QList<TZHandicapModel> &levels);
 
     void setLevels(const QList<TZHandicapModel> &levels, const Scale &scale);
     RowListModel<HandicapRow> *rows() { return &shownRows; }

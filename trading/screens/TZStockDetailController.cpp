@@ -200,9 +200,7 @@ void TZStockDetailController::drawBook(const QVariantMap &data)
     };
     read(QStringLiteral("buyPankou"), QStringLiteral("买"), buyLevels);
     read(QStringLiteral("sellPankou"), QStringLiteral("卖"), sellLevels);
-    const TZHandicapView::Scale scale{
-        std::max(TZHandicapView::deepestVolume(buyLevels), TZHandicapView::deepestVolume(sellLevels)),
-        quote.previousClose()};
+    const auto scale = TZHandicapView::Scale::of(buyLevels, sellLevels, quote.previousClose());
     buyView.setLevels(buyLevels, scale);
     sellView.setLevels(sellLevels, scale);
 }
