@@ -7,10 +7,14 @@
 #include <QNetworkRequest>
 #include <QSslConfiguration>
 #include <QTimer>
+#include <algorithm>
 
 namespace {
 
 constexpr int mostRedirects = 5;
+
+/// The connections that a manager opens to one host; what it is given beyond them waits.
+constexpr int mostPerLane = 6;
 
 /// One request from sending to its outcome, redirects included; deletes itself.
 class Exchange : public QObject {
@@ -163,9 +167,22 @@ QtHttpTransport::QtHttpTransport(const DeveloperTrust &trust)
 {
 }
 
+QtHttpTransport::Lane &QtHttpTransport::freeLane()
+{
+    const auto free = std::find_if(lanes.begin(), lanes.end(),
+                                   [](const Lane &lane) { return lane.inFlight < mostPerLane; });
+    return free == lanes.end() ? lanes.emplace_back() : *free;
+}
+
 void QtHttpTransport::send(const HttpRequest &request, std::function<void(const HttpOutcome &)> done)
 {
-    auto *exchange = new Exchange(manager, tls, loopbackHttp, request, std::move(done));
+    Lane &lane = freeLane();
+    ++lane.inFlight;
+    auto leave = [&lane, done = std::move(done)](const HttpOutcome &outcome) {
+        --lane.inFlight;
+        done(outcome);
+    };
+    auto *exchange = new Exchange(lane.manager, tls, loopbackHttp, request, std::move(leave));
     // No outcome comes from inside this call, and the first requests, which are made before the first frame
     // is drawn, wait for the event loop.
     QTimer::singleShot(0, exchange, [exchange, url = QUrl(request.url)] { exchange->start(url); });

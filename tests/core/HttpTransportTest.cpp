@@ -298,14 +298,36 @@ TEST_F(HttpTransportTest, ReusesItsConnectionAndKeepsNothingElse)
     }
 }
 
-TEST_F(HttpTransportTest, SendsManyAtOnceEachExactlyOnce)
+TEST_F(HttpTransportTest, SendsManyAtOnceEachExactlyOnceAndNoneWaitsForAnAnswerToAnother)
 {
-    std::vector<HttpRequest> requests;
-    for (int i = 0; i < 40; ++i)
-        requests.push_back(form(server.url(QString::number(i))));
-    for (const HttpOutcome &outcome : sendAll(requests))
-        EXPECT_EQ(described(outcome), "200 {\"success\":true}");
-    EXPECT_EQ(server.requests.size(), 40);
+    std::vector<QTcpSocket *> waiting;
+    server.answer = [&waiting](QTcpSocket &socket, const WireServer::Request &request) {
+        if (request.line().startsWith("POST"))
+            respond(socket, "200 OK", "", "taken");
+        else
+            waiting.push_back(&socket);
+    };
+    constexpr std::size_t many = 20;
+    std::size_t answered = 0;
+    for (std::size_t i = 0; i < many; ++i)
+        transport.send({"GET", server.url(QStringLiteral("held")), {}, {}},
+                       [&answered](const HttpOutcome &outcome) {
+                           EXPECT_EQ(described(outcome), "200 held");
+                           ++answered;
+                       });
+    EXPECT_EQ(described(send(form(server.url(QStringLiteral("order"))))), "200 taken");
+    EXPECT_EQ(answered, 0U);
+    while (waiting.size() < many && answered == 0)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    for (QTcpSocket *const socket : waiting)
+        respond(*socket, "200 OK", "", "held");
+    while (answered < many)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    EXPECT_EQ(server.requests.size(), static_cast<qsizetype>(many) + 1);
+
+    const int connections = server.connections;
+    EXPECT_EQ(described(send(form(server.url(QStringLiteral("order"))))), "200 taken");
+    EXPECT_EQ(server.connections, connections) << "a pool with room is used before there is another";
 }
 
 TEST_F(HttpTransportTest, CarriesLargeBodiesBothWays)
