@@ -90,7 +90,7 @@ void KRBaseController::leftItemClick()
 
 void KRBaseController::popFromStack()
 {
-    if (navigation && navigation->top() == this)
+    if (isOnTop())
         navigation->pop();
 }
 
@@ -134,6 +134,11 @@ void KRBaseController::hidenWaitngView()
 void KRBaseController::endEditing()
 {
     // Once another screen has come on top, what is being edited is that one's.
-    if (window() && (!navigation || navigation->top() == this))
+    if (window() && (!navigation || isOnTop()))
         window()->endEditing();
+}
+
+bool KRBaseController::isOnTop() const
+{
+    return navigation && navigation->top() == this;
 }

@@ -86,6 +86,8 @@ protected:
     void showWaitingView();
     void hidenWaitngView();
     void endEditing();
+    /// False once another screen has come on top of its stack: a second tap may come while that slides in.
+    bool isOnTop() const;
 
 private:
     friend class KRNavigationController;

@@ -218,8 +218,11 @@ TEST_F(OrderEntryTest, OpeningTheSearchEndsEditingBeforeTheSearchIsThere)
     QList<const KRBaseController *> ended;
     QObject::connect(&window, &KRWindow::editingEnded, &window,
                      [this, &ended] { ended.append(stack().top()); });
+    const int depth = stack().depth();
     screen->gotoSelectStock();
     EXPECT_EQ(ended, QList<const KRBaseController *>{screen});
+    screen->gotoSelectStock();
+    EXPECT_EQ(stack().depth(), depth + 1) << "a double click opens one search";
 }
 
 TEST_F(OrderEntryTest, MoneyThatComesAfterThePriceIsCounted)

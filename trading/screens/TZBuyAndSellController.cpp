@@ -109,7 +109,7 @@ void TZBuyAndSellController::getBuyPage()
 
 void TZBuyAndSellController::gotoSelectStock()
 {
-    if (!stockSelectable || !navigationController())
+    if (!stockSelectable || !isOnTop())
         return;
     // Before the search takes the keyboard: once it is on top, what is being edited is the search's.
     endEditing();

@@ -258,7 +258,7 @@ void TZSelectStockController::openDetail(int row)
 
 bool TZSelectStockController::canAct(int row) const
 {
-    return row >= 0 && row < stocks.size() && navigationController() && navigationController()->top() == this;
+    return row >= 0 && row < stocks.size() && isOnTop();
 }
 
 void TZSelectStockController::remember(const TZStockInfoModel &stock)

@@ -244,8 +244,7 @@ bool TZStockDetailController::canSell() const
 
 void TZStockDetailController::buy()
 {
-    // A second tap may come while order entry slides in.
-    if (navigationController()->top() != this)
+    if (!isOnTop())
         return;
     TZZorvanePageStocksModel bought;
     bought.stockCode = stock.stockCode;
@@ -255,6 +254,6 @@ void TZStockDetailController::buy()
 
 void TZStockDetailController::sell()
 {
-    if (canSell() && navigationController()->top() == this)
+    if (canSell() && isOnTop())
         navigationController()->push(std::make_unique<TZBuyAndSellController>(OrderSide::Sell, stock));
 }
