@@ -14,14 +14,23 @@
 class RequestOperation : public QObject {
     Q_OBJECT
 public:
-    explicit RequestOperation(QString requestUrl) : url(std::move(requestUrl)) {}
+    RequestOperation(QString requestUrl, QVariantMap requestParameters)
+        : url(std::move(requestUrl)), parameters(std::move(requestParameters))
+    {
+    }
     const QString url;
+    const QVariantMap parameters;
+    /// Greater than that of every request before it.
+    const quint64 number = ++sent;
     /// What came back is from where a redirect led after the body was sent: it says nothing of the work that
     /// the body asked for. Set before the callbacks.
     bool redirected = false;
 
 Q_SIGNALS:
     void finished();
+
+private:
+    static inline quint64 sent = 0;
 };
 
 /// Null where no request was sent: an answer from the stored copy, an unknown method.
@@ -58,9 +67,12 @@ public:
 
     void operator()(const Operation &operation, const Argument &argument) const
     {
-        if (function && (!owned || owner))
+        if (function && isWanted())
             function(operation, argument);
     }
+
+    /// False once the owner is gone: what was asked for is no longer wanted.
+    bool isWanted() const { return !owned || owner; }
 
 protected:
     explicit OwnedCallback(Function callback) : function(std::move(callback)) {}

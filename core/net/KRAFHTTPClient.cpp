@@ -129,7 +129,7 @@ Operation KRAFHTTPClient::execute(const QString &url, const QString &method, con
         return nullptr;
     HttpRequest request{method.toLatin1(), url, {}, {}};
     addCommonHeaders(request);
-    auto operation = std::make_shared<RequestOperation>(url);
+    auto operation = std::make_shared<RequestOperation>(url, dict);
     if (!addParameters(request, dict, mutiPart, andPartName)) {
         auto later = std::make_shared<Timer>();
         later->startOnce(0ms, [later, operation, error = std::move(error)] {

@@ -1,11 +1,14 @@
 #include "core/net/ToolPolicy.h"
 
+#include "core/net/FormBody.h"
 #include "core/platform/ApplicationInfo.h"
 #include "core/platform/Platform.h"
 #include "core/platform/SettingsStore.h"
 #include "core/session/TZUserModel.h"
 #include "core/util/Service.h"
 #include "core/util/Text.h"
+
+#include <QHash>
 
 QString ToolPolicy::url(const QString &path)
 {
@@ -43,7 +46,7 @@ Success ToolPolicy::cached(const QString &key, Success success, Hand hand)
     const QString token = TZUserModel::stored().api_token;
     return gated(Success::unowned([key, token, hand, success = std::move(success)](
                                       const Operation &operation, const QVariantMap &answer) {
-        if (token != TZUserModel::stored().api_token)
+        if (token != TZUserModel::stored().api_token || !takesInTurn(key, operation))
             return;
         SettingsStore &settings = Platform::current().settings;
         const QVariantMap cleaned = Service::processDictionaryIsNSNull(answer).toMap();
@@ -51,6 +54,16 @@ Success ToolPolicy::cached(const QString &key, Success success, Hand hand)
         settings.synchronize();
         success(operation, hand == Hand::Cleaned ? cleaned : answer);
     }));
+}
+
+bool ToolPolicy::takesInTurn(const QString &key, const Operation &operation)
+{
+    static QHash<QByteArray, quint64> taken;
+    quint64 &latest = taken[key.toUtf8() + '?' + formFields(operation->parameters)];
+    if (operation->number < latest)
+        return false;
+    latest = operation->number;
+    return true;
 }
 
 QVariantMap ToolPolicy::stored(const QString &key)

@@ -31,8 +31,13 @@ Success gated(Success success, Indicator indicator = Indicator::Hide);
 Success passed(Success success);
 
 /// As `gated`, and stores the answer under `key` without its nulls before handing it on. An answer that
-/// comes when another user, or none, has taken the place of the one who asked is dropped.
+/// comes when another user, or none, has taken the place of the one who asked is dropped, and so is one that
+/// a later one has overtaken.
 Success cached(const QString &key, Success success, Hand hand = Hand::AsReceived);
+
+/// Whether `operation` is answered in its turn: false when the answer to a later request for `key` with the
+/// same parameters was taken before. Otherwise this one is taken.
+bool takesInTurn(const QString &key, const Operation &operation);
 
 /// The copy that `cached` stored; empty when there is none.
 QVariantMap stored(const QString &key);

@@ -50,6 +50,9 @@ void store(const TZUserModel &user)
     settings.synchronize();
 }
 
+/// The number of the latest "verify".
+quint64 latestSignIn = 0;
+
 void signIn(const QVariantMap &answer)
 {
     const QVariantMap cleaned = Service::processDictionaryIsNSNull(answer).toMap();
@@ -86,12 +89,19 @@ Operation TZUserTool::checkCellWithCell(const QString &cell, Success success, Fa
 
 Operation TZUserTool::verifyCodeWithParam(const QVariantMap &param, Success success, Failure andError)
 {
-    auto done = [success = std::move(success)](const Operation &operation, const QVariantMap &answer) {
+    auto done = [token = TZUserModel::stored().api_token,
+                 success = std::move(success)](const Operation &operation, const QVariantMap &answer) {
+        const bool givenUp = !success.isWanted() || operation->number != latestSignIn;
+        if (givenUp || TZUserModel::stored().api_token != token)
+            return;
         signIn(answer);
         success(operation, answer);
     };
-    return postToUser(QStringLiteral("verify"), param, ToolPolicy::gated(Success::unowned(std::move(done))),
-                      std::move(andError));
+    Operation operation =
+        postToUser(QStringLiteral("verify"), param, ToolPolicy::gated(Success::unowned(std::move(done))),
+                   std::move(andError));
+    latestSignIn = operation->number;
+    return operation;
 }
 
 Operation TZUserTool::uploadPhotoWithParam(const QVariantMap &param,

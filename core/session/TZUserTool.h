@@ -11,7 +11,9 @@ public:
 
     /// Always. The answer's "bizCode" says what comes next: "1001" an unknown number, "1002" a known one.
     static Operation checkCellWithCell(const QString &cell, Success success, Failure andError);
-    /// Gated; signs the user in. Keys: "bizCode", "userInput", at registration "inviteCode".
+    /// Gated; signs the user in, unless that was given up meanwhile: the owner of `success` is gone, another
+    /// user is stored than when it was sent, or it was sent again. Keys: "bizCode", "userInput", at
+    /// registration "inviteCode".
     static Operation verifyCodeWithParam(const QVariantMap &param, Success success, Failure andError);
     static Operation uploadPhotoWithParam(const QVariantMap &param,
                                           const ConstructBody &constructingBodyWithBlock, Success success,

@@ -40,7 +40,8 @@ Operation StoredRead::send(const QVariantMap &param, const Success &success, con
                                        return;
                                    if (!succeeded)
                                        return handOn(read.stored(), operation, success);
-                                   success(operation, read.store(answer));
+                                   if (ToolPolicy::takesInTurn(read.path, operation))
+                                       success(operation, read.store(answer));
                                }),
                                Failure::unowned([read = *this, success, andError, isForeign](
                                                     const Operation &operation, const RequestError &error) {

@@ -3,7 +3,7 @@
 #include "core/net/Callbacks.h"
 
 /// A GET whose last good answer is stored, cleaned of nulls, and stands for the one that does not come. An
-/// answer that arrives after its user has signed out is dropped.
+/// answer that arrives after its user has signed out, or after that of a later read, is dropped.
 struct StoredRead {
     enum class Audience { Everyone, User };
 

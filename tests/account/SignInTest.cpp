@@ -436,6 +436,23 @@ TEST_F(SignInTest, ClosingRunsNothingWhateverIsAnsweredLater)
     EXPECT_TRUE(events.isEmpty());
 }
 
+TEST_F(SignInTest, GoingBackWhileTheCodeIsCheckedLeavesTheUserSignedOut)
+{
+    for (const char *bizCode : {"1001", "1002"}) {
+        sendNumber(started(QLatin1String(bizCode)));
+        auto *const code = qobject_cast<TZSmsCodeController *>(stack->top());
+        code->textFiledEditChanged(QStringLiteral("123456"));
+        code->clickNextStepBtn();
+        runLoop.advance(500ms);
+        code->backButtonClicked();
+        settle();
+        http.answer(verify, succeeded(user()));
+        EXPECT_FALSE(TZUserModel::stored().api_token == QStringLiteral("fresh")) << bizCode;
+        EXPECT_EQ(stack->top(), entry);
+        EXPECT_TRUE(events.isEmpty());
+    }
+}
+
 TEST_F(SignInTest, ARefusedCodeKeepsTheScreenAndTheTypedText)
 {
     TZLoginController *const login = toLogin();

@@ -286,11 +286,11 @@ TEST_F(HttpClientTest, StartsTheReachabilityMonitorOnceBeforeTheFirstRequest)
 
 class ToolPolicyTest : public HttpClientTest {
 protected:
-    void call()
+    void call(const QVariantMap &dict = {})
     {
         const QString key = QStringLiteral("Holding");
         if (!ToolPolicy::answersOffline(key, succeeds()))
-            KRAFHTTPClient::get(ToolPolicy::url(QStringLiteral("holding")), {},
+            KRAFHTTPClient::get(ToolPolicy::url(QStringLiteral("holding")), dict,
                                 ToolPolicy::cached(key, succeeds()), fails());
     }
 };
@@ -326,6 +326,25 @@ TEST_F(ToolPolicyTest, KeepsNoAnswerThatWasMeantForAnotherUser)
     http.answer(QStringLiteral("holding"), succeeded());
     EXPECT_FALSE(settings.value(QStringLiteral("Holding")).isValid());
     EXPECT_EQ(steps, QStringList());
+}
+
+TEST_F(ToolPolicyTest, AnAnswerThatALaterOneHasOvertakenIsDropped)
+{
+    const QVariantMap nextPage{{QStringLiteral("page"), 1}};
+    for (const QVariantMap &dict : {QVariantMap(), QVariantMap(), QVariantMap(), nextPage})
+        call(dict);
+    const auto answer = [this](int place) {
+        Service::showWaitingProgressView();
+        http.answer(*std::next(http.sent.begin(), place), succeeded(place));
+        EXPECT_FALSE(overlays.isWaiting());
+        return last.value(QStringLiteral("data")).toInt();
+    };
+    EXPECT_EQ(answer(1), 1);
+    EXPECT_EQ(answer(0), 1);
+    EXPECT_EQ(settings.value(QStringLiteral("Holding")).toMap(), succeeded(1));
+    EXPECT_EQ(answer(3), 3);
+    EXPECT_EQ(answer(2), 2) << "another page is another answer";
+    EXPECT_EQ(steps.size(), 3);
 }
 
 TEST_F(ToolPolicyTest, HidesTheIndicatorAsEachPolicySays)

@@ -150,6 +150,33 @@ TEST_F(UserToolTest, SigningInStoresTheCleanedUserAndHandsOnTheAnswerAsReceived)
     EXPECT_EQ(http.last().header("api_token"), "t0ken");
 }
 
+TEST_F(UserToolTest, ASignInThatWasGivenUpSignsNobodyIn)
+{
+    const QString verify = QStringLiteral("user/verify");
+    const auto token = [](const char *text) { return succeeded(one("api_token", QLatin1String(text))); };
+    auto screen = std::make_unique<QObject>();
+    TZUserTool::verifyCodeWithParam({}, Success{screen.get(), [](auto &, auto &) { FAIL(); }}, fails());
+    screen.reset();
+    http.answer(verify, token("of a screen that is gone"));
+    EXPECT_FALSE(Service::isLogin());
+    EXPECT_FALSE(overlays.isWaiting());
+
+    TZUserTool::verifyCodeWithParam({}, succeeds(), fails());
+    TZUserTool::verifyCodeWithParam({}, succeeds(), fails());
+    http.answer(*std::next(http.sent.begin(), 1), token("earlier"));
+    EXPECT_FALSE(Service::isLogin());
+    http.answer(http.last(), token("later"));
+    EXPECT_EQ(TZUserModel::stored().api_token, QStringLiteral("later"));
+
+    TZUserTool::verifyCodeWithParam({}, succeeds(), fails());
+    Service::logout();
+    http.answer(verify, token("of a user who has left"));
+    EXPECT_FALSE(Service::isLogin());
+    EXPECT_EQ(kits.calls, QStringList({QStringLiteral("setAlias later api_token"),
+                                       QStringLiteral("setAlias off_line api_token")}));
+    EXPECT_EQ(successes, 1);
+}
+
 TEST_F(UserToolTest, AnAnswerWithoutATokenSignsNobodyIn)
 {
     for (const QVariant &data :

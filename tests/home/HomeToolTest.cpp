@@ -115,6 +115,16 @@ TEST_F(HomeToolTest, AnAnswerForAUserWhoHasLeftIsDropped)
     EXPECT_FALSE(overlays.isWaiting());
 }
 
+TEST_F(HomeToolTest, AnAnswerThatALaterOneHasOvertakenIsDropped)
+{
+    TZHomeTool::getHomeLoanOverviewWithParam({}, note(), {});
+    TZHomeTool::getHomeLoanOverviewWithParam({}, note(), {});
+    http.answer(http.sent.back(), figures(QStringLiteral("200")));
+    http.answer(http.sent.front(), figures(QStringLiteral("100")));
+    EXPECT_EQ(answers.size(), 1);
+    EXPECT_EQ(settings.value(QStringLiteral("LoanOverview")).toMap(), answers.constFirst());
+}
+
 TEST_F(HomeToolTest, TheMarginDemandIsStoredInTwoParts)
 {
     TZHomeTool::getAddBailWithParam({}, note(), {});

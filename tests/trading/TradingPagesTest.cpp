@@ -235,7 +235,7 @@ TEST_F(TradingFixture, HoldingsToSellAreReadOnLoadingAndEachTimeTheyAppear)
     EXPECT_EQ(list->title(), "选择卖出股票");
     EXPECT_EQ(http.countOf("holding"), 2);
     EXPECT_EQ(http.pending("holding").fields(), (QVariantMap{{"", ""}}));
-    http.answer(QStringLiteral("holding"), succeeded(QVariantList{holding("600001", "5"), 7, "x"}));
+    http.answer(http.sent.front(), succeeded(QVariantList{holding("600001", "5"), 7, "x"}));
     EXPECT_EQ(list->holdingMArray().size(), 3);
     http.answer(QStringLiteral("holding"), succeeded(QVariantList{holding("600001", "5")}));
     EXPECT_EQ(list->holdings()->count(), 1);
