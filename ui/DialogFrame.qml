@@ -33,10 +33,8 @@ FocusScope {
     Rectangle {
         anchors.fill: parent
         color: Theme.scrim
-        MouseArea {
+        PointerShield {
             anchors.fill: parent
-            hoverEnabled: true
-            onWheel: wheel => wheel.accepted = true
         }
     }
     Rectangle {

@@ -4,7 +4,7 @@ import QtQuick
 import Zorvane.Ui
 
 /// Draws a stack of screens: one slides over the other, the one below follows slowly. Screens that are covered are not
-/// rendered.
+/// rendered. While one slides nothing of the stack can be tapped: a second tap would hit what comes under the finger.
 FocusScope {
     id: stack
 
@@ -12,6 +12,7 @@ FocusScope {
     /// Whether its screen takes the keyboard; before, keys do nothing.
     property bool ready: true
     property bool closed: false
+    property bool sliding: false
 
     /// Lets go of the screens' views before the stack itself goes.
     function close() {
@@ -20,6 +21,7 @@ FocusScope {
 
     function order() {
         let top = null
+        let moving = false
         for (let row = 0; row < screens.count; ++row) {
             const slot = screens.itemAt(row) as ScreenSlot
             if (!slot)
@@ -27,7 +29,10 @@ FocusScope {
             slot.above = screens.itemAt(row + 1) as ScreenSlot
             if (!slot.leaving)
                 top = slot
+            moving = moving || slot.sliding
         }
+        sliding = moving
+        guard.front = top
         if (top && ready)
             top.focus = true
     }
@@ -37,6 +42,10 @@ FocusScope {
     onReadyChanged: order()
     Component.onCompleted: navigation.animated = true
 
+    FocusGuard {
+        id: guard
+        scope: stack
+    }
     Repeater {
         id: screens
         model: stack.closed ? null : stack.navigation
@@ -49,7 +58,12 @@ FocusScope {
             height: stack.height
             animated: stack.visible
             onLeavingChanged: stack.order()
+            onSlidingChanged: stack.order()
             onGone: stack.navigation.transitionFinished(controller)
         }
+    }
+    PointerShield {
+        anchors.fill: parent
+        visible: stack.sliding
     }
 }

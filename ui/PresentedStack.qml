@@ -8,6 +8,7 @@ NavigationStack {
     /// Whether it covers what is under it.
     readonly property bool covers: inPlace && !leaving
     property bool inPlace: false
+    readonly property bool travelling: slide.running
 
     signal gone
 

@@ -14,6 +14,7 @@ FocusScope {
     property ScreenSlot above
     /// 0 beyond the right edge, 1 in place.
     property real progress: 1
+    readonly property bool sliding: movement.running || progress > 0 && progress < 1
 
     signal gone
 

@@ -51,6 +51,10 @@ FocusScope {
             controller: frame.sideMenu.leftMenu
             wanted: menu.visible
         }
+        PointerShield {
+            anchors.fill: parent
+            visible: frame.progress < 1
+        }
     }
     Item {
         width: parent.width
@@ -74,8 +78,8 @@ FocusScope {
 
             MouseArea {
                 anchors.fill: parent
-                enabled: frame.sideMenu.open
-                onClicked: frame.sideMenu.hideMenu()
+                enabled: frame.progress > 0
+                onClicked: if (frame.progress === 1) frame.sideMenu.hideMenu()
             }
             DragHandler {
                 id: drag

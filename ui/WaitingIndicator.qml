@@ -21,11 +21,8 @@ FocusScope {
             back()
     }
 
-    MouseArea {
+    PointerShield {
         anchors.fill: parent
-        hoverEnabled: true
-        preventStealing: true
-        onWheel: wheel => wheel.accepted = true
     }
     Rectangle {
         anchors.centerIn: parent

@@ -4,7 +4,7 @@ import QtQuick
 import Zorvane.Ui
 
 /// What fills the window, from the back to the front: its root, what is presented over it, the dialogs, the waiting
-/// indicator, the banners. The keyboard belongs to the frontmost.
+/// indicator, the banners. The keyboard belongs to the frontmost. While root or stacks come and go none can be tapped.
 FocusScope {
     id: main
 
@@ -12,20 +12,20 @@ FocusScope {
     required property OverlayHost overlays
     /// The row of the presented stack that covers what is under it, -1 while the root is seen.
     property int cover: -1
+    property bool sliding: false
 
     function endEditing(field) {
         if (field)
             field.focus = false
     }
 
-    function stacks(): list<Item> {
-        return Array.from({ length: presented.count }, (_, row) => presented.itemAt(row))
+    function shown(repeater: Repeater): list<Item> {
+        return Array.from({ length: repeater.count }, (_, row) => repeater.itemAt(row)).filter(item => item)
     }
 
     /// What the waiting indicator covers.
     function covered(): Item {
-        return dialogs.count > 0 ? dialogs.itemAt(dialogs.count - 1)
-                                 : stacks().reverse().find(stack => stack && !stack.leaving) ?? rootView
+        return [...shown(presented), ...shown(dialogs)].reverse().find(item => !item.leaving) ?? rootView
     }
 
     /// The dialog or page that has the keyboard when `area` has it; null when it has neither.
@@ -55,8 +55,10 @@ FocusScope {
             (area as PageFrame)?.goBack()
     }
 
-    function uncover() {
-        cover = stacks().reduce((highest, stack, row) => stack && stack.covers ? row : highest, -1)
+    function lookAtStacks() {
+        const stacks = shown(presented)
+        cover = stacks.reduce((highest, stack) => stack.covers ? stack.index : highest, -1)
+        sliding = stacks.some(stack => stack.travelling)
     }
 
     function focusTop() {
@@ -93,7 +95,7 @@ FocusScope {
         onItemAdded: main.focusTop()
         onItemRemoved: (index, item) => (item as PresentedStack).close()
         onCountChanged: {
-            main.uncover()
+            main.lookAtStacks()
             main.focusTop()
         }
 
@@ -105,10 +107,15 @@ FocusScope {
             height: main.height
             navigation: item
             visible: index >= main.cover
-            onCoversChanged: main.uncover()
+            onCoversChanged: main.lookAtStacks()
+            onTravellingChanged: main.lookAtStacks()
             onLeavingChanged: main.focusTop()
             onGone: main.window.transitionFinished(item)
         }
+    }
+    PointerShield {
+        anchors.fill: parent
+        visible: main.sliding || rootView.fading
     }
     Repeater {
         id: dialogs
@@ -122,6 +129,8 @@ FocusScope {
             width: main.width
             height: main.height
             dialog: item
+            onLeavingChanged: main.focusTop()
+            onGone: main.window.transitionFinished(item)
         }
     }
     WaitingIndicator {

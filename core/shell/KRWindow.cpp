@@ -158,22 +158,24 @@ void KRWindow::dismiss(KRNavigationController *stack)
 {
     if (!presentedStacks.contains(stack))
         return;
-    const bool seen = animated && stack == presentedStacks.last();
-    if (seen)
-        presentedStacks.leave(stack);
-    else
-        presentedStacks.remove(stack);
+    takeAway(stack, presentedStacks, animated && stack == presentedStacks.last());
     updateVisibility();
-    if (!seen)
-        stack->deleteLater();
 }
 
-void KRWindow::transitionFinished(QObject *stack)
+void KRWindow::takeAway(QObject *item, ObjectListModel &from, bool seen)
 {
-    if (!presentedStacks.isLeaving(stack))
-        return;
-    presentedStacks.remove(stack);
-    stack->deleteLater();
+    if (seen)
+        return from.leave(item);
+    from.remove(item);
+    item->deleteLater();
+}
+
+void KRWindow::transitionFinished(QObject *gone)
+{
+    for (ObjectListModel *const list : {&presentedStacks, &shownDialogs}) {
+        if (list->isLeaving(gone))
+            takeAway(gone, *list, false);
+    }
 }
 
 void KRWindow::show(std::unique_ptr<KRDialog> dialog)
@@ -186,10 +188,8 @@ void KRWindow::show(std::unique_ptr<KRDialog> dialog)
 
 void KRWindow::remove(KRDialog *dialog)
 {
-    if (!shownDialogs.contains(dialog))
-        return;
-    shownDialogs.remove(dialog);
-    dialog->deleteLater();
+    if (shownDialogs.contains(dialog))
+        takeAway(dialog, shownDialogs, animated);
 }
 
 KRNavigationController *KRWindow::topStack() const

@@ -81,10 +81,12 @@ public:
     /// Takes `stack` away, also from below another one; does nothing when it is not presented. Only the one
     /// on top is seen leaving.
     void dismiss(KRNavigationController *stack);
-    Q_INVOKABLE void transitionFinished(QObject *stack);
+    /// A stack or a dialog has been seen to go.
+    Q_INVOKABLE void transitionFinished(QObject *gone);
 
     /// The dialog lives until it is removed.
     void show(std::unique_ptr<KRDialog> dialog);
+    /// As `dismiss`, wherever the dialog lies.
     void remove(KRDialog *dialog);
 
     /// The stack on top: the last presented, else the content of the side menu, else null.
@@ -102,6 +104,7 @@ Q_SIGNALS:
     void editingEnded();
 
 private:
+    void takeAway(QObject *item, ObjectListModel &from, bool seen);
     void replaceRoot(QObject *root);
     void showRoot();
     QObject *front() const;

@@ -8,6 +8,15 @@ Item {
     height: 600
 
     Component {
+        id: doorView
+        PrimaryButton {
+            required property var navigation
+            width: 390
+            text: "door"
+            onClicked: world.push(navigation, "opened", true)
+        }
+    }
+    Component {
         id: stackView
         NavigationStack {
             width: 390
@@ -57,6 +66,37 @@ Item {
             pushed("second", true)
             keyClick(Qt.Key_Escape)
             compare(navigation.depth, 1)
+        }
+
+        function test_aDoubleTapOpensOneScreen() {
+            createTemporaryObject(doorView, slots()[0], { navigation: navigation })
+            mouseClick(view, 20, 20)
+            mouseClick(view, 20, 20)
+            compare(navigation.depth, 2)
+            tryCompare(view, "sliding", false)
+        }
+
+        function test_aDoubleTapGoesBackOnce() {
+            pushed("second", true)
+            pushed("third", true)
+            mouseClick(view, 24, 42)
+            compare(navigation.depth, 2)
+            slots()[2].progress = 0.1
+            mouseClick(view, 24, 42)
+            compare(navigation.depth, 2)
+        }
+
+        function test_tabReachesNothingOfAScreenThatIsBeingCovered() {
+            pushed("second", true)
+            view.forceActiveFocus()
+            world.push(navigation, "third", true)
+            for (let tab = 0; tab < 4; ++tab) {
+                keyClick(Qt.Key_Tab)
+                let up = root.Window.activeFocusItem
+                while (up && up !== slots()[2])
+                    up = up.parent
+                compare(up, slots()[2])
+            }
         }
 
         function swipe(to) {

@@ -19,10 +19,16 @@ Item {
         id: behind
         parent: content
         z: -1
-        width: 100
+        width: 390
+        height: 600
         text: "behind"
         property int taps: 0
-        onClicked: taps += 1
+        property bool presents: false
+        onClicked: {
+            taps += 1
+            if (presents)
+                world.present("page")
+        }
     }
     DialogFrame {
         id: lifted
@@ -48,6 +54,7 @@ Item {
         function cleanup() {
             world.wait(false)
             behind.taps = 0
+            behind.presents = false
         }
 
         function find(area, wanted) {
@@ -144,6 +151,48 @@ Item {
             verify(stack.leaving && !stack.activeFocus)
             tryVerify(() => stack.y > 0)
             tryVerify(() => find(content, item => item instanceof PresentedStack) === null)
+        }
+
+        function test_aDoubleTapOpensAPageOnce() {
+            behind.presents = true
+            mouseClick(content, 195, 300)
+            mouseClick(content, 195, 300)
+            compare(world.window.presented.count, 1)
+            tryCompare(content, "cover", 0)
+            keyClick(Qt.Key_Escape)
+            tryVerify(() => find(content, item => item instanceof PresentedStack) === null)
+        }
+
+        function test_aDoubleTapClosesOnePage() {
+            for (const [row, title] of ["lower", "upper"].entries()) {
+                world.present(title)
+                tryCompare(content, "cover", row)
+            }
+            const close = find(content, item => item instanceof BarItem && item.visible && item.Accessible.name === "关闭")
+            const place = close.mapToItem(content, close.width / 2, close.height / 2)
+            mouseClick(content, place.x, place.y)
+            const upper = find(content, item => item instanceof PresentedStack && item.leaving)
+            upper.y = 500
+            mouseClick(content, place.x, place.y)
+            compare(world.window.presented.count, 1)
+            tryCompare(content, "sliding", false)
+            keyClick(Qt.Key_Escape)
+            compare(world.window.presented.count, 0)
+            tryCompare(content, "sliding", false)
+        }
+
+        function test_aDoubleTapOnADialogsButtonReachesNothingBelow() {
+            world.showQuestion()
+            tryVerify(() => holdsFocus("确定"))
+            const button = content.Window.activeFocusItem
+            const place = button.mapToItem(content, button.width / 2, button.height / 2)
+            mouseClick(content, place.x, place.y)
+            mouseClick(content, place.x, place.y)
+            compare(world.answers(), "right ")
+            compare(behind.taps, 0)
+            tryVerify(() => find(content, item => item instanceof DialogLoader) === null)
+            mouseClick(content, place.x, place.y)
+            compare(behind.taps, 1)
         }
 
         function test_whileWaitingEscLeavesTheCoveredScreen() {
