@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/session/SettingsKeys.h"
+#include "core/util/Service.h"
 #include "tests/trading/TradingFixture.h"
 #include "trading/api/TZStockInfoModel.h"
 #include "trading/screens/TZBuyAndSellController.h"
@@ -26,7 +27,11 @@ inline QVariantMap quote(const QVariant &match, double best = 12.34)
 
 class HoldingsList : public QObject, public HoldingsDelegate {
 public:
-    void reloadHoldingData() override { ++reloads; }
+    void reloadHoldingData() override
+    {
+        ++reloads;
+        Service::showWaitingProgressView();
+    }
     int reloads = 0;
 };
 

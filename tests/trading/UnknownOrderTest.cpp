@@ -230,6 +230,7 @@ TEST_F(UnknownOrderTest, IsReadQuietlyWhenOrderEntryOpensAfterAKill)
     stack().pop();
     settle();
     runLoop.advance(1min);
+    http.fail(entrustsPath, HttpFailure::TimedOut);
     openBuying();
     runLoop.advance(1ms);
     http.fail(entrustsPath, HttpFailure::TimedOut);
@@ -295,7 +296,9 @@ TEST_F(UnknownOrderTest, IsRememberedBeyondItsScreenUntilItsUserSignsOutOrTheDay
     EXPECT_TRUE(asks());
     runLoop.advance(24h);
     http.answerRaw(lost, HttpFailure::TimedOut);
-    EXPECT_EQ(alert(), nullptr);
+    EXPECT_EQ(said(), "委托结果未知");
+    alert()->cancel();
+    settle();
     EXPECT_TRUE(asks());
 
     const QVariant user = settings.value(SettingsKeys::user);
@@ -317,16 +320,45 @@ TEST_F(UnknownOrderTest, IsRememberedBeyondItsScreenUntilItsUserSignsOutOrTheDay
     EXPECT_FALSE(asks());
 }
 
-TEST_F(UnknownOrderTest, AnAnswerThatComesAfterItsScreenIsGoneIsHeard)
+TEST_F(UnknownOrderTest, AnOutcomeAfterAMessageLedAwayFromItsScreenIsToldAndRecorded)
 {
-    openWithEntry();
-    submitEntry();
-    stack().pop();
-    settle();
-    http.answer(buyPath, succeeded(QVariantMap{{"id", "1"}}));
-    openWithEntry();
-    submitEntry();
-    EXPECT_EQ(http.countOf(buyPath), 2);
+    struct Case {
+        QVariantMap answer;
+        QString title;
+        QString news;
+        bool needsPassword;
+        qsizetype unknown;
+    };
+    const QString order = "买入 海天传媒(600001)\n12.34元 × 800股";
+    const Case cases[] = {
+        {succeeded(QVariantMap{{"id", "1"}}), "委托挂单成功", order, false, 0},
+        {succeeded(), "", "", false, 1},
+        {refused("资金不足"), "委托未成功", order + "\n\n资金不足", true, 0},
+        {with(refused(""), "code", "12000"), "委托未成功", order + "\n\n请重新提交", true, 0},
+    };
+    for (const Case &c : cases) {
+        settings.remove(UnknownOrders::settingsKey);
+        settings.setValue(SettingsKeys::needTradePwd, true);
+        openWithEntry();
+        screen->submit();
+        typePassword("123456");
+        KRNavigationController *const message = window.present(std::make_unique<KRBaseController>());
+        window.sideMenu()->setContent(
+            std::make_unique<KRNavigationController>(std::make_unique<KRBaseController>()));
+        message->dismiss();
+        settle();
+        http.answer(buyPath, c.answer);
+        EXPECT_EQ(said(), c.title);
+        EXPECT_EQ(alert() ? alert()->ensureText() : "", c.news);
+        EXPECT_EQ(settings.value(SettingsKeys::needTradePwd), c.needsPassword);
+        EXPECT_EQ(UnknownOrders::all().size(), c.unknown);
+        EXPECT_EQ(prompt(), nullptr);
+        if (alert()) {
+            EXPECT_EQ(alert()->leftTitle() + alert()->rightTitle(), "知道了");
+            alert()->rightBtnClick();
+        }
+        settle();
+    }
 }
 
 TEST_F(UnknownOrderTest, TheFindingIsSaidWhenTheScreenIsGoneAndNotToAnotherUser)
@@ -340,11 +372,20 @@ TEST_F(UnknownOrderTest, TheFindingIsSaidWhenTheScreenIsGoneAndNotToAnotherUser)
     EXPECT_EQ(alert()->leftTitle(), "");
     alert()->rightBtnClick();
 
-    openWithEntry();
-    submitEntry();
-    settings.setValue(SettingsKeys::user, QVariantMap{{"api_token", "other"}, {"cell", "13900139000"}});
-    http.fail(buyPath, HttpFailure::TimedOut);
-    EXPECT_EQ(alert(), nullptr);
+    for (const HttpOutcome &outcome :
+         {HttpOutcome(HttpFailure::TimedOut),
+          HttpOutcome(HttpResponse{200, "application/json", R"({"success": true, "data": {"id": 1}})"})}) {
+        signIn();
+        settings.setValue(SettingsKeys::needTradePwd, false);
+        settings.remove(UnknownOrders::settingsKey);
+        openWithEntry();
+        submitEntry();
+        settings.setValue(SettingsKeys::user, QVariantMap{{"api_token", "other"}, {"cell", "13900139000"}});
+        settings.setValue(SettingsKeys::needTradePwd, true);
+        http.answerRaw(http.pending(buyPath), outcome);
+        EXPECT_EQ(alert(), nullptr);
+        EXPECT_EQ(settings.value(SettingsKeys::needTradePwd), true);
+    }
 }
 
 TEST_F(UnknownOrderTest, IsWrittenDownBeforeItIsSentAndHoldsNoSecret)

@@ -6,7 +6,6 @@
 #include "core/session/SettingsKeys.h"
 #include "core/shell/KRNavigationController.h"
 #include "core/shell/KRWindow.h"
-#include "core/shell/TZInfoAlertView.h"
 #include "core/util/Service.h"
 #include "core/util/Text.h"
 #include "trading/api/TZStockInfoModel.h"
@@ -14,7 +13,6 @@
 #include "trading/screens/OrderBook.h"
 #include "trading/screens/TZSelectStockController.h"
 #include "trading/screens/TradeTexts.h"
-#include "trading/screens/UnknownOrders.h"
 
 #include <algorithm>
 
@@ -24,10 +22,10 @@ namespace {
 const QString dataKey = QStringLiteral("data");
 
 /// The service did not accept the order without the right trade password.
-bool wantsTradePassword(const QVariantMap &answer)
+bool wantsTradePassword(const SentOrder &sent)
 {
-    const qint64 code = integerValue(answer.value(QStringLiteral("code")));
-    return code == 12000 || code == 12002;
+    const qint64 code = integerValue(sent.answer.value(QStringLiteral("code")));
+    return sent.outcome == OrderOutcome::NotPlaced && (code == 12000 || code == 12002);
 }
 } // namespace
 
@@ -63,7 +61,7 @@ void TZBuyAndSellController::viewDidLoad()
         });
     countHolding();
     if (window())
-        UnknownOrderDialogs::lookQuietly(*window(), 0s);
+        OrderDialogs::lookQuietly(*window(), 0s);
     getBuyPage();
 }
 
@@ -74,8 +72,6 @@ void TZBuyAndSellController::viewWillAppear()
     setTitle(texts.title);
     if (!isBuyType() || !Service::whetherAnEmptyString(stock.stockCode))
         startQuoteTimer();
-    if (std::exchange(submissionBroken, false))
-        Service::showErrorWithMsg(QStringLiteral("委托没有提交，请重新提交"));
 }
 
 void TZBuyAndSellController::viewWillDisappear()
@@ -89,9 +85,11 @@ void TZBuyAndSellController::viewDidDisappear()
     KRBaseController::viewDidDisappear();
     shown = false;
     quoteTimer.stop();
-    submissionBroken = orderTimer.isActive();
-    orderTimer.stop();
     age.stop();
+    if (orderTimer.isActive()) {
+        orderTimer.stop();
+        Service::showErrorWithMsg(QStringLiteral("委托没有提交，请重新提交"));
+    }
 }
 
 void TZBuyAndSellController::getBuyPage()
@@ -312,7 +310,7 @@ void TZBuyAndSellController::askAboutUnknownOrders(const OrderIntent &order)
         passOn();
     };
     if (window())
-        UnknownOrderDialogs::ask(*window(), order, ways(), OwnedAction{this, again});
+        OrderDialogs::ask(*window(), order, ways(), OwnedAction{this, again});
 }
 
 bool TZBuyAndSellController::needTradePwd() const
@@ -372,45 +370,33 @@ void TZBuyAndSellController::sendOrder(const QString &password)
         return askAboutUnknownOrders(order);
     endEditing();
     setOrderOnItsWay(true);
-    const auto answered = [this, order, hadPassword = !password.isEmpty()](const Operation &,
-                                                                           const QVariantMap &answer) {
-        showAnswer(order, answer, hadPassword);
+    // The outcome is told by the window: what lies over this screen may lead away from it meanwhile.
+    const auto told = [host = window(), screen = QPointer(this), ways = ways(),
+                       hadPassword = !password.isEmpty()](const Operation &, const SentOrder &sent) {
+        if (screen && wantsTradePassword(sent))
+            screen->askForTradePwd(sent, hadPassword);
+        else
+            OrderDialogs::tellOutcome(*host, sent, ways);
     };
-    const auto lost = [this](const Operation &, const OrderIntent &lostOrder) {
-        if (window())
-            UnknownOrderDialogs::tell(*window(), lostOrder, ways());
-    };
-    const Operation operation =
-        UnknownOrders::send(order, password, Success{this, answered}, UnknownOrders::Lost{this, lost});
+    const Operation operation = UnknownOrders::send(order, password, UnknownOrders::Told{window(), told});
     connect(operation.get(), &RequestOperation::finished, this, [this] { setOrderOnItsWay(false); });
+    // A reading from before does not know of this order; one later may know of those that are late.
+    if (window())
+        OrderDialogs::lookQuietly(*window(), 30s);
 }
 
 void TZBuyAndSellController::setOrderOnItsWay(bool onItsWay)
 {
     orderOnItsWay = onItsWay;
     Q_EMIT barChanged();
-    // A reading from before does not know of this order; one soon after may know of those that are late.
-    if (window())
-        UnknownOrderDialogs::lookQuietly(*window(), 30s);
 }
 
-void TZBuyAndSellController::showAnswer(const OrderIntent &order, const QVariantMap &answer, bool hadPassword)
+void TZBuyAndSellController::askForTradePwd(const SentOrder &sent, bool hadPassword)
 {
-    if (boolValue(answer.value(QStringLiteral("success")))) {
-        SettingsStore &settings = Platform::current().settings;
-        settings.setValue(SettingsKeys::needTradePwd, false);
-        settings.synchronize();
-        const QVariant id = answer.value(dataKey).toMap().value(QStringLiteral("id"));
-        if (!Service::whetherAnEmptyString(id)) {
-            orderPlaced();
-            showResult();
-        }
-    } else if (wantsTradePassword(answer)) {
-        if (hadPassword && Service::whetherAnEmptyString(answer.value(QStringLiteral("message"))))
-            Service::showErrorWithMsg(QStringLiteral("交易密码不正确，请重试"));
-        wantsPassword = order;
-        showTradePwdPrompt();
-    }
+    if (hadPassword && Service::whetherAnEmptyString(sent.answer.value(QStringLiteral("message"))))
+        Service::showErrorWithMsg(QStringLiteral("交易密码不正确，请重试"));
+    wantsPassword = sent.order;
+    showTradePwdPrompt();
 }
 
 void TZBuyAndSellController::backButtonClicked()
@@ -422,18 +408,11 @@ void TZBuyAndSellController::backButtonClicked()
 void TZBuyAndSellController::orderPlaced()
 {
     clearFields();
-    if (!isBuyType() && delegateOwner)
-        delegate->reloadHoldingData();
-}
-
-void TZBuyAndSellController::showResult()
-{
-    if (!window())
+    if (isBuyType() || !delegateOwner)
         return;
-    window()->show(std::make_unique<TZInfoAlertView>(
-        TZInfoAlertViewModel{
-            QStringLiteral("委托挂单成功"), {}, QStringLiteral("实盘炒股"), texts.continueTitle},
-        ways().leave, ways().goOn));
+    delegate->reloadHoldingData();
+    // The list reads below the result: its indicator would lie over that.
+    Service::hideWaitingProgressView();
 }
 
 OrderWays TZBuyAndSellController::ways()

@@ -6,11 +6,11 @@
 #include "core/shell/TZTradePwdAlertView.h"
 #include "trading/api/TZZorvanePageStocksModel.h"
 #include "trading/screens/HoldingsDelegate.h"
+#include "trading/screens/OrderDialogs.h"
 #include "trading/screens/OrderEntryRules.h"
 #include "trading/screens/QuoteAge.h"
 #include "trading/screens/StockChooser.h"
 #include "trading/screens/TZHandicapView.h"
-#include "trading/screens/UnknownOrderDialogs.h"
 
 #include <QPointer>
 
@@ -124,9 +124,8 @@ private:
     void showTradePwdPrompt();
     void sendOrder(const QString &password);
     void setOrderOnItsWay(bool onItsWay);
-    void showAnswer(const OrderIntent &order, const QVariantMap &answer, bool hadPassword);
+    void askForTradePwd(const SentOrder &sent, bool hadPassword);
     void orderPlaced();
-    void showResult();
     OrderWays ways();
     void goOn();
 
@@ -169,6 +168,4 @@ private:
     /// The order that the service refused for want of the trade password: that one is sent with it, whatever
     /// the entry says by then.
     std::optional<OrderIntent> wantsPassword;
-    /// The screen was covered before the half second of a submission was over.
-    bool submissionBroken = false;
 };

@@ -4,6 +4,7 @@
 #include "core/platform/Platform.h"
 #include "core/platform/RunLoop.h"
 #include "core/platform/SettingsStore.h"
+#include "core/session/SettingsKeys.h"
 #include "core/session/TZUserModel.h"
 #include "core/util/Service.h"
 #include "core/util/Text.h"
@@ -103,20 +104,18 @@ void crossOut(const OrderIntent &order, const QString &id)
     store(record);
 }
 
-enum class Outcome { Placed, PlacedUnnamed, Refused, Unknown };
-
 /// Without "success" only a reason makes a refusal: anybody on the way may answer with other JSON. And where
 /// a redirect led, nobody knows of the order.
-Outcome outcomeOf(const Operation &operation, const QVariantMap &answer, const QString &id)
+OrderOutcome outcomeOf(const Operation &operation, const QVariantMap &answer, const QString &id)
 {
     if (ToolPolicy::succeeded(answer))
-        return id.isEmpty() ? Outcome::PlacedUnnamed : Outcome::Placed;
+        return id.isEmpty() ? OrderOutcome::PlacedUnnamed : OrderOutcome::Placed;
     const auto says = [&answer](const QString &key) {
         return !Service::whetherAnEmptyString(answer.value(key));
     };
     const bool refused =
         says(QStringLiteral("success")) || says(QStringLiteral("code")) || says(QStringLiteral("message"));
-    return refused && !operation->redirected ? Outcome::Refused : Outcome::Unknown;
+    return refused && !operation->redirected ? OrderOutcome::NotPlaced : OrderOutcome::Unknown;
 }
 
 QString identifier(const QVariantMap &answer)
@@ -132,40 +131,48 @@ void doubt(QList<FoundOrder> &found, const OrderIntent &order)
         each.certain = each.certain && !each.order.isSameOrder(order);
 }
 
-/// No longer when its user signed out meanwhile.
+/// No longer when its user signed out meanwhile, or a search has found it.
 bool isUnknown(const OrderIntent &order)
 {
     const QList<OrderIntent> unknown = UnknownOrders::all();
     return std::any_of(unknown.begin(), unknown.end(),
                        [&order](const OrderIntent &each) { return each.isSameIntent(order); });
 }
+
+void conclude(const SentOrder &sent)
+{
+    if (sent.outcome == OrderOutcome::Placed || sent.outcome == OrderOutcome::NotPlaced)
+        crossOut(sent.order, identifier(sent.answer));
+    if (sent.outcome == OrderOutcome::Placed || sent.outcome == OrderOutcome::PlacedUnnamed) {
+        SettingsStore &settings = Platform::current().settings;
+        settings.setValue(SettingsKeys::needTradePwd, false);
+        settings.synchronize();
+    }
+}
 } // namespace
 
-Operation UnknownOrders::send(OrderIntent order, const QString &password, Success answered, Lost lost)
+Operation UnknownOrders::send(OrderIntent order, const QString &password, Told told)
 {
     writeDown(order);
-    const Success heard = Success::unowned(
-        [order, answered = std::move(answered), lost](const Operation &operation, const QVariantMap &answer) {
-            const QString id = identifier(answer);
-            const Outcome outcome = outcomeOf(operation, answer, id);
-            if (outcome == Outcome::Placed || outcome == Outcome::Refused)
-                crossOut(order, outcome == Outcome::Placed ? id : QString());
-            answered(operation, answer);
-            if (outcome == Outcome::Unknown && isUnknown(order))
-                lost(operation, order);
-        });
-    const Failure failed =
-        Failure::unowned([order, lost](const Operation &operation, const RequestError &error) {
-            if (!error.mayHaveArrived())
-                crossOut(order, {});
-            else if (isUnknown(order))
-                lost(operation, order);
-        });
+    const auto tell = [order, told = std::move(told)](const Operation &operation, OrderOutcome outcome,
+                                                      const QVariantMap &answer) {
+        if (!isUnknown(order))
+            return;
+        const SentOrder sent{order, outcome, answer};
+        conclude(sent);
+        told(operation, sent);
+    };
+    const Success answered = Success::unowned([tell](const Operation &operation, const QVariantMap &answer) {
+        tell(operation, outcomeOf(operation, answer, identifier(answer)), answer);
+    });
+    const Failure failed = Failure::unowned([tell](const Operation &operation, const RequestError &error) {
+        tell(operation, error.mayHaveArrived() ? OrderOutcome::Unknown : OrderOutcome::NotPlaced, {});
+    });
     QVariantMap param = order.parameters();
     if (!password.isEmpty())
         param.insert(QStringLiteral("tradePassword"), password);
-    return order.side == OrderSide::Buy ? TZTradeTool::postCreatBuyWithParam(param, heard, failed)
-                                        : TZTradeTool::postCreatSellWithParam(param, heard, failed);
+    return order.side == OrderSide::Buy ? TZTradeTool::postCreatBuyWithParam(param, answered, failed)
+                                        : TZTradeTool::postCreatSellWithParam(param, answered, failed);
 }
 
 QList<OrderIntent> UnknownOrders::all()

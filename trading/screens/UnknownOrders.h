@@ -11,6 +11,24 @@ struct FoundOrder {
     bool certain = false;
 };
 
+/// What became of a submission.
+enum class OrderOutcome {
+    Placed,
+    /// Accepted, without the identifier that tells which entrust it is.
+    PlacedUnnamed,
+    /// Refused, or never sent.
+    NotPlaced,
+    /// Nothing says whether it was accepted.
+    Unknown,
+};
+
+struct SentOrder {
+    OrderIntent order;
+    OrderOutcome outcome;
+    /// Empty when none came.
+    QVariantMap answer;
+};
+
 /// The signed-in user's orders whose outcome is not known: no answer came, or none that tells. Kept in the
 /// settings, so that they outlive their screen and the process; each goes once its own outcome is known, and
 /// all with signing out.
@@ -20,13 +38,12 @@ public:
 
     static inline const QString settingsKey = QStringLiteral("UnknownOrders");
 
-    using Lost = OwnedCallback<OrderIntent>;
+    using Told = OwnedCallback<SentOrder>;
     /// Sends the order, with the password when it is not empty. It is written down before it is sent, and
-    /// crossed out when an answer tells its outcome or nothing was sent, whether or not the owners of the
-    /// callbacks are still there to hear of it. `answered` gets every answer; `lost` gets the order, after
-    /// that, when nothing says whether it was accepted. An answer that accepts it without an identifier
-    /// leaves it unknown, but is not `lost`.
-    static Operation send(OrderIntent order, const QString &password, Success answered, Lost lost);
+    /// crossed out once it was placed or certainly was not; an accepted order is the last that needed the
+    /// trade password. That is so whether or not the owner of `told` is still there. `told` hears the outcome
+    /// once, unless its user has signed out or a search has found the order meanwhile.
+    static Operation send(OrderIntent order, const QString &password, Told told);
 
     /// All of them, the oldest first.
     static QList<OrderIntent> all();

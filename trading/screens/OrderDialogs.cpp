@@ -1,4 +1,4 @@
-#include "trading/screens/UnknownOrderDialogs.h"
+#include "trading/screens/OrderDialogs.h"
 
 #include "core/platform/Platform.h"
 #include "core/platform/RunLoop.h"
@@ -17,7 +17,10 @@
 using namespace std::chrono_literals;
 
 namespace {
+const QString placedTitle = QStringLiteral("委托挂单成功");
+const QString notPlacedTitle = QStringLiteral("委托未成功");
 const QString unknownTitle = QStringLiteral("委托结果未知");
+const QString leaveTitle = QStringLiteral("实盘炒股");
 const QString searchTitle = QStringLiteral("查询委托");
 const QString againTitle = QStringLiteral("再次提交");
 const QString understoodTitle = QStringLiteral("知道了");
@@ -84,6 +87,36 @@ QString foundTitle(const QList<FoundOrder> &found)
                              : QStringLiteral("已找到 %1 笔委托").arg(found.size());
 }
 
+/// Whether the screen is still there.
+bool areOpen(const OrderWays &ways)
+{
+    return ways.leave && ways.goOn;
+}
+
+void inform(KRWindow &window, const QString &title, const QString &text)
+{
+    window.show(std::make_unique<TZInfoAlertView>(TZInfoAlertViewModel{title, text, {}, understoodTitle},
+                                                  OwnedAction(), OwnedAction()));
+}
+
+void tellPlaced(KRWindow &window, const OrderIntent &order, const OrderWays &ways)
+{
+    if (!areOpen(ways))
+        return inform(window, placedTitle, order.text());
+    ways.whenPlaced();
+    window.show(std::make_unique<TZInfoAlertView>(
+        TZInfoAlertViewModel{placedTitle, {}, leaveTitle, OrderTexts::of(order.side).continueTitle},
+        ways.leave, ways.goOn));
+}
+
+void tellNotPlaced(KRWindow &window, const SentOrder &sent)
+{
+    const QString message = textForm(sent.answer.value(QStringLiteral("message")));
+    inform(
+        window, notPlacedTitle,
+        below(sent.order, Service::whetherAnEmptyString(message) ? QStringLiteral("请重新提交") : message));
+}
+
 class SearchAlert : public TZInfoAlertView {
 public:
     SearchAlert(TZInfoAlertViewModel firstModel, const OrderIntent &unknownOrder, OrderWays orderWays,
@@ -105,10 +138,9 @@ private:
         const QString text = described(found);
         const bool stands = !std::all_of(found.begin(), found.end(), isRefused);
         if (stands)
-            ways.whenFound();
-        if (stands && ways.leave && ways.goOn)
-            say({title, text, QStringLiteral("实盘炒股"), OrderTexts::of(order.side).continueTitle},
-                ways.leave, ways.goOn);
+            ways.whenPlaced();
+        if (stands && areOpen(ways))
+            say({title, text, leaveTitle, OrderTexts::of(order.side).continueTitle}, ways.leave, ways.goOn);
         else
             say({title, text, {}, understoodTitle}, {}, {});
     }
@@ -138,9 +170,8 @@ private:
 
     OwnedAction search() const
     {
-        return {window(), [host = window(), order = order, ways = ways] {
-                    UnknownOrderDialogs::tell(*host, order, ways);
-                }};
+        return {window(),
+                [host = window(), order = order, ways = ways] { OrderDialogs::tell(*host, order, ways); }};
     }
 
     const OrderIntent order;
@@ -176,9 +207,7 @@ private:
             return startIn(late);
         inquiry.emplace(sought, 1);
         connect(&*inquiry, &OrderInquiry::found, this, [this](const QList<FoundOrder> &found) {
-            window.show(std::make_unique<TZInfoAlertView>(
-                TZInfoAlertViewModel{foundTitle(found), described(found), {}, understoodTitle}, OwnedAction(),
-                OwnedAction()));
+            inform(window, foundTitle(found), described(found));
             deleteLater();
         });
         connect(&*inquiry, &OrderInquiry::notFound, this, &QObject::deleteLater);
@@ -193,14 +222,30 @@ private:
 
 void show(KRWindow &window, std::unique_ptr<SearchAlert> alert)
 {
-    UnknownOrderDialogs::lookQuietly(window, late);
+    OrderDialogs::lookQuietly(window, late);
     SearchAlert *const shown = alert.get();
     window.show(std::move(alert));
     shown->start();
 }
 } // namespace
 
-void UnknownOrderDialogs::tell(KRWindow &window, const OrderIntent &order, const OrderWays &ways)
+void OrderDialogs::tellOutcome(KRWindow &window, const SentOrder &sent, const OrderWays &ways)
+{
+    switch (sent.outcome) {
+    case OrderOutcome::Placed:
+        return tellPlaced(window, sent.order, ways);
+    case OrderOutcome::PlacedUnnamed:
+        return;
+    case OrderOutcome::NotPlaced:
+        if (!areOpen(ways))
+            tellNotPlaced(window, sent);
+        return;
+    case OrderOutcome::Unknown:
+        return tell(window, sent.order, ways);
+    }
+}
+
+void OrderDialogs::tell(KRWindow &window, const OrderIntent &order, const OrderWays &ways)
 {
     const QString news = QStringLiteral("没有收到服务器的答复，这笔委托可能已经提交。正在查询今日委托…");
     show(window, std::make_unique<SearchAlert>(
@@ -208,8 +253,8 @@ void UnknownOrderDialogs::tell(KRWindow &window, const OrderIntent &order, const
                      order, ways, OwnedAction()));
 }
 
-void UnknownOrderDialogs::ask(KRWindow &window, const OrderIntent &order, const OrderWays &ways,
-                              const OwnedAction &again)
+void OrderDialogs::ask(KRWindow &window, const OrderIntent &order, const OrderWays &ways,
+                       const OwnedAction &again)
 {
     lookQuietly(window, late);
     QStringList times;
@@ -230,7 +275,7 @@ void UnknownOrderDialogs::ask(KRWindow &window, const OrderIntent &order, const 
         OwnedAction{&window, sendAgain}, OwnedAction{&window, search}));
 }
 
-void UnknownOrderDialogs::lookQuietly(KRWindow &window, std::chrono::milliseconds after)
+void OrderDialogs::lookQuietly(KRWindow &window, std::chrono::milliseconds after)
 {
     delete window.findChild<QObject *>(QuietLook::name, Qt::FindDirectChildrenOnly);
     if (!UnknownOrders::all().isEmpty())
