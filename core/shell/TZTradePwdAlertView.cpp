@@ -32,6 +32,7 @@ void TZTradePwdAlertView::hideAlertView(Animation animation)
     if (animation == Animation::None || !shown)
         return;
     shown = false;
+    Q_EMIT fadeDurationChanged();
     Q_EMIT shownChanged();
     ending.startOnce(fadeOut, [this] { removeFromWindow(); });
 }

@@ -26,8 +26,8 @@ class TZTradePwdAlertView : public KRDialog {
     /// The six dots, `aBtn` to `fBtn`: whether each is lit.
     Q_PROPERTY(QList<bool> btns READ btns NOTIFY inputChanged)
     Q_PROPERTY(bool shown READ isShown NOTIFY shownChanged)
-    /// Milliseconds of the running fade: 250 in, 200 out.
-    Q_PROPERTY(int fadeDuration READ fadeDuration NOTIFY shownChanged)
+    /// Milliseconds of the running fade: 250 in, 200 out. Changes before `shown`, with which the fade begins.
+    Q_PROPERTY(int fadeDuration READ fadeDuration NOTIFY fadeDurationChanged)
 public:
     enum class Animation { None, Fade };
 
@@ -58,6 +58,7 @@ public:
 
 Q_SIGNALS:
     void inputChanged();
+    void fadeDurationChanged();
     void shownChanged();
 
 private:

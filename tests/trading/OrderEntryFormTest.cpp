@@ -225,6 +225,20 @@ TEST_F(OrderEntryTest, OpeningTheSearchEndsEditingBeforeTheSearchIsThere)
     EXPECT_EQ(stack().depth(), depth + 1) << "a double click opens one search";
 }
 
+TEST_F(OrderEntryTest, LeavingEndsItsOwnEditingAndThatOfNobodyElse)
+{
+    openBuying();
+    int own = 0;
+    int others = 0;
+    QObject::connect(screen, &KRBaseController::editingEnded, screen, [&own] { ++own; });
+    QObject::connect(&window, &KRWindow::editingEnded, &window, [&others] { ++others; });
+    push<KRBaseController>();
+    stack().pop();
+    window.present(std::make_unique<KRBaseController>());
+    EXPECT_EQ(own, 2);
+    EXPECT_EQ(others, 0) << "by then the keyboard belongs to what came over it";
+}
+
 TEST_F(OrderEntryTest, MoneyThatComesAfterThePriceIsCounted)
 {
     screen = push<TZBuyAndSellController>(OrderSide::Buy);

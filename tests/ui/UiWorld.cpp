@@ -49,6 +49,11 @@ void UiWorld::showQuestion()
         OwnedAction{this, [this] { given += QLatin1String("right "); }}));
 }
 
+TZTradePwdAlertView *UiWorld::showPrompt()
+{
+    return TZTradePwdAlertView::showAlertView(theWindow, *this, *this);
+}
+
 void UiWorld::wait(bool waiting)
 {
     if (waiting)

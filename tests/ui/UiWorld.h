@@ -3,6 +3,7 @@
 #include "core/shell/KRNavigationController.h"
 #include "core/shell/KRWindow.h"
 #include "core/shell/TZBaseTableViewController.h"
+#include "core/shell/TZTradePwdAlertView.h"
 #include "tests/support/TestPlatform.h"
 
 /// A list screen that counts what it is asked for.
@@ -24,7 +25,7 @@ private:
 };
 
 /// What the tests of views act on: the real navigation model and list screens, over a platform of fakes.
-class UiWorld : public QObject, public PlatformTest {
+class UiWorld : public QObject, public PlatformTest, public TZTradePwdAlertDelegate {
     Q_OBJECT
     Q_PROPERTY(KRWindow *window READ window CONSTANT)
     Q_PROPERTY(OverlayHost *overlays READ overlayHost CONSTANT)
@@ -40,8 +41,12 @@ public:
     /// A stack of one page over the window; its bar closes it.
     Q_INVOKABLE void present(const QString &title);
     Q_INVOKABLE void showQuestion();
+    Q_INVOKABLE TZTradePwdAlertView *showPrompt();
+    void checkTradePwd(const QString &password) override { given = password; }
+    /// The buttons that were pressed, or the password that was handed over.
     Q_INVOKABLE QString answers() const { return given; }
     Q_INVOKABLE void wait(bool waiting);
+    Q_INVOKABLE void passSecond() { runLoop.advance(std::chrono::seconds(1)); }
     /// Lets the indicator show for so long that there must be a way out.
     Q_INVOKABLE void waitLong();
     /// The places of DisplaySettings' choices.

@@ -103,6 +103,20 @@ Item {
             tryCompare(lifted, "lift", 0)
         }
 
+        function test_thePromptGoesInATimeOfItsOwn() {
+            const prompt = world.showPrompt()
+            tryVerify(() => find(content, item => item instanceof TZTradePwdAlertView) !== null)
+            const box = find(content, item => item instanceof TZTradePwdAlertView)
+            tryCompare(box, "opacity", 1)
+            let duration = 0
+            box.shownChanged.connect(() => duration = box.fadeDuration)
+            prompt.inputTextField = "123456"
+            compare(duration, 200, "the fade that begins now takes it")
+            tryCompare(box, "opacity", 0)
+            world.passSecond()
+            compare(world.answers(), "123456")
+        }
+
         function test_nothingIsReachedWhileWaiting() {
             behind.forceActiveFocus()
             world.wait(true)

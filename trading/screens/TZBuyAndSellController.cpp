@@ -77,7 +77,7 @@ void TZBuyAndSellController::viewWillAppear()
 void TZBuyAndSellController::viewWillDisappear()
 {
     KRBaseController::viewWillDisappear();
-    endEditing();
+    Q_EMIT editingEnded();
 }
 
 void TZBuyAndSellController::viewDidDisappear()
