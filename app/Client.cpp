@@ -47,6 +47,9 @@ QString Client::problem() const
     switch (settings.problem()) {
     case SettingsProblem::None:
         return {};
+    case SettingsProblem::InUse:
+        return QStringLiteral("zorvane: another client is using '%1'; close it and start again\n")
+            .arg(options.dataDirectory);
     case SettingsProblem::Garbled:
         return QStringLiteral("zorvane: '%1' is not a settings file; move it away and start again\n")
             .arg(path);

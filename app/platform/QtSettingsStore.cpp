@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <cerrno>
+#include <sys/file.h>
 
 using namespace std::chrono_literals;
 
@@ -14,12 +16,16 @@ const QByteArray signature = "zorvane-settings-1\n";
 
 constexpr QFile::Permissions ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
 
+void makeDirectoryOf(const QFileInfo &file)
+{
+    if (!file.dir().exists() && QDir().mkpath(file.path()))
+        QFile::setPermissions(file.path(), ownerOnly | QFile::ExeOwner);
+}
+
 /// The file is there before it is first replaced, so that what replaces it takes over its permissions.
-QString prepared(const QString &path)
+void prepare(const QString &path)
 {
     const QFileInfo info(path);
-    if (!info.dir().exists() && QDir().mkpath(info.path()))
-        QFile::setPermissions(info.path(), ownerOnly | QFile::ExeOwner);
     QFile file(path);
     if (!file.exists())
         file.open(QIODevice::WriteOnly | QIODevice::NewOnly, ownerOnly);
@@ -30,7 +36,6 @@ QString prepared(const QString &path)
         directory.entryList({info.fileName() + QStringLiteral(".??????")}, QDir::Files);
     for (const QString &name : remains)
         directory.remove(name);
-    return path;
 }
 
 bool isUsable(const QFileInfo &file)
@@ -40,7 +45,8 @@ bool isUsable(const QFileInfo &file)
 
 } // namespace
 
-QtSettingsStore::QtSettingsStore(const QString &file) : path(prepared(file)), state(load())
+QtSettingsStore::QtSettingsStore(const QString &file)
+    : path(file), lock(file + QStringLiteral(".lock")), state(load())
 {
     saveSoon.setSingleShot(true);
     saveSoon.setInterval(1s);
@@ -54,6 +60,10 @@ QtSettingsStore::~QtSettingsStore()
 
 SettingsProblem QtSettingsStore::load()
 {
+    makeDirectoryOf(QFileInfo(path));
+    if (!takeLock())
+        return SettingsProblem::InUse;
+    prepare(path);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return SettingsProblem::Unreadable;
@@ -67,6 +77,14 @@ SettingsProblem QtSettingsStore::load()
             return SettingsProblem::Garbled;
     }
     return isUsable(QFileInfo(file)) ? SettingsProblem::None : SettingsProblem::Unwritable;
+}
+
+/// A lock of the system goes with the process, however that ends. Where none can be made, nothing is known of
+/// other stores.
+bool QtSettingsStore::takeLock()
+{
+    return !lock.open(QIODevice::WriteOnly, ownerOnly) || ::flock(lock.handle(), LOCK_EX | LOCK_NB) == 0 ||
+           errno != EWOULDBLOCK;
 }
 
 void QtSettingsStore::setValue(const QString &key, const QVariant &value)
@@ -92,7 +110,8 @@ void QtSettingsStore::changed()
 
 void QtSettingsStore::synchronize()
 {
-    if (!unsaved || state == SettingsProblem::Garbled || state == SettingsProblem::Unreadable)
+    const bool isOwn = state == SettingsProblem::None || state == SettingsProblem::Unwritable;
+    if (!unsaved || !isOwn)
         return;
     QSaveFile file(path);
     bool written = file.open(QIODevice::WriteOnly) && file.write(signature) == signature.size();
@@ -104,5 +123,8 @@ void QtSettingsStore::synchronize()
     }
     state = written ? SettingsProblem::None : SettingsProblem::Unwritable;
     unsaved = !written;
-    saveSoon.stop();
+    if (written)
+        saveSoon.stop();
+    else
+        saveSoon.start();
 }

@@ -5,8 +5,8 @@
 #include <QVariant>
 
 /// The key-value store of the application: text, booleans, lists and dictionaries by key. Absent keys read as
-/// an invalid variant. What `synchronize` has returned from survives a kill; the stored file is whole at
-/// every moment.
+/// an invalid variant. What `synchronize` has returned from survives a kill, unless it cannot be written:
+/// then it is kept in memory and written as soon as it can be. The stored file is whole at every moment.
 class SettingsStore {
 public:
     virtual ~SettingsStore() = default;

@@ -8,7 +8,10 @@
 #include <QTemporaryDir>
 #include <QThread>
 #include <csignal>
+#include <functional>
 #include <gtest/gtest.h>
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -20,6 +23,13 @@ QVariantMap answerOf(qint64 round)
     for (int i = 0; i < 200; ++i)
         rows.append(QVariantMap{{QStringLiteral("row"), i}, {QStringLiteral("round"), round}});
     return {{QStringLiteral("data"), rows}, {QStringLiteral("round"), round}};
+}
+
+void waitFor(
+    std::chrono::milliseconds time, const std::function<bool()> &met = [] { return false; })
+{
+    for (const QDeadlineTimer limit(time); !met() && !limit.hasExpired();)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
 }
 
 /// What the killed process runs: two keys that belong together, told after each flush.
@@ -68,7 +78,7 @@ TEST(SettingsStore, IsWholeAfterAKillAtAnyMoment)
         ASSERT_EQ(QFileInfo(path).permissions() & (QFile::ReadGroup | QFile::ReadOther),
                   QFile::Permissions());
         EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files),
-                  QStringList({QStringLiteral("zorvane.settings")}));
+                  QStringList({QStringLiteral("zorvane.settings"), QStringLiteral("zorvane.settings.lock")}));
         told = round;
     }
 }
@@ -77,17 +87,56 @@ TEST(SettingsStore, SavesByItselfWithinAboutASecondAndNotWithoutAChange)
 {
     const QTemporaryDir directory;
     const QString path = directory.filePath(QStringLiteral("zorvane.settings"));
-    QtSettingsStore store(path);
-    store.setValue(QStringLiteral("networkStatus"), true);
-    for (const QDeadlineTimer limit(3000); QFileInfo(path).size() == 0 && !limit.hasExpired();)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+    const QString aside = path + QStringLiteral("-aside");
+    {
+        QtSettingsStore store(path);
+        store.setValue(QStringLiteral("networkStatus"), true);
+        waitFor(5s, [&path] { return QFileInfo(path).size() > 0; });
+        ASSERT_TRUE(QFile::rename(path, aside));
+        store.setValue(QStringLiteral("networkStatus"), true);
+        store.remove(QStringLiteral("absent"));
+        store.synchronize();
+        EXPECT_FALSE(QFile::exists(path));
+    }
+    ASSERT_TRUE(QFile::rename(aside, path));
     EXPECT_EQ(QtSettingsStore(path).allKeys(), QStringList({QStringLiteral("networkStatus")}));
+}
 
-    ASSERT_TRUE(QFile::remove(path));
-    store.setValue(QStringLiteral("networkStatus"), true);
-    store.remove(QStringLiteral("absent"));
+TEST(SettingsStore, WritesWhatCouldNotBeWrittenAsSoonAsItCanBe)
+{
+    const QTemporaryDir directory;
+    const QString folder = directory.filePath(QStringLiteral("data"));
+    const QString away = directory.filePath(QStringLiteral("away"));
+    const QString path = folder + QStringLiteral("/zorvane.settings");
+    QtSettingsStore store(path);
+    ASSERT_TRUE(QDir().rename(folder, away));
+    store.setValue(QStringLiteral("user"), QStringLiteral("somebody"));
     store.synchronize();
-    EXPECT_FALSE(QFile::exists(path));
+    ASSERT_FALSE(QFile::exists(path));
+    waitFor(1500ms);
+    ASSERT_TRUE(QDir().rename(away, folder));
+    waitFor(5s, [&path] { return QFileInfo(path).size() > 0; });
+    EXPECT_GT(QFileInfo(path).size(), 0);
+    EXPECT_EQ(store.problem(), SettingsProblem::None);
+}
+
+TEST(SettingsStore, AFileHasOneStoreAtATime)
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("zorvane.settings"));
+    const QString user = QStringLiteral("user");
+    {
+        QtSettingsStore first(path);
+        first.setValue(user, QStringLiteral("somebody"));
+        first.synchronize();
+        QtSettingsStore second(path);
+        EXPECT_EQ(second.problem(), SettingsProblem::InUse);
+        second.setValue(user, QStringLiteral("somebody else"));
+        second.synchronize();
+    }
+    const QtSettingsStore next(path);
+    EXPECT_EQ(next.problem(), SettingsProblem::None);
+    EXPECT_EQ(next.value(user), QStringLiteral("somebody"));
 }
 
 TEST(SettingsStore, BringsValuesBackAsTheyWereSet)

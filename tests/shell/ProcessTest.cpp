@@ -162,6 +162,35 @@ TEST_F(ProcessTest, AKillAtAnyMomentOfTheStartLeavesTheSettingsWhole)
         << "no start came as far as its last step: the kills came too early to show anything";
 }
 
+TEST_F(ProcessTest, ASecondClientOnTheSameDataDirectorySaysSoUntilTheFirstIsKilled)
+{
+    const QStringList arguments{QStringLiteral("--data-dir"), folder.path(), QStringLiteral("--api-base-url"),
+                                nobody};
+    const auto startFirst = [&] {
+        const QString settings = folder.filePath(QStringLiteral("settings"));
+        QFile::remove(settings);
+        process.start(client, arguments);
+        for (int tries = 0; tries < 300 && !QFile::exists(settings); ++tries)
+            process.waitForFinished(20);
+        EXPECT_EQ(process.state(), QProcess::Running) << process.readAllStandardError().toStdString();
+    };
+    startFirst();
+    QProcess second;
+    second.setProcessEnvironment(process.processEnvironment());
+    second.start(client, arguments);
+    ASSERT_TRUE(second.waitForFinished(30'000));
+    EXPECT_EQ(second.exitCode(), 2);
+    EXPECT_EQ(QString::fromUtf8(second.readAllStandardError()),
+              QStringLiteral("zorvane: another client is using '%1'; close it and start again\n")
+                  .arg(folder.path()));
+
+    process.kill();
+    ASSERT_TRUE(process.waitForFinished());
+    startFirst();
+    process.kill();
+    process.waitForFinished();
+}
+
 TEST_F(ProcessTest, TheDataDirectoryIsMadeForItsOwnerOnly)
 {
     const QString data = folder.filePath(QStringLiteral("new/data"));

@@ -30,8 +30,8 @@ struct SentOrder {
 };
 
 /// The signed-in user's orders whose outcome is not known: no answer came, or none that tells. Kept in the
-/// settings, so that they outlive their screen and the process; each goes once its own outcome is known, and
-/// all with signing out.
+/// settings, so that they outlive their screen and, where the settings can be written, the process; each goes
+/// once its own outcome is known, and all with signing out.
 class UnknownOrders {
 public:
     UnknownOrders() = delete;
