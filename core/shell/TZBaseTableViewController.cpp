@@ -2,6 +2,8 @@
 
 #include "core/util/Service.h"
 
+using namespace std::chrono_literals;
+
 TZBaseTableViewController::~TZBaseTableViewController()
 {
     hidenWaitngView();
@@ -40,6 +42,18 @@ void TZBaseTableViewController::beginLoadingMore()
         return;
     setLoadingMore(true);
     loadMoreData();
+}
+
+void TZBaseTableViewController::refreshUntilAnswered(const Operation &operation)
+{
+    latestRead = operation ? operation->number : 0;
+    if (!operation)
+        return endRefreshing();
+    connect(operation.get(), &RequestOperation::finished, this, [this, read = latestRead] {
+        if (read == latestRead)
+            endRefreshing();
+    });
+    endRefreshingAfter(15s);
 }
 
 void TZBaseTableViewController::endRefreshing()

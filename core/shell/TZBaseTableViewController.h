@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/net/Callbacks.h"
 #include "core/platform/Timer.h"
 #include "core/shell/KRBaseController.h"
 
@@ -34,6 +35,9 @@ Q_SIGNALS:
 protected:
     virtual void refreshData() {}
     virtual void loadMoreData() {}
+    /// Ends the refresh when the latest read is over, whatever came of it, and after 15 seconds at the
+    /// latest. A null operation (nothing was sent) ends it at once.
+    void refreshUntilAnswered(const Operation &operation);
     /// Ends both spinners.
     void endRefreshing();
     /// Ends what is still running then, so that a lost answer never leaves a spinner on.
@@ -45,6 +49,7 @@ private:
     void setLoadingMore(bool loading);
 
     Timer guard;
+    quint64 latestRead = 0;
     bool headerRefreshing = false;
     bool footerRefreshing = false;
     bool empty = false;

@@ -89,38 +89,6 @@ TEST_F(TradingPageTest, ItReadsItsPageWhenItAppearsAndPullsAQuarterOfASecondLate
     EXPECT_EQ(page->holdings()->at(0).trend, -1);
 }
 
-TEST_F(TradingPageTest, ARefreshAlwaysEnds)
-{
-    auto *const page = open();
-    EXPECT_TRUE(page->noData());
-    const QList<std::function<void()>> ends{
-        [this] { http.answer(QStringLiteral("zorvanePage"), refused("系统维护")); },
-        [this] { http.fail(QStringLiteral("zorvanePage"), HttpFailure::Connection); },
-        [this] { runLoop.advance(15s); },
-        [this] { http.answer(QStringLiteral("zorvanePage"), succeeded("text")); },
-    };
-    for (const auto &end : ends) {
-        page->beginRefreshing();
-        EXPECT_TRUE(page->refreshing());
-        end();
-        EXPECT_FALSE(page->refreshing());
-    }
-}
-
-TEST_F(TradingPageTest, WithoutANetworkTheLastPageIsShown)
-{
-    open("1000.00");
-    stack().pop();
-    settle();
-    settings.setValue(SettingsKeys::networkStatus, false);
-    const int sent = http.count();
-    auto *const page = push<TZRealTradingController>(router);
-    runLoop.advance(1s);
-    EXPECT_EQ(http.count(), sent);
-    EXPECT_EQ(page->availableMoney(), "1,000.00");
-    EXPECT_FALSE(page->refreshing());
-}
-
 TEST_F(TradingPageTest, LessThanOneYuanIsNoMoneyToBuyWith)
 {
     struct Case {
@@ -237,6 +205,7 @@ TEST_F(TradingFixture, HoldingsToSellAreReadOnLoadingAndEachTimeTheyAppear)
     EXPECT_EQ(http.pending("holding").fields(), (QVariantMap{{"", ""}}));
     http.answer(http.sent.front(), succeeded(QVariantList{holding("600001", "5"), 7, "x"}));
     EXPECT_EQ(list->holdingMArray().size(), 3);
+    list->beginRefreshing();
     http.answer(QStringLiteral("holding"), succeeded(QVariantList{holding("600001", "5")}));
     EXPECT_EQ(list->holdings()->count(), 1);
     EXPECT_FALSE(list->noData());
@@ -255,6 +224,99 @@ TEST_F(TradingFixture, HoldingsToSellAreReadOnLoadingAndEachTimeTheyAppear)
     http.answer(QStringLiteral("holding"), succeeded(QVariantList()));
     EXPECT_TRUE(list->noData());
 }
+
+/// What the five lists that are read from the service have in common.
+class ReadListTest : public TradingFixture, public testing::WithParamInterface<const char *> {
+protected:
+    ReadListTest()
+    {
+        if (path == "zorvanePage") {
+            auto *const page = push<TZRealTradingController>(router);
+            list = page;
+            rows = page->holdings();
+        } else if (path == "holding") {
+            auto *const choose = push<TZChooseSellStockController>();
+            list = choose;
+            rows = choose->holdings();
+        } else if (path == "callBackPage") {
+            auto *const withdrawals = push<TZWithdrawalsController>();
+            list = withdrawals;
+            rows = withdrawals->rows();
+        } else {
+            auto *const today = push<TZDealAndEntrustController>();
+            TodayList *const shown =
+                path == "entrustsToday" ? today->entrustTableView() : today->dealTableView();
+            today->showPage(shown == today->dealTableView());
+            list = shown;
+            rows = shown->rows();
+        }
+    }
+    QVariantMap answerOf(int count) const
+    {
+        const QVariantList all(count, holding("600001", "5"));
+        return path == "zorvanePage" ? tradingPage("1000", "1", all) : succeeded(all);
+    }
+    /// Pulls, also while an earlier read is on its way.
+    FakeTransport::Sent &pull()
+    {
+        window.present(std::make_unique<KRBaseController>())->dismiss();
+        list->beginRefreshing();
+        EXPECT_TRUE(list->refreshing());
+        return http.pending(path);
+    }
+
+    const QString path = QString::fromUtf8(GetParam());
+    TZBaseTableViewController *list = nullptr;
+    GadgetListModel *rows = nullptr;
+};
+
+TEST_P(ReadListTest, ALateAnswerReplacesNothingNewerAndEndsNoNewerPull)
+{
+    FakeTransport::Sent &first = http.pending(path);
+    FakeTransport::Sent &second = pull();
+    http.answer(first, answerOf(1));
+    EXPECT_EQ(rows->rowCount(), 1);
+    EXPECT_TRUE(list->refreshing());
+    FakeTransport::Sent &third = pull();
+    http.answer(third, answerOf(3));
+    EXPECT_FALSE(list->refreshing());
+    http.answer(second, answerOf(2));
+    EXPECT_EQ(rows->rowCount(), 3);
+}
+
+TEST_P(ReadListTest, ARefreshAlwaysEnds)
+{
+    const QList<std::function<void()>> ends{
+        [this] { http.answer(path, refused("系统维护")); },
+        [this] { http.fail(path, HttpFailure::Connection); },
+        [this] { runLoop.advance(15s); },
+        [this] { http.answer(path, succeeded("text")); },
+    };
+    for (const auto &end : ends) {
+        pull();
+        end();
+        EXPECT_FALSE(list->refreshing());
+    }
+}
+
+TEST_P(ReadListTest, WithoutANetworkTheStoredCopyIsShownOnce)
+{
+    http.answer(path, answerOf(2));
+    settings.setValue(SettingsKeys::networkStatus, false);
+    const int sent = http.count();
+    list->beginRefreshing();
+    EXPECT_FALSE(list->refreshing());
+    EXPECT_EQ(rows->rowCount(), 2);
+    if (qobject_cast<TodayList *>(list))
+        list->beginLoadingMore();
+    EXPECT_FALSE(list->loadingMore());
+    EXPECT_EQ(rows->rowCount(), 2);
+    EXPECT_EQ(http.count(), sent);
+}
+
+INSTANTIATE_TEST_SUITE_P(Lists, ReadListTest,
+                         testing::Values("zorvanePage", "holding", "callBackPage", "entrustsToday",
+                                         "detailsToday"));
 
 class WithdrawalsTest : public TradingFixture {
 protected:
@@ -425,19 +487,18 @@ TEST_F(TodayTest, FurtherPagesAreAppendedAndARefreshBeginsAnew)
     FakeTransport::Sent &stale = http.last();
     list->beginRefreshing();
     http.answer(entrustsPath, succeeded(models(1)));
-    http.answer(stale, succeeded(models(5)));
-    EXPECT_EQ(screen->entrustArr().size(), 1);
     EXPECT_EQ(screen->currentEntructPage(), 0);
-}
+    list->beginLoadingMore();
+    FakeTransport::Sent &next = http.last();
+    http.answer(stale, succeeded(models(5)));
+    EXPECT_EQ(screen->entrustArr().size(), 1) << "a page of the list before the refresh";
 
-TEST_F(TodayTest, TheGuardEndsTheSpinnersOfBothLists)
-{
-    screen->showPage(1);
-    EXPECT_TRUE(screen->entrustTableView()->refreshing());
-    EXPECT_TRUE(screen->dealTableView()->refreshing());
-    runLoop.advance(15s);
-    EXPECT_FALSE(screen->entrustTableView()->refreshing());
-    EXPECT_FALSE(screen->dealTableView()->refreshing());
+    window.present(std::make_unique<KRBaseController>())->dismiss();
+    list->beginLoadingMore();
+    EXPECT_EQ(http.last().fields(), (QVariantMap{{"page", "1"}})) << "none is left out";
+    http.answer(next, succeeded(models(4)));
+    http.answer(http.last(), succeeded(models(4)));
+    EXPECT_EQ(screen->entrustArr().size(), 5) << "nor shown twice";
 }
 
 TEST_F(TodayTest, ATappedRowPresentsItsDetailWhichItsItemCloses)

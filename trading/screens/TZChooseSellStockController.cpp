@@ -7,7 +7,7 @@
 
 void TZChooseSellStockController::viewDidLoad()
 {
-    TradingListController::viewDidLoad();
+    TZBaseTableViewController::viewDidLoad();
     setTitle(QStringLiteral("选择卖出股票"));
     setShowBackButton(true);
     getHoldingWithRequest();
@@ -15,7 +15,7 @@ void TZChooseSellStockController::viewDidLoad()
 
 void TZChooseSellStockController::viewWillAppear()
 {
-    TradingListController::viewWillAppear();
+    TZBaseTableViewController::viewWillAppear();
     getHoldingWithRequest();
 }
 
@@ -37,7 +37,6 @@ void TZChooseSellStockController::showHoldings(const QVariant &data)
         rows.append(HoldingRow::of(holding));
     holdingRows.setRows(rows);
     setNoData(stocks.isEmpty());
-    endRefreshing();
 }
 
 void TZChooseSellStockController::selectHolding(int row)

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "core/shell/TZBaseTableViewController.h"
 #include "core/util/RowListModel.h"
 #include "trading/api/TZZorvanePageStocksModel.h"
 #include "trading/screens/HoldingRow.h"
 #include "trading/screens/HoldingsDelegate.h"
-#include "trading/screens/TradingListController.h"
 
 /// The holdings, to pick the one to sell.
-class TZChooseSellStockController : public TradingListController, public HoldingsDelegate {
+class TZChooseSellStockController : public TZBaseTableViewController, public HoldingsDelegate {
     Q_OBJECT
     /// Rows of HoldingRow.
     Q_PROPERTY(GadgetListModel *holdings READ holdings CONSTANT)

@@ -8,8 +8,6 @@
 #include "trading/screens/TZDealDetailController.h"
 #include "trading/screens/TradeTexts.h"
 
-using namespace std::chrono_literals;
-
 TodayRow TodayRow::of(const TZEntrustsTodayModel &entrust)
 {
     const EntrustStatus status = EntrustStatus::of(entrust.status);
@@ -44,9 +42,8 @@ QString TodayRow::sentence() const
 
 // Kept on purpose: the first page of the entrusts, unlike that of the deals, is asked for without its number.
 TZDealAndEntrustController::TZDealAndEntrustController()
-    : entrusts(TZTradeTool::getEntrustsTodayWithParam, TodayList::FirstPage::Unnumbered,
-               [this] { startGuard(); }),
-      deals(TZTradeTool::getDetailsTodayWithParam, TodayList::FirstPage::Numbered, [this] { startGuard(); })
+    : entrusts(TZTradeTool::getEntrustsTodayWithParam, TodayList::FirstPage::Unnumbered),
+      deals(TZTradeTool::getDetailsTodayWithParam, TodayList::FirstPage::Numbered)
 {
 }
 
@@ -63,7 +60,8 @@ void TZDealAndEntrustController::viewDidLoad()
 void TZDealAndEntrustController::viewDidDisappear()
 {
     KRBaseController::viewDidDisappear();
-    endRefreshing();
+    entrusts.endRefreshing();
+    deals.endRefreshing();
 }
 
 void TZDealAndEntrustController::titleBtnClick(int tag)
@@ -82,18 +80,6 @@ void TZDealAndEntrustController::showPage(int index)
         return;
     shouldReloadDealData = true;
     deals.beginRefreshing();
-}
-
-void TZDealAndEntrustController::startGuard()
-{
-    guard.startOnce(15s, [this] { endRefreshing(); });
-}
-
-void TZDealAndEntrustController::endRefreshing()
-{
-    guard.stop();
-    entrusts.endRefreshing();
-    deals.endRefreshing();
 }
 
 void TZDealAndEntrustController::selectEntrust(int row)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/platform/Timer.h"
 #include "core/shell/KRBaseController.h"
 #include "trading/api/TZDetailsTodayModel.h"
 #include "trading/api/TZEntrustsTodayModel.h"
@@ -77,12 +76,8 @@ Q_SIGNALS:
     void currentPageChanged();
 
 private:
-    void startGuard();
-    void endRefreshing();
-
     TodayListOf<TZEntrustsTodayModel, TodayRow> entrusts;
     TodayListOf<TZDetailsTodayModel, TodayRow> deals;
-    Timer guard;
     int pageIndex = 0;
     /// The deals have been asked for.
     bool shouldReloadDealData = false;

@@ -64,7 +64,7 @@ QString TZRealTradingController::profitText() const
 
 void TZRealTradingController::viewDidLoad()
 {
-    TradingListController::viewDidLoad();
+    TZBaseTableViewController::viewDidLoad();
     setTitle(QStringLiteral("Zorvane-实盘炒股"));
     createNavLeftItemWithTitle({}, QStringLiteral("common_back_gray"), {}, QStringLiteral("real_trade_Info"));
     getWarningInfoWithRequest();
@@ -73,14 +73,14 @@ void TZRealTradingController::viewDidLoad()
 
 void TZRealTradingController::viewWillAppear()
 {
-    TradingListController::viewWillAppear();
+    TZBaseTableViewController::viewWillAppear();
     changeBlueBgColor();
     refreshData();
 }
 
 void TZRealTradingController::viewWillDisappear()
 {
-    TradingListController::viewWillDisappear();
+    TZBaseTableViewController::viewWillDisappear();
     timer.stop();
 }
 
@@ -96,7 +96,6 @@ void TZRealTradingController::showPage(const QVariantMap &data)
 {
     holds = fromArray<TZZorvanePageStocksModel>(data.value(QStringLiteral("stocks")));
     setNoData(holds.isEmpty());
-    endRefreshing();
     pageModel = fromDictionary<TZZorvanePageModel>(data);
     QList<HoldingRow> rows;
     for (const TZZorvanePageStocksModel &holding : std::as_const(holds))

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "core/shell/Router.h"
+#include "core/shell/TZBaseTableViewController.h"
 #include "core/util/RowListModel.h"
 #include "trading/api/TZWarnInfoModel.h"
 #include "trading/api/TZZorvanePageModel.h"
 #include "trading/api/TZZorvanePageStocksModel.h"
 #include "trading/screens/HoldingRow.h"
-#include "trading/screens/TradingListController.h"
 
 /// One of the four buttons above the holdings.
 struct TradingAction {
@@ -21,7 +21,7 @@ public:
 };
 
 /// The trading page of the financed sub-account: its money, its holdings, and what can be done with them.
-class TZRealTradingController : public TradingListController {
+class TZRealTradingController : public TZBaseTableViewController {
     Q_OBJECT
     /// Amounts in yuan, dashes until they are known.
     Q_PROPERTY(QString stockValue READ stockValue NOTIFY pageChanged)

@@ -32,7 +32,7 @@ QString WithdrawalRow::sentence() const
 
 void TZWithdrawalsController::viewDidLoad()
 {
-    TradingListController::viewDidLoad();
+    TZBaseTableViewController::viewDidLoad();
     setTitle(QStringLiteral("撤单"));
     setShowBackButton(true);
     beginRefreshing();
@@ -40,7 +40,7 @@ void TZWithdrawalsController::viewDidLoad()
 
 void TZWithdrawalsController::viewWillAppear()
 {
-    TradingListController::viewWillAppear();
+    TZBaseTableViewController::viewWillAppear();
     shown = true;
     // Nobody asked meanwhile whether the cancellation is through.
     if (std::exchange(watchInterrupted, false))
@@ -49,7 +49,7 @@ void TZWithdrawalsController::viewWillAppear()
 
 void TZWithdrawalsController::viewDidDisappear()
 {
-    TradingListController::viewDidDisappear();
+    TZBaseTableViewController::viewDidDisappear();
     shown = false;
     watchInterrupted = timer.isActive();
     pending.stop();
@@ -68,7 +68,6 @@ void TZWithdrawalsController::showEntrusts(const QVariant &data)
 {
     entrusts = fromArray<TZCallBackPageModel>(data);
     setNoData(entrusts.isEmpty());
-    endRefreshing();
     QList<WithdrawalRow> rows;
     for (const TZCallBackPageModel &entrust : std::as_const(entrusts))
         rows.append(WithdrawalRow::of(entrust));

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "core/shell/TZBaseTableViewController.h"
 #include "core/util/RowListModel.h"
 #include "trading/api/TZCallBackPageModel.h"
-#include "trading/screens/TradingListController.h"
 
 /// An entrust that can still be cancelled, as the list shows it.
 struct WithdrawalRow {
@@ -31,7 +31,7 @@ public:
 
 /// Cancels orders. After a cancellation was accepted it is asked every three seconds, without limit, whether
 /// it is through; the waiting indicator stays until then.
-class TZWithdrawalsController : public TradingListController {
+class TZWithdrawalsController : public TZBaseTableViewController {
     Q_OBJECT
     /// Rows of WithdrawalRow.
     Q_PROPERTY(GadgetListModel *rows READ rows CONSTANT)

@@ -5,8 +5,6 @@
 #include "core/util/RowListModel.h"
 #include "core/util/Text.h"
 
-#include <functional>
-
 /// One of the two lists of today, read page by page. Pages count from 0; a further page is appended, a
 /// refresh replaces all.
 class TodayList : public TZBaseTableViewController {
@@ -17,10 +15,10 @@ public:
     /// How the first page is asked for: with "page" 0, or without parameters.
     enum class FirstPage { Numbered, Unnumbered };
 
-    /// `startGuard` is called with every request: it ends the spinners of both lists when no answer comes.
-    TodayList(Read readPage, FirstPage firstPage, std::function<void()> startGuard);
+    TodayList(Read readPage, FirstPage first) : read(readPage), firstPage(first) {}
 
     virtual GadgetListModel *rows() = 0;
+    /// The page that was asked for last; 0 again once a refresh has been answered.
     int currentPage() const { return counter; }
     using TZBaseTableViewController::endRefreshing;
 
@@ -33,14 +31,13 @@ protected:
 
 private:
     void ask(int wanted);
-    void show(int wanted, const QVariant &data);
-    void ended(int wanted);
+    void show(const Operation &operation, int wanted, const QVariant &data);
 
     const Read read;
     const FirstPage firstPage;
-    const std::function<void()> guard;
     int counter = 0;
-    int answeredPage = 0;
+    int shownPage = 0;
+    quint64 shownRefresh = 0;
 };
 
 /// A `TodayList` of `Model`s shown as `Row`s; `Row::of(model)` makes a row.
