@@ -60,8 +60,16 @@ std::unique_ptr<KRBaseController> rechargeStep(qint64 nextStep)
 }
 } // namespace
 
-void AppRouter::openSignIn(KRBaseController &, ToSomeController toSomeController)
+void AppRouter::push(const KRBaseController &from, std::unique_ptr<KRBaseController> screen)
 {
+    if (from.isOnTop())
+        from.navigationController()->push(std::move(screen));
+}
+
+void AppRouter::openSignIn(KRBaseController &from, ToSomeController toSomeController)
+{
+    if (!from.isInFront())
+        return;
     auto entry = std::make_unique<TZCheckCellController>(*this);
     entry->setToSomeController(std::move(toSomeController));
     window.present(std::move(entry));
@@ -100,61 +108,61 @@ void AppRouter::setupSideMenuController()
 
 void AppRouter::openRealTrading(KRBaseController &from)
 {
-    from.navigationController()->push(std::make_unique<TZRealTradingController>(*this));
+    push(from, std::make_unique<TZRealTradingController>(*this));
 }
 
 void AppRouter::openStockCapital(KRBaseController &from, const TZUserIndexModel &)
 {
-    from.navigationController()->push(
-        plainPage(QStringLiteral("我要配资"), QStringLiteral("在这里选择适合您的配资方案。")));
+    push(from, plainPage(QStringLiteral("我要配资"), QStringLiteral("在这里选择适合您的配资方案。")));
 }
 
 void AppRouter::openMessages(KRBaseController &from)
 {
-    from.navigationController()->push(
-        plainPage(QStringLiteral("消息"), QStringLiteral("在这里查看系统通知和活动消息。")));
+    push(from, plainPage(QStringLiteral("消息"), QStringLiteral("在这里查看系统通知和活动消息。")));
 }
 
 void AppRouter::openWeb(KRBaseController &from, const TZWebModel &model)
 {
-    from.navigationController()->push(plainPage(model.title, model.url));
+    push(from, plainPage(model.title, model.url));
 }
 
 void AppRouter::openRechargeGate(KRBaseController &from)
 {
-    const auto open = [this](const Operation &, const QVariantMap &answer) {
+    const auto open = [this, &from](const Operation &, const QVariantMap &answer) {
+        if (!from.isInFront())
+            return;
         const QVariantMap data = answer.value(QStringLiteral("data")).toMap();
         window.present(rechargeStep(integerValue(data.value(QStringLiteral("next_step")))));
     };
     TZTradeTool::getTradeRechargeWithParam({}, Success{&from, open}, {});
 }
 
-void AppRouter::openWithdraw(KRBaseController &)
+void AppRouter::openWithdraw(KRBaseController &from)
 {
-    window.present(plainPage(QStringLiteral("提现"), QStringLiteral("在这里把可用余额提现到您的银行卡。")));
+    if (from.isInFront())
+        window.present(
+            plainPage(QStringLiteral("提现"), QStringLiteral("在这里把可用余额提现到您的银行卡。")));
 }
 
 void AppRouter::openFundRecords(KRBaseController &from)
 {
-    from.navigationController()->push(
-        plainPage(QStringLiteral("充值提现记录"), QStringLiteral("在这里查看每一笔充值和提现。")));
+    push(from, plainPage(QStringLiteral("充值提现记录"), QStringLiteral("在这里查看每一笔充值和提现。")));
 }
 
 void AppRouter::openPersonal(KRBaseController &from)
 {
-    from.navigationController()->push(std::make_unique<TZPersonalController>());
+    push(from, std::make_unique<TZPersonalController>());
 }
 
 void AppRouter::openWarning(KRBaseController &from)
 {
-    from.navigationController()->push(
-        plainPage(QStringLiteral("风险预警"), QStringLiteral("在这里查看触及预警线的借款。")));
+    push(from, plainPage(QStringLiteral("风险预警"), QStringLiteral("在这里查看触及预警线的借款。")));
 }
 
 void AppRouter::openMarginTopUp(KRBaseController &from)
 {
-    from.navigationController()->push(
-        plainPage(QStringLiteral("补充保证金"), QStringLiteral("在这里为触及平仓线的借款补充保证金。")));
+    push(from,
+         plainPage(QStringLiteral("补充保证金"), QStringLiteral("在这里为触及平仓线的借款补充保证金。")));
 }
 
 void AppRouter::presentMessageDetail(const QVariantMap &information)

@@ -32,6 +32,9 @@ public:
     void presentOrderDetail(const QVariantMap &information) override;
 
 private:
+    /// Nothing once `from` is no longer on top of its stack. It may be covered by the sign-in that was asked
+    /// for on the way.
+    static void push(const KRBaseController &from, std::unique_ptr<KRBaseController> screen);
     void showContent(std::unique_ptr<KRBaseController> root);
 
     KRWindow &window;

@@ -142,3 +142,10 @@ bool KRBaseController::isOnTop() const
 {
     return navigation && navigation->top() == this;
 }
+
+bool KRBaseController::isInFront() const
+{
+    if (!window())
+        return false;
+    return navigation ? isOnTop() && window()->topStack() == navigation : window()->presented()->count() == 0;
+}

@@ -67,6 +67,10 @@ public:
     /// Null before the screen was pushed.
     KRNavigationController *navigationController() const { return navigation; }
     KRWindow *window() const;
+    /// False once another screen has come on top of its stack: a second tap may come while that slides in.
+    bool isOnTop() const;
+    /// False also while another stack is presented over this screen's.
+    bool isInFront() const;
     /// Called by what shows the screen outside a stack: the guide, the left menu.
     void attach(KRWindow *window) { hostWindow = window; }
     /// Runs `viewDidLoad` unless it has run.
@@ -86,8 +90,6 @@ protected:
     void showWaitingView();
     void hidenWaitngView();
     void endEditing();
-    /// False once another screen has come on top of its stack: a second tap may come while that slides in.
-    bool isOnTop() const;
 
 private:
     friend class KRNavigationController;

@@ -16,7 +16,8 @@ struct TZZorvanePageStocksModel;
 using ToSomeController = OwnedAction;
 
 /// Every door from one area's screens to another's. `from` is the screen that asks: its stack receives what
-/// is pushed, its window what is presented.
+/// is pushed, its window what is presented. What is asked for by a screen that is no longer in front is not
+/// opened.
 class Router {
 public:
     virtual ~Router() = default;

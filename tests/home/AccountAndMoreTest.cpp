@@ -180,6 +180,7 @@ TEST_F(AccountTest, SigningOutForgetsTheUserAndStartsOver)
     screen->clickLogoutBtn();
     alert()->rightBtnClick();
     EXPECT_EQ(router.calls, QStringList(QStringLiteral("setupSideMenuController")));
+    EXPECT_FALSE(router.rebuiltSignedIn);
     QStringList left = settings.allKeys();
     left.sort();
     QStringList expected = kept + QStringList(SettingsKeys::needTradePwd);

@@ -6,6 +6,7 @@
 #include "core/shell/KRNavigationController.h"
 #include "core/shell/KRSideMenu.h"
 #include "core/shell/KRWindow.h"
+#include "core/shell/TZInfoAlertView.h"
 #include "core/shell/TZLeftMenuController.h"
 #include "core/shell/TZPlainPageController.h"
 #include "core/util/Service.h"
@@ -179,6 +180,43 @@ TEST_F(FlowTest, TheRechargeGateOpensTheFirstStepThatIsMissing)
     router.openRechargeGate(*frame()->content()->root());
     http.answer(QStringLiteral("trade/recharge"), refused(QStringLiteral("请先登录")));
     EXPECT_EQ(window.presented()->count(), 0);
+}
+
+TEST_F(FlowTest, TheFirstPasswordOfTheRechargeGateCanBeLeft)
+{
+    signIn();
+    router.openRechargeGate(*frame()->content()->root());
+    http.answer(QStringLiteral("trade/recharge"), succeeded(QVariantMap{{QStringLiteral("next_step"), 3}}));
+    window.topStack()->top()->leftItemClick();
+    ASSERT_EQ(window.dialogs()->count(), 1);
+    qobject_cast<TZInfoAlertView *>(window.dialogs()->last())->rightBtnClick();
+    EXPECT_EQ(window.presented()->count(), 0);
+}
+
+TEST_F(FlowTest, WhatACoveredScreenAsksForIsNotOpened)
+{
+    signIn();
+    KRBaseController &home = *frame()->content()->root();
+    const QString gate = QStringLiteral("trade/recharge");
+    router.openRechargeGate(home);
+    router.openRechargeGate(home);
+    http.answer(gate, succeeded());
+    http.answer(gate, succeeded());
+    EXPECT_EQ(window.presented()->count(), 1);
+    router.openWithdraw(home);
+    router.openSignIn(home, {});
+    EXPECT_EQ(window.presented()->count(), 1);
+    window.dismiss(window.topStack());
+
+    router.openRechargeGate(home);
+    router.openRealTrading(home);
+    http.answer(gate, succeeded());
+    router.openRealTrading(home);
+    router.openStockCapital(home, {});
+    router.openMessages(home);
+    router.openPersonal(home);
+    EXPECT_EQ(window.presented()->count(), 0);
+    EXPECT_EQ(frame()->content()->depth(), 2);
 }
 
 TEST_F(FlowTest, AnIdleSignedInHomePageWakesNobody)

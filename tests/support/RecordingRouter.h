@@ -2,6 +2,7 @@
 
 #include "core/shell/Router.h"
 #include "core/shell/TZWebModel.h"
+#include "core/util/Service.h"
 #include "home/api/TZUserIndexModel.h"
 
 #include <QStringList>
@@ -18,7 +19,11 @@ public:
     void showHome(KRBaseController &) override { calls.append(QStringLiteral("showHome")); }
     void showMyAccount(KRBaseController &) override { calls.append(QStringLiteral("showMyAccount")); }
     void showCommissions(KRBaseController &) override { calls.append(QStringLiteral("showCommissions")); }
-    void setupSideMenuController() override { calls.append(QStringLiteral("setupSideMenuController")); }
+    void setupSideMenuController() override
+    {
+        rebuiltSignedIn = Service::isLogin();
+        calls.append(QStringLiteral("setupSideMenuController"));
+    }
     void openRealTrading(KRBaseController &) override { calls.append(QStringLiteral("openRealTrading")); }
     void openStockCapital(KRBaseController &, const TZUserIndexModel &userIndexModel) override
     {
@@ -51,4 +56,6 @@ public:
     ToSomeController toSomeController;
     QVariantMap pushed;
     QString accountStatus;
+    /// Whether somebody was still signed in when the frame was built anew.
+    bool rebuiltSignedIn = false;
 };

@@ -149,6 +149,28 @@ TEST_F(TradingPageTest, TheActionBarOpensTheFourScreens)
     EXPECT_NE(top<TZDealAndEntrustController>(), nullptr);
 }
 
+TEST_F(TradingPageTest, OneTapOpensOneScreenAndNothingIsShownOverIt)
+{
+    auto *const page = push<TZRealTradingController>(router);
+    http.answer(QStringLiteral("zorvanePage"), tradingPage("0.99", "1", {holding("600001", "750")}));
+    page->rightItemClick();
+    page->actionBarClick(TZRealTradingController::SeeTag);
+    page->actionBarClick(TZRealTradingController::BuyTag);
+    page->actionBarClick(TZRealTradingController::SellTag);
+    page->selectHolding(0);
+    http.answer(QStringLiteral("warnInfo"), succeeded(QVariantMap{{"warnLine", "100"}}));
+    EXPECT_EQ(stack().depth(), 3);
+    EXPECT_EQ(alert(), nullptr);
+
+    stack().pop();
+    page->actionBarClick(TZRealTradingController::SellTag);
+    auto *const choose = top<TZChooseSellStockController>();
+    http.answer(QStringLiteral("holding"), succeeded(QVariantList{holding("600001", "5")}));
+    choose->selectHolding(0);
+    choose->selectHolding(0);
+    EXPECT_EQ(stack().depth(), 4);
+}
+
 TEST_F(TradingPageTest, TheRightItemShowsTheWarningLinesAndTheRules)
 {
     TZRealTradingController *const page = open();
@@ -507,6 +529,7 @@ TEST_F(TodayTest, ATappedRowPresentsItsDetailWhichItsItemCloses)
     screen->selectEntrust(1);
     EXPECT_EQ(window.presented()->count(), 0);
     screen->selectEntrust(0);
+    screen->selectEntrust(0);
     ASSERT_EQ(window.presented()->count(), 1);
     auto *const detail = top<TZDealDetailController>();
     EXPECT_EQ(detail->title(), "委托详情");
@@ -517,6 +540,8 @@ TEST_F(TodayTest, ATappedRowPresentsItsDetailWhichItsItemCloses)
     screen->showPage(1);
     http.answer(dealsPath, succeeded(models(1)));
     screen->selectDeal(0);
+    screen->selectDeal(0);
+    ASSERT_EQ(window.presented()->count(), 1);
     EXPECT_EQ(top<TZDealDetailController>()->title(), "成交详情");
 }
 

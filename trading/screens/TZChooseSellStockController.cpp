@@ -41,7 +41,7 @@ void TZChooseSellStockController::showHoldings(const QVariant &data)
 
 void TZChooseSellStockController::selectHolding(int row)
 {
-    if (row >= 0 && row < stocks.size())
+    if (row >= 0 && row < stocks.size() && isInFront())
         navigationController()->push(
             std::make_unique<TZBuyAndSellController>(OrderSide::Sell, stocks.at(row), this, this));
 }

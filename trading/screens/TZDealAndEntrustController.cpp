@@ -84,7 +84,7 @@ void TZDealAndEntrustController::showPage(int index)
 
 void TZDealAndEntrustController::selectEntrust(int row)
 {
-    if (row < 0 || row >= entrustArr().size())
+    if (row < 0 || row >= entrustArr().size() || !isInFront())
         return;
     auto detail = std::make_unique<TZDealDetailController>(TZDealDetailController::entrustTitle);
     detail->setEntrustsTodayModel(entrustArr().at(row));
@@ -93,7 +93,7 @@ void TZDealAndEntrustController::selectEntrust(int row)
 
 void TZDealAndEntrustController::selectDeal(int row)
 {
-    if (row < 0 || row >= dealsArr().size())
+    if (row < 0 || row >= dealsArr().size() || !isInFront())
         return;
     auto detail = std::make_unique<TZDealDetailController>(TZDealDetailController::dealTitle);
     detail->setDetailsTodayModel(dealsArr().at(row));

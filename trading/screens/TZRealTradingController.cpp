@@ -106,6 +106,8 @@ void TZRealTradingController::showPage(const QVariantMap &data)
 
 void TZRealTradingController::actionBarClick(int tag)
 {
+    if (!isInFront())
+        return;
     KRNavigationController *const stack = navigationController();
     switch (tag) {
     case BuyTag:
@@ -142,6 +144,8 @@ void TZRealTradingController::showNoMoney()
 
 void TZRealTradingController::goToStockCapital()
 {
+    if (!isOnTop())
+        return;
     KRNavigationController *const stack = navigationController();
     const QVariant animated = stack->property("animated");
     stack->setProperty("animated", false);
@@ -152,7 +156,7 @@ void TZRealTradingController::goToStockCapital()
 
 void TZRealTradingController::selectHolding(int row)
 {
-    if (row >= 0 && row < holds.size())
+    if (row >= 0 && row < holds.size() && isInFront())
         navigationController()->push(std::make_unique<TZStockDetailController>(holds.at(row)));
 }
 
@@ -172,7 +176,8 @@ void TZRealTradingController::rightItemClick()
         return;
     const auto answered = [this](const Operation &, const QVariantMap &answer) {
         warnInfo = fromDictionary<TZWarnInfoModel>(answer.value(dataKey));
-        showWarning();
+        if (isInFront())
+            showWarning();
     };
     TZTradeTool::getWarnInfoWithParam({}, Success{this, answered}, {});
 }
