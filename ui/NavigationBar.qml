@@ -25,7 +25,7 @@ Rectangle {
             onClicked: bar.controller.backButtonClicked()
         }
         BarItem {
-            visible: !bar.controller.showBackButton && (image !== "" || text !== "")
+            visible: image !== "" || text !== ""
             image: bar.controller.leftItemImage
             text: bar.controller.leftItemTitle
             onClicked: bar.controller.leftItemClick()

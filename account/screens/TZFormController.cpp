@@ -2,10 +2,18 @@
 
 #include "core/shell/KRNavigationController.h"
 
+void TZFormController::viewWillAppear()
+{
+    KRBaseController::viewWillAppear();
+    // What covered it took the indicator away.
+    if (isSending())
+        showWaitingView();
+}
+
 void TZFormController::viewWillDisappear()
 {
+    Q_EMIT editingEnded();
     KRBaseController::viewWillDisappear();
-    endEditing();
 }
 
 void TZFormController::waitFor(const Operation &operation)

@@ -3,10 +3,12 @@
 #include "core/net/Callbacks.h"
 #include "core/shell/KRBaseController.h"
 
-/// A screen with fields: leaving it ends editing, and it sends one request at a time.
+/// A screen with fields: leaving it ends editing, and it sends one request at a time, which
+/// the indicator tells of whenever the screen is in front.
 class TZFormController : public KRBaseController {
     Q_OBJECT
 public:
+    void viewWillAppear() override;
     void viewWillDisappear() override;
 
 protected:

@@ -18,7 +18,8 @@ void TZNicknameController::saveNick()
     const QString problem = nicknameProblem(nickname);
     if (!problem.isEmpty())
         return Service::showErrorWithMsg(problem);
+    // What an input method was still composing has not been cut.
     waitFor(TZUserTool::setNickWithParam(
-        {{QStringLiteral("nick"), nickname}},
+        {{QStringLiteral("nick"), limitedNickname(nickname)}},
         Success{this, [this](const Operation &, const QVariantMap &) { nickSaved(); }}, Failure{}));
 }

@@ -11,11 +11,9 @@ PageFrame {
     property string caption
     default property alias form: column.data
 
-    Flickable {
+    PageFlickable {
         anchors.fill: parent
         contentHeight: Math.max(height, column.y + column.height + Theme.spacingHuge)
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
 
         // A Flickable keeps the taps beside its fields from the page.
         Item {

@@ -32,6 +32,8 @@ void KRBaseController::setTitleImage(const QString &image)
 void KRBaseController::setShowBackButton(bool show)
 {
     backButton = show;
+    leftTitle.clear();
+    leftImage.clear();
     Q_EMIT barChanged();
 }
 
@@ -45,6 +47,8 @@ void KRBaseController::createNavLeftItemWithTitle(const QString &title, const QS
                                                   const QString &andRightWithTitle,
                                                   const QString &andRightImage)
 {
+    if (!title.isEmpty() || !andImage.isEmpty())
+        backButton = false;
     leftTitle = title;
     leftImage = andImage;
     rightTitle = andRightWithTitle;

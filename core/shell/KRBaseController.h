@@ -38,12 +38,14 @@ public:
     QString rightItemTitle() const { return rightTitle; }
     QString rightItemImage() const { return rightImage; }
     bool showBackButton() const { return backButton; }
+    /// Puts the back button in the left slot, in place of an item made before, or empties the slot.
     void setShowBackButton(bool show);
     bool isNeedGesture() const { return gesture; }
     void setIsNeedGesture(bool need);
     virtual bool canBeLeft() const { return true; }
     Background background() const { return backgroundColour; }
 
+    /// A left item takes the back button's place.
     void createNavLeftItemWithTitle(const QString &title, const QString &andImage,
                                     const QString &andRightWithTitle, const QString &andRightImage);
 

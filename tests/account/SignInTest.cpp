@@ -175,7 +175,11 @@ TEST_F(SignInTest, TheEntryStaysForEveryOtherAnswerAndSaysWhy)
          {QStringLiteral("号码已停用")}},
         {"1003, without one", started(QStringLiteral("1003")), {QStringLiteral("交易码异常")}},
         {"no code at all", succeeded(), {QStringLiteral("交易码异常")}},
-        {"a refusal", refused(QStringLiteral("短信发送过于频繁")), {QStringLiteral("短信发送过于频繁")}},
+        {"a refusal, with a known code",
+         {{QStringLiteral("success"), false},
+          {QStringLiteral("bizCode"), QStringLiteral("1002")},
+          {QStringLiteral("message"), QStringLiteral("短信发送过于频繁")}},
+         {QStringLiteral("短信发送过于频繁")}},
     };
     for (const auto &[what, answer, banner] : cases) {
         sendNumber(answer);
@@ -467,11 +471,13 @@ TEST_F(SignInTest, ARefusedCodeKeepsTheScreenAndTheTypedText)
     EXPECT_EQ(http.countOf(verify), 2);
 }
 
-TEST_F(SignInTest, LeavingAScreenTakesItsBannersAway)
+TEST_F(SignInTest, LeavingAScreenTakesItsBannersAwayAndEndsWhatIsEditedOnIt)
 {
     TZLoginController *const login = toLogin();
     int ended = 0;
-    QObject::connect(&window, &KRWindow::editingEnded, &asker, [&ended] { ++ended; });
+    QObject::connect(login, &KRBaseController::editingEnded, &asker, [&ended] { ++ended; });
+    int endedElsewhere = 0;
+    QObject::connect(&window, &KRWindow::editingEnded, &asker, [&endedElsewhere] { ++endedElsewhere; });
     login->clickNextStepBtn();
     EXPECT_EQ(banners().size(), 1);
     KRNavigationController *const cover = window.present(std::make_unique<KRBaseController>());
@@ -481,7 +487,21 @@ TEST_F(SignInTest, LeavingAScreenTakesItsBannersAway)
     login->clickNextStepBtn();
     login->backButtonClicked();
     EXPECT_TRUE(banners().isEmpty());
-    EXPECT_EQ(ended, 1) << "the field of the screen that comes back keeps its focus";
+    EXPECT_EQ(ended, 2);
+    EXPECT_EQ(endedElsewhere, 0) << "what is edited on the screen that comes is its own";
+}
+
+TEST_F(SignInTest, AScreenThatComesBackWhileItsRequestRunsSaysSo)
+{
+    TZLoginController *const login = toLogin();
+    login->textFiledEditChanged(QStringLiteral("123456"));
+    login->clickNextStepBtn();
+    KRNavigationController *const cover = window.present(std::make_unique<KRBaseController>());
+    EXPECT_FALSE(overlays.isWaiting());
+    cover->dismiss();
+    EXPECT_TRUE(overlays.isWaiting());
+    http.answer(verify, refused(QStringLiteral("验证码错误")));
+    EXPECT_FALSE(overlays.isWaiting());
 }
 
 TEST_F(SignInTest, TheAgreementIsShownAsAPageOfTheService)
@@ -501,10 +521,14 @@ TEST_F(SignInTest, ANicknameOfTenIsAcceptedAndTheFieldNeverHoldsEleven)
     finish->clickNextStepBtn();
     finish->clickNextStepBtn();
     EXPECT_EQ(http.countOf(setNick), 1);
-    EXPECT_EQ(http.pending(setNick).fields().value(QStringLiteral("nick")),
-              QStringLiteral("一二三四五六七八九十"));
+    const QString sent = QStringLiteral("一二三四五六七八九十");
+    EXPECT_EQ(http.pending(setNick).fields().value(QStringLiteral("nick")), sent);
     http.answer(setNick, refused(QStringLiteral("昵称已被使用")));
     EXPECT_EQ(stack->top(), finish);
+    finish->textFiledEditChanged(sent + QStringLiteral("百千万"), true);
+    finish->clickNextStepBtn();
+    EXPECT_EQ(http.pending(setNick).fields().value(QStringLiteral("nick")), sent) << "nothing longer goes out";
+    http.answer(setNick, refused(QStringLiteral("昵称已被使用")));
     EXPECT_TRUE(events.isEmpty());
 }
 

@@ -374,6 +374,20 @@ TEST_F(NavigationTest, LeavingAScreenTakesItsBannersAndTheIndicatorAway)
                                        QStringLiteral("beginLogPageView PageOne")}));
 }
 
+TEST_F(NavigationTest, TheLeftSlotHoldsWhatWasPutThereLast)
+{
+    RecordingScreen *const detail = push("detail");
+    detail->createNavLeftItemWithTitle(QStringLiteral("取消"), QStringLiteral("common_close_gray"), {}, {});
+    detail->setShowBackButton(true);
+    EXPECT_EQ(detail->leftItemTitle() + detail->leftItemImage(), QString());
+    detail->createNavLeftItemWithTitle({}, {}, QStringLiteral("保存"), {});
+    EXPECT_TRUE(detail->showBackButton()) << "a right item leaves it alone";
+    detail->createNavLeftItemWithTitle(QStringLiteral("取消"), {}, {}, {});
+    EXPECT_FALSE(detail->showBackButton());
+    detail->setShowBackButton(false);
+    EXPECT_EQ(detail->leftItemTitle(), QString());
+}
+
 TEST_F(NavigationTest, ASwipeBackIsAllowedUntilAScreenForbidsIt)
 {
     RecordingScreen *const detail = push("detail");

@@ -1,4 +1,6 @@
 #include "account/screens/TZModifyNicknameController.h"
+#include "account/screens/TZRegisterController.h"
+#include "core/session/DisplaySettings.h"
 #include "core/shell/KRNavigationController.h"
 #include "core/shell/KRSideMenu.h"
 #include "core/shell/TZInfoAlertView.h"
@@ -14,6 +16,7 @@
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QMouseEvent>
+#include <QQuickItem>
 #include <QQuickWindow>
 
 using namespace std::chrono_literals;
@@ -84,6 +87,32 @@ TEST_F(ViewsTest, ATapBesideTheFieldEndsEditing)
         QCoreApplication::sendEvent(shown, &event);
     }
     EXPECT_NE(QGuiApplication::focusObject(), field);
+}
+
+TEST_F(ViewsTest, OnASmallWindowTheKeyboardFindsTheAgreementInSight)
+{
+    DisplaySettings large;
+    large.textSize = DisplaySettings::TextSize::Large;
+    large.store();
+    shown->resize(360, 480);
+    window.present(std::make_unique<TZRegisterController>(router));
+    pass();
+    const auto press = [this](Qt::Key key) {
+        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, key, Qt::NoModifier);
+            QCoreApplication::sendEvent(shown, &event);
+        }
+    };
+    const QString agreement = QStringLiteral("软件许可使用协议");
+    for (int tab = 0; tab < 10 && shown->activeFocusItem()->property("text") != agreement; ++tab)
+        press(Qt::Key_Tab);
+    const QQuickItem *const link = shown->activeFocusItem();
+    ASSERT_EQ(link->property("text"), agreement);
+    const QRectF place = link->mapRectToScene(link->boundingRect());
+    EXPECT_TRUE(QRectF(0, 0, shown->width(), shown->height()).contains(place));
+    press(Qt::Key_Return);
+    EXPECT_EQ(window.topStack()->top()->title(), agreement);
+    pass();
 }
 
 TEST_F(ViewsTest, ANicknameIsCutWhenTheInputMethodHasEnded)
