@@ -9,7 +9,7 @@
 QString TZPersonalController::displayName() const
 {
     const QString nick = TZUserModel::stored().nick;
-    return nick.isEmpty() ? cell() : nick;
+    return Service::whetherAnEmptyString(nick) ? cell() : nick;
 }
 
 QString TZPersonalController::cell() const
@@ -20,13 +20,13 @@ QString TZPersonalController::cell() const
 QString TZPersonalController::name() const
 {
     const QString name = TZUserModel::stored().name;
-    return name.isEmpty() ? QStringLiteral("未实名") : Service::encryptionName(name);
+    return Service::whetherAnEmptyString(name) ? QStringLiteral("未实名") : Service::encryptionName(name);
 }
 
 QString TZPersonalController::nick() const
 {
     const QString nick = TZUserModel::stored().nick;
-    return nick.isEmpty() ? QStringLiteral("未设置") : nick;
+    return Service::whetherAnEmptyString(nick) ? QStringLiteral("未设置") : nick;
 }
 
 void TZPersonalController::viewDidLoad()

@@ -356,9 +356,16 @@ TEST_F(PersonalTest, TheNicknameIsChangedFromThePersonalPage)
     EXPECT_EQ(stack->top(), personal);
     EXPECT_EQ(changes, 1);
     EXPECT_EQ(personal->nick(), QStringLiteral("一二三四五六七八九十"));
-    settings.values.remove(SettingsKeys::user);
-    EXPECT_EQ(personal->nick(), QStringLiteral("未设置"));
-    EXPECT_EQ(personal->name(), QStringLiteral("未实名"));
+    for (const char *nothing : {"", "  ", "(null)"}) {
+        const QString text = QLatin1String(nothing);
+        settings.values.insert(SettingsKeys::user,
+                               QVariantMap{{QStringLiteral("cell"), QStringLiteral("13812345678")},
+                                           {QStringLiteral("nick"), text},
+                                           {QStringLiteral("name"), text}});
+        EXPECT_EQ(personal->nick(), QStringLiteral("未设置")) << nothing;
+        EXPECT_EQ(personal->name(), QStringLiteral("未实名")) << nothing;
+        EXPECT_EQ(personal->displayName(), QStringLiteral("138****5678")) << nothing;
+    }
     runLoop.advance(500ms);
     EXPECT_EQ(banners(), QStringList(QStringLiteral("设置成功")));
 }

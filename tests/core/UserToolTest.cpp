@@ -38,7 +38,10 @@ const std::vector<ToolOperation> operations{
     OPERATION(updatePwdToVerifyIDWithParam),
     OPERATION(updatePwdWithParam),
     OPERATION(canUpdataPasswordWithParam),
-    OPERATION(getWalletRecordsWithParam),
+    {"getWalletRecordsWithParam",
+     [](Success s, Failure f) {
+         return TZUserTool::getWalletRecordsWithParam(one("page", QStringLiteral("3")), s, f);
+     }},
     OPERATION(getCommissionsWithParam),
     OPERATION(getCommissionsDetailsWithParam),
 };
@@ -92,7 +95,7 @@ TEST_F(UserToolTest, CallsEachEndpointAsItIsMeantToBe)
         {"updatePwdToVerifyIDWithParam", "POST", "user/verify_id_card", "asked=1", false},
         {"updatePwdWithParam", "POST", "user/update_password", "asked=1", false},
         {"canUpdataPasswordWithParam", "GET", "user/can_update_password?asked=1", "", false},
-        {"getWalletRecordsWithParam", "GET", "walletRecords?page=&asked=1", "", false},
+        {"getWalletRecordsWithParam", "GET", "walletRecords?page=3&page=3", "", false},
         {"getCommissionsWithParam", "GET", "commissions?asked=1", "", false},
         {"getCommissionsDetailsWithParam", "GET", "commissions?asked=1", "", false},
     };
@@ -189,6 +192,10 @@ TEST_F(UserToolTest, AnAnswerWithoutATokenSignsNobodyIn)
     TZUserTool::verifyCodeWithParam({}, succeeds(), fails());
     http.answer(QStringLiteral("user/verify"), refused(QStringLiteral("验证码错误")));
     EXPECT_EQ(successes, 3);
+    TZUserTool::verifyCodeWithParam({}, succeeds(), fails());
+    http.answer(QStringLiteral("user/verify"), succeeded(one("api_token", QString())));
+    EXPECT_TRUE(Service::isLogin()) << "a token that is there, if empty";
+    EXPECT_EQ(kits.calls, QStringList());
 }
 
 TEST_F(UserToolTest, StoresTheNicknameThatWasSent)

@@ -210,14 +210,14 @@ TEST_F(StockDetailTest, TheHoldingIsReadEachTimeThePageAppears)
     EXPECT_FALSE(page->canSell());
     page->sell();
     EXPECT_EQ(stack().top(), page);
-    const auto holding = [](const QString &code, const QString &shares) {
-        return QVariantMap{{"stockCode", code},       {"shares", shares},       {"availableShares", "100"},
-                           {"costPerShare", "9.876"}, {"profitMoney", "-5.00"}, {"totalValue", "1"}};
+    const auto holding = [](const QString &code, const QString &shares, const QVariant &available) {
+        return QVariantMap{
+            {"stockCode", code},       {"shares", shares},       {"availableShares", available},
+            {"costPerShare", "9.876"}, {"profitMoney", "-5.00"}, {"totalValue", "1"}};
     };
-    const auto answer = [&](const QString &code, const QString &shares) {
-        http.answer(
-            QStringLiteral("zorvanePage"),
-            succeeded(QVariantMap{{"stocks", QVariantList{holding("1", "9"), holding(code, shares)}}}));
+    const auto answer = [&](const QString &code, const QString &shares, const QVariant &available = "100") {
+        const QVariantList stocks{holding("1", "9", "9"), holding(code, shares, available)};
+        http.answer(QStringLiteral("zorvanePage"), succeeded(QVariantMap{{"stocks", stocks}}));
     };
     answer("600001", "500");
     ASSERT_EQ(page->holdingFigures()->count(), 4);
@@ -228,6 +228,10 @@ TEST_F(StockDetailTest, TheHoldingIsReadEachTimeThePageAppears)
     ASSERT_NE(entry, nullptr);
     EXPECT_EQ(entry->totalCount(), 100);
     EXPECT_EQ(entry->stockText(), "海天传媒(600001)");
+    stack().pop();
+    answer("600001", "500", "<null>");
+    EXPECT_EQ(page->holdingFigures()->at(0).value, "500");
+    page->sell();
     stack().pop();
     answer("600002", "500");
     EXPECT_EQ(page->holdingFigures()->count(), 0) << "all sold";

@@ -30,7 +30,7 @@ QList<StockFigure> figuresOf(const TZZorvanePageStocksModel &holding)
     if (!isHeld(holding))
         return {};
     return {
-        {QStringLiteral("持仓/可用"), holding.availableShares.isEmpty()
+        {QStringLiteral("持仓/可用"), Service::whetherAnEmptyString(holding.availableShares)
                                           ? holding.shares
                                           : holding.shares + u'/' + holding.availableShares},
         {QStringLiteral("成本价"), holding.costPerShare},
