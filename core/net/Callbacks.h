@@ -14,12 +14,14 @@
 class RequestOperation : public QObject {
     Q_OBJECT
 public:
-    RequestOperation(QString requestUrl, QVariantMap requestParameters)
-        : url(std::move(requestUrl)), parameters(std::move(requestParameters))
+    RequestOperation(QString requestUrl, QVariantMap requestParameters, bool isQuiet)
+        : url(std::move(requestUrl)), parameters(std::move(requestParameters)), quiet(isQuiet)
     {
     }
     const QString url;
     const QVariantMap parameters;
+    /// Shows no banner and leaves the indicator as it is.
+    const bool quiet;
     /// Greater than that of every request before it.
     const quint64 number = ++sent;
     /// What came back is from where a redirect led after the body was sent: it says nothing of the work that

@@ -61,8 +61,10 @@ bool addParameters(HttpRequest &request, const QVariantMap &dict, const QString 
 
 void fail(const Operation &operation, const Failure &error, const RequestError &cause)
 {
-    Service::showLoadFailView();
-    Service::hideWaitingProgressView();
+    if (!operation->quiet) {
+        Service::showLoadFailView();
+        Service::hideWaitingProgressView();
+    }
     error(operation, cause);
     Q_EMIT operation->finished();
 }
@@ -77,9 +79,37 @@ void deliver(const Operation &operation, const HttpOutcome &outcome, const Succe
     const std::optional<QVariantMap> answer = decodeEnvelope(*response);
     if (!answer)
         return fail(operation, error, {std::nullopt, response->status, response->redirected});
-    KRAFHTTPClient::showMsgWithDict(*answer, operation->url);
+    if (!operation->quiet)
+        KRAFHTTPClient::showMsgWithDict(*answer, operation->url);
     done(operation, *answer);
     Q_EMIT operation->finished();
+}
+
+/// The file of a multipart body, and the form name of its part.
+struct FilePart {
+    QString url;
+    QString name;
+};
+
+Operation send(const Operation &operation, const QByteArray &method, const FilePart &file, Success done,
+               Failure error)
+{
+    [[maybe_unused]] static const bool initialized = (KRAFHTTPClient::initialize(), true);
+
+    HttpRequest request{method, operation->url, {}, {}};
+    addCommonHeaders(request);
+    if (!addParameters(request, operation->parameters, file.url, file.name)) {
+        auto later = std::make_shared<Timer>();
+        later->startOnce(0ms, [later, operation, error = std::move(error)] {
+            fail(operation, error, {HttpFailure::Cancelled});
+        });
+        return operation;
+    }
+    Platform::current().http.send(
+        request, [operation, done = std::move(done), error = std::move(error)](const HttpOutcome &outcome) {
+            deliver(operation, outcome, done, error);
+        });
+    return operation;
 }
 
 } // namespace
@@ -92,6 +122,12 @@ void KRAFHTTPClient::initialize()
 Operation KRAFHTTPClient::get(const QString &url, const QVariantMap &dict, Success done, Failure error)
 {
     return execute(url, QStringLiteral("GET"), dict, {}, {}, {}, std::move(done), std::move(error));
+}
+
+Operation KRAFHTTPClient::getQuietly(const QString &url, const QVariantMap &dict, Success done, Failure error)
+{
+    return send(std::make_shared<RequestOperation>(url, dict, true), "GET", {}, std::move(done),
+                std::move(error));
 }
 
 Operation KRAFHTTPClient::post(const QString &url, const QVariantMap &dict, Success done, Failure error)
@@ -123,25 +159,10 @@ Operation KRAFHTTPClient::execute(const QString &url, const QString &method, con
                                   const QString &mutiPart, const QString &andPartName, const ConstructBody &,
                                   Success done, Failure error)
 {
-    [[maybe_unused]] static const bool initialized = (initialize(), true);
-
     if (method != QLatin1String("GET") && method != QLatin1String("POST") && method != QLatin1String("PUT"))
         return nullptr;
-    HttpRequest request{method.toLatin1(), url, {}, {}};
-    addCommonHeaders(request);
-    auto operation = std::make_shared<RequestOperation>(url, dict);
-    if (!addParameters(request, dict, mutiPart, andPartName)) {
-        auto later = std::make_shared<Timer>();
-        later->startOnce(0ms, [later, operation, error = std::move(error)] {
-            fail(operation, error, {HttpFailure::Cancelled});
-        });
-        return operation;
-    }
-    Platform::current().http.send(
-        request, [operation, done = std::move(done), error = std::move(error)](const HttpOutcome &outcome) {
-            deliver(operation, outcome, done, error);
-        });
-    return operation;
+    return send(std::make_shared<RequestOperation>(url, dict, false), method.toLatin1(),
+                {mutiPart, andPartName}, std::move(done), std::move(error));
 }
 
 void KRAFHTTPClient::showMsgWithDict(const QVariantMap &dict, const QString &url)

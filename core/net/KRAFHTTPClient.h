@@ -17,6 +17,8 @@ public:
     using ConstructBody = std::function<void()>;
 
     static Operation get(const QString &url, const QVariantMap &dict, Success done, Failure error);
+    /// For what nobody on the screen has asked for: no banner, and the indicator stays as it is.
+    static Operation getQuietly(const QString &url, const QVariantMap &dict, Success done, Failure error);
     static Operation post(const QString &url, const QVariantMap &dict, Success done, Failure error);
     /// `multiPart` is the local file's URL, sent under the form name `andPartName` besides the parameters. A
     /// file that cannot be read is a failure and nothing is sent.

@@ -41,19 +41,29 @@ Success ToolPolicy::passed(Success success)
         });
 }
 
-Success ToolPolicy::cached(const QString &key, Success success, Hand hand)
+Success ToolPolicy::ofSameUser(Success success)
 {
     const QString token = TZUserModel::stored().api_token;
-    return gated(Success::unowned([key, token, hand, success = std::move(success)](
-                                      const Operation &operation, const QVariantMap &answer) {
-        if (token != TZUserModel::stored().api_token || !takesInTurn(key, operation))
+    return Success::unowned(
+        [token, success = std::move(success)](const Operation &operation, const QVariantMap &answer) {
+            if (token == TZUserModel::stored().api_token)
+                success(operation, answer);
+        });
+}
+
+Success ToolPolicy::cached(const QString &key, Success success, Hand hand)
+{
+    const auto store = [key, hand, success = std::move(success)](const Operation &operation,
+                                                                 const QVariantMap &answer) {
+        if (!takesInTurn(key, operation))
             return;
         SettingsStore &settings = Platform::current().settings;
         const QVariantMap cleaned = Service::processDictionaryIsNSNull(answer).toMap();
         settings.setValue(key, cleaned);
         settings.synchronize();
         success(operation, hand == Hand::Cleaned ? cleaned : answer);
-    }));
+    };
+    return gated(ofSameUser(Success::unowned(store)));
 }
 
 bool ToolPolicy::takesInTurn(const QString &key, const Operation &operation)

@@ -30,9 +30,11 @@ Success gated(Success success, Indicator indicator = Indicator::Hide);
 /// Calls `success` for every answer, the indicator hidden first.
 Success passed(Success success);
 
-/// As `gated`, and stores the answer under `key` without its nulls before handing it on. An answer that
-/// comes when another user, or none, has taken the place of the one who asked is dropped, and so is one that
-/// a later one has overtaken.
+/// Drops an answer that comes when another user, or none, has taken the place of the one who asks now.
+Success ofSameUser(Success success);
+
+/// As `gated` and `ofSameUser`, and stores the answer under `key` without its nulls before handing it on. One
+/// that a later one has overtaken is dropped.
 Success cached(const QString &key, Success success, Hand hand = Hand::AsReceived);
 
 /// Whether `operation` is answered in its turn: false when the answer to a later request for `key` with the

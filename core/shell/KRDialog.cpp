@@ -2,9 +2,12 @@
 
 #include "core/shell/KRWindow.h"
 
+#include <utility>
+
 void KRDialog::removeFromWindow()
 {
-    if (hostWindow)
-        hostWindow->remove(this);
-    hostWindow = nullptr;
+    if (!hostWindow)
+        return;
+    std::exchange(hostWindow, nullptr)->remove(this);
+    Q_EMIT removed();
 }

@@ -15,6 +15,10 @@ public:
     /// Esc, or the back button of the device.
     Q_INVOKABLE virtual void cancel() = 0;
 
+Q_SIGNALS:
+    /// It is no longer on its window; it may still be seen to go.
+    void removed();
+
 protected:
     /// Removes the dialog from the window; it is deleted later.
     void removeFromWindow();

@@ -101,6 +101,8 @@ TEST_F(RepeatedOrderTest, TheQuestionSendsNothingWhenItsReadingIsClosed)
     submitEntry();
     alert()->leftBtnClick();
     FakeTransport::Sent &reading = http.pending(entrustsPath);
+    // Somebody draws the window: the dialog is still seen to go when the answer comes.
+    window.setProperty("animated", true);
     alert()->cancel();
     settle();
     http.answer(reading, succeeded(QVariantList()));

@@ -58,6 +58,8 @@ const Endpoint endpoints[] = {
      Then::Hides, "DetailsToday"},
     {OPERATION(getEntrustsTodayWithParam), "GET", "entrustsToday", Policy::Cached, Shows::Indicator,
      Then::Hides, "EntrustsToday"},
+    {OPERATION(readEntrustsTodayWithParam), "GET", "entrustsToday", Policy::Guarded, Shows::Nothing,
+     Then::Leaves},
     {OPERATION(getWarnInfoWithParam), "GET", "warnInfo", Policy::Guarded, Shows::Indicator, Then::Hides},
     {"getTimelyInfoWithStockCode", &timelyInfo, "GET", "timelyInfo/timelyOrderForm?stockCode=600123",
      Policy::Passed, Shows::Nothing, Then::Leaves, "", true},

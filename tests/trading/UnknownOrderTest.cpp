@@ -118,6 +118,10 @@ TEST_F(UnknownOrderTest, IsFoundOnAFurtherPageAndNotSoughtBeyondItsTime)
     runLoop.advance(3s);
     answerPage(whole);
     EXPECT_EQ(said(), "未找到这笔委托");
+
+    alert()->leftBtnClick();
+    answerPage({other("9", 900), other("8", 900)});
+    EXPECT_TRUE(http.hasPending(entrustsPath)) << "one time for all does not say that the newest come first";
 }
 
 TEST_F(UnknownOrderTest, OnlyStampsOfTheServicesClockSayWhatIsOlder)
@@ -213,14 +217,18 @@ TEST_F(UnknownOrderTest, EntrustsThatCannotBeReadAreSaidAndReadAgainOnDemand)
     }
 
     // Without a network the stored copy is no proof, even when such an order is in it.
-    settings.setValue(TZTradeTool::entrustsTodayKey, succeeded(QVariantList{entrust("4")}));
+    const QVariant copy = succeeded(QVariantList{entrust("4")});
+    settings.setValue(TZTradeTool::entrustsTodayKey, copy);
     settings.setValue(SettingsKeys::networkStatus, false);
     alert()->leftBtnClick();
+    http.fail(entrustsPath, HttpFailure::Offline);
     EXPECT_TRUE(says("没有读到今日委托"));
     settings.setValue(SettingsKeys::networkStatus, true);
     alert()->leftBtnClick();
     answerEntrusts({entrust("5")});
     EXPECT_EQ(said(), "已找到这笔委托");
+    EXPECT_EQ(settings.value(TZTradeTool::entrustsTodayKey), copy) << "what the list shows offline";
+    EXPECT_EQ(banners(), QStringList("加载失败")) << "that of the order; the dialog says the rest";
 }
 
 TEST_F(UnknownOrderTest, IsReadQuietlyWhenOrderEntryOpensAfterAKill)
@@ -252,6 +260,30 @@ TEST_F(UnknownOrderTest, IsReadQuietlyWhenOrderEntryOpensAfterAKill)
     openBuying();
     runLoop.advance(1min);
     EXPECT_FALSE(http.hasPending(entrustsPath));
+}
+
+TEST_F(UnknownOrderTest, TheQuietReadingDisturbsNobody)
+{
+    openWithEntry();
+    submitEntry();
+    stack().pop();
+    settle();
+    runLoop.advance(1min);
+    Service::showWaitingProgressView();
+    FakeTransport::Sent &reading = http.pending(entrustsPath);
+    class : public QObject, public TZTradePwdAlertDelegate {
+        void checkTradePwd(const QString &) override {}
+    } asker;
+    TZTradePwdAlertView::showAlertView(window, asker, asker);
+    http.answer(reading, succeeded(QVariantList{entrust("4")}));
+    EXPECT_FALSE(http.hasPending(entrustsPath));
+    EXPECT_EQ(window.dialogs()->count(), 1) << "nothing lies over the password";
+    prompt()->cancel();
+    runLoop.advance(30s);
+    http.fail(entrustsPath, HttpFailure::TimedOut);
+    EXPECT_TRUE(overlays.isWaiting()) << "it is that of the screen in front";
+    EXPECT_EQ(banners(), QStringList());
+    EXPECT_EQ(UnknownOrders::all().size(), 1);
 }
 
 TEST_F(UnknownOrderTest, ARefusedEntrustKeepsTheEntryAndWhatIsLeftOutIsNotSaid)

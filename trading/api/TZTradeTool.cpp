@@ -108,6 +108,14 @@ Operation TZTradeTool::getEntrustsTodayWithParam(const QVariantMap &param, Succe
                   std::move(andError));
 }
 
+Operation TZTradeTool::readEntrustsTodayWithParam(const QVariantMap &param, Success success, Failure andError)
+{
+    return KRAFHTTPClient::getQuietly(
+        ToolPolicy::url(QStringLiteral("entrustsToday")), param,
+        ToolPolicy::gated(ToolPolicy::ofSameUser(std::move(success)), ToolPolicy::Indicator::Keep),
+        std::move(andError));
+}
+
 Operation TZTradeTool::getWarnInfoWithParam(const QVariantMap &param, Success success, Failure andError)
 {
     Service::showWaitingProgressView();

@@ -47,6 +47,9 @@ public:
     static Operation getDetailsTodayWithParam(const QVariantMap &param, Success success, Failure andError);
     /// Cached, HUD. Keys: "page".
     static Operation getEntrustsTodayWithParam(const QVariantMap &param, Success success, Failure andError);
+    /// The same without a word, for what nobody on the screen has asked for: guarded, nothing is stored, and
+    /// only the user who asked is answered. Keys: "page".
+    static Operation readEntrustsTodayWithParam(const QVariantMap &param, Success success, Failure andError);
     /// Guarded, HUD.
     static Operation getWarnInfoWithParam(const QVariantMap &param, Success success, Failure andError);
     /// Passed. "data" has "match", the latest traded price or "", and "buyPankou" and "sellPankou", ten

@@ -12,7 +12,7 @@
 #include "trading/screens/UnknownOrders.h"
 
 #include <algorithm>
-#include <optional>
+#include <memory>
 
 using namespace std::chrono_literals;
 
@@ -122,14 +122,20 @@ public:
     SearchAlert(TZInfoAlertViewModel firstModel, const OrderIntent &unknownOrder, OrderWays orderWays,
                 OwnedAction sendAgain)
         : TZInfoAlertView(std::move(firstModel), {}, {}), order(unknownOrder), ways(std::move(orderWays)),
-          again(std::move(sendAgain)), inquiry(UnknownOrders::like(unknownOrder), again ? 1 : 2)
+          again(std::move(sendAgain))
     {
-        connect(&inquiry, &OrderInquiry::found, this, &SearchAlert::tellFound);
-        connect(&inquiry, &OrderInquiry::notFound, this, &SearchAlert::tellNotFound);
-        connect(&inquiry, &OrderInquiry::unreadable, this, &SearchAlert::tellUnreadable);
     }
 
-    void start() { inquiry.start(); }
+    void start()
+    {
+        auto *const inquiry = new OrderInquiry(UnknownOrders::like(order), again ? 1 : 2, this);
+        connect(inquiry, &OrderInquiry::found, this, &SearchAlert::tellFound);
+        connect(inquiry, &OrderInquiry::notFound, this, &SearchAlert::tellNotFound);
+        connect(inquiry, &OrderInquiry::unreadable, this, &SearchAlert::tellUnreadable);
+        // What nobody sees any more must neither settle nor send anything.
+        connect(this, &KRDialog::removed, inquiry, &QObject::deleteLater);
+        inquiry->start();
+    }
 
 private:
     void tellFound(const QList<FoundOrder> &found)
@@ -178,7 +184,6 @@ private:
     const OrderWays ways;
     /// Set when the user waits to send the order once more.
     const OwnedAction again;
-    OrderInquiry inquiry;
 };
 
 class QuietLook : public QObject {
@@ -188,6 +193,7 @@ public:
     explicit QuietLook(KRWindow &hostWindow) : QObject(&hostWindow), window(hostWindow)
     {
         setObjectName(name);
+        connect(window.dialogs(), &ObjectListModel::countChanged, this, &QuietLook::putOff);
     }
 
     void startIn(std::chrono::milliseconds pause)
@@ -205,19 +211,32 @@ private:
         const bool mayBeOnItsWay = age >= 0 && age < late.count();
         if (window.dialogs()->count() > 0 || mayBeOnItsWay)
             return startIn(late);
-        inquiry.emplace(sought, 1);
-        connect(&*inquiry, &OrderInquiry::found, this, [this](const QList<FoundOrder> &found) {
-            inform(window, foundTitle(found), described(found));
-            deleteLater();
-        });
-        connect(&*inquiry, &OrderInquiry::notFound, this, &QObject::deleteLater);
-        connect(&*inquiry, &OrderInquiry::unreadable, this, &QObject::deleteLater);
+        inquiry = std::make_unique<OrderInquiry>(sought, 1, nullptr);
+        connect(inquiry.get(), &OrderInquiry::found, this, &QuietLook::tellFound);
+        connect(inquiry.get(), &OrderInquiry::notFound, this, &QObject::deleteLater);
+        connect(inquiry.get(), &OrderInquiry::unreadable, this, &QObject::deleteLater);
         inquiry->start();
+    }
+
+    /// A dialog has come up over the reading: what it would find is left for later.
+    void putOff()
+    {
+        if (!inquiry || window.dialogs()->count() == 0)
+            return;
+        inquiry.reset();
+        startIn(late);
+    }
+
+    void tellFound(const QList<FoundOrder> &found)
+    {
+        window.dialogs()->disconnect(this);
+        inform(window, foundTitle(found), described(found));
+        deleteLater();
     }
 
     KRWindow &window;
     Timer timer;
-    std::optional<OrderInquiry> inquiry;
+    std::unique_ptr<OrderInquiry> inquiry;
 };
 
 void show(KRWindow &window, std::unique_ptr<SearchAlert> alert)

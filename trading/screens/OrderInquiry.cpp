@@ -25,8 +25,8 @@ std::optional<QList<TZEntrustsTodayModel>> entrustsIn(const QVariant &data)
 }
 } // namespace
 
-OrderInquiry::OrderInquiry(QList<OrderIntent> orders, int mostLooks)
-    : sought(std::move(orders)), looksLeft(mostLooks)
+OrderInquiry::OrderInquiry(QList<OrderIntent> orders, int mostLooks, QObject *parent)
+    : QObject(parent), sought(std::move(orders)), looksLeft(mostLooks)
 {
 }
 
@@ -40,21 +40,13 @@ void OrderInquiry::look()
 void OrderInquiry::read(int page)
 {
     auto answered = std::make_shared<bool>(false);
-    const auto answer = [this, page, answered](const Operation &operation, const QVariantMap &dictionary) {
-        // Without a network the stored copy comes, and no operation: that one proves nothing.
-        if (!operation)
-            return;
+    const auto answer = [this, page, answered](const Operation &, const QVariantMap &dictionary) {
         *answered = true;
         take(page, dictionary.value(QStringLiteral("data")));
     };
     // As the list of today's entrusts asks: the first page without its number.
     const QVariantMap param = page == 0 ? QVariantMap() : QVariantMap{{QStringLiteral("page"), page}};
-    const Operation operation = TZTradeTool::getEntrustsTodayWithParam(param, Success{this, answer}, {});
-    if (!operation) {
-        Q_EMIT unreadable();
-        return;
-    }
-    Service::hideWaitingProgressView();
+    const Operation operation = TZTradeTool::readEntrustsTodayWithParam(param, Success{this, answer}, {});
     connect(operation.get(), &RequestOperation::finished, this, [this, answered] {
         if (!*answered)
             Q_EMIT unreadable();
@@ -109,7 +101,8 @@ bool OrderInquiry::isLast(const QList<TZEntrustsTodayModel> &page) const
         std::is_sorted(page.begin(), page.end(),
                        [&time](const auto &one, const auto &other) { return time(one) > time(other); });
     const qint64 oldest = time(page.constLast());
-    return newestFirst && oldest > 0 &&
+    // Where all times are one, nothing says in which order they come.
+    return newestFirst && time(page.constFirst()) > oldest && oldest > 0 &&
            std::all_of(sought.begin(), sought.end(), [oldest](const auto &order) {
                return oldest < order.quotedAt - OrderIntent::clockTolerance;
            });

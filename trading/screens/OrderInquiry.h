@@ -6,12 +6,13 @@
 #include <optional>
 
 /// Reads today's entrusts, page by page, and settles the orders that are sought. What is not there at once
-/// may reach the books late: a few seconds after a look in vain there may be another one. Shows no indicator.
+/// may reach the books late: a few seconds after a look in vain there may be another one. Reads without a
+/// word.
 class OrderInquiry : public QObject {
     Q_OBJECT
 public:
     /// Looks that often before it says that nothing is there.
-    OrderInquiry(QList<OrderIntent> orders, int mostLooks);
+    OrderInquiry(QList<OrderIntent> orders, int mostLooks, QObject *parent);
 
     /// One of the signals follows.
     void start() { look(); }
