@@ -1,6 +1,7 @@
 #include "account/screens/TZSignInCodeController.h"
 
 #include "core/session/TZUserTool.h"
+#include "core/shell/KRNavigationController.h"
 #include "core/util/Service.h"
 
 namespace {
@@ -12,6 +13,13 @@ void TZSignInCodeController::viewDidLoad()
     TZSmsCodeController::viewDidLoad();
     // The entry has had a code sent.
     smsCell()->justBeginTimer();
+}
+
+void TZSignInCodeController::viewDidDisappear()
+{
+    TZSmsCodeController::viewDidDisappear();
+    if (!navigationController()->contains(this))
+        attempt.reset();
 }
 
 void TZSignInCodeController::sendSms(const OwnedAction &complete)
@@ -41,9 +49,10 @@ void TZSignInCodeController::verify(const QVariantMap &extra, std::function<void
         return;
     QVariantMap param = verification();
     param.insert(extra);
+    attempt = std::make_unique<QObject>();
     waitFor(TZUserTool::verifyCodeWithParam(
         param,
-        Success{this,
+        Success{attempt.get(),
                 [verified = std::move(verified)](const Operation &, const QVariantMap &) { verified(); }},
         Failure{}));
 }

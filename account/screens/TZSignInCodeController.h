@@ -10,6 +10,7 @@ class TZSignInCodeController : public TZSmsCodeController, public TZSignInStep {
 public:
     QString headerText() const override { return sentTo(cell()); }
     void viewDidLoad() override;
+    void viewDidDisappear() override;
     void sendSms(const OwnedAction &complete) override;
 
 protected:
@@ -20,4 +21,8 @@ protected:
 
 private:
     QString cell() const;
+
+    /// Owns what waits for the answer to "verify"; gone once the user has gone back, while the screen is
+    /// still seen sliding away.
+    std::unique_ptr<QObject> attempt;
 };

@@ -49,9 +49,9 @@ void KRNavigationController::popToRoot()
 
 void KRNavigationController::popTo(KRBaseController *screen)
 {
-    const int target = rowOf(screen);
-    if (target < 0 || entries[static_cast<size_t>(target)].leaving || screen == top())
+    if (!contains(screen) || screen == top())
         return;
+    const int target = rowOf(screen);
     // Only the one on top is seen leaving; those between go at once.
     KRBaseController *const seen = animated && visible ? top() : nullptr;
     for (int row = rowCount() - 1; row > target; --row) {
@@ -85,6 +85,12 @@ KRBaseController *KRNavigationController::at(int index) const
 KRBaseController *KRNavigationController::top() const
 {
     return at(depth() - 1);
+}
+
+bool KRNavigationController::contains(const KRBaseController *screen) const
+{
+    const int row = rowOf(screen);
+    return row >= 0 && !entries[static_cast<size_t>(row)].leaving;
 }
 
 void KRNavigationController::attach(KRWindow *window)

@@ -37,6 +37,7 @@ public:
     KRBaseController *at(int index) const;
     KRBaseController *root() const { return at(0); }
     KRBaseController *top() const;
+    bool contains(const KRBaseController *screen) const;
 
     KRWindow *window() const { return hostWindow; }
     /// Called by what shows the stack.
