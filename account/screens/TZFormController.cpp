@@ -10,12 +10,6 @@ void TZFormController::viewWillAppear()
         showWaitingView();
 }
 
-void TZFormController::viewWillDisappear()
-{
-    Q_EMIT editingEnded();
-    KRBaseController::viewWillDisappear();
-}
-
 void TZFormController::waitFor(const Operation &operation)
 {
     sending = true;

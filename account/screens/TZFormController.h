@@ -9,7 +9,6 @@ class TZFormController : public KRBaseController {
     Q_OBJECT
 public:
     void viewWillAppear() override;
-    void viewWillDisappear() override;
 
 protected:
     TZFormController() = default;

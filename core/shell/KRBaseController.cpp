@@ -77,6 +77,7 @@ void KRBaseController::viewWillAppear()
 
 void KRBaseController::viewWillDisappear()
 {
+    Q_EMIT editingEnded();
     Platform::current().analytics.endLogPageView(pageName);
     hidenWaitngView();
     Service::hideAlertView();

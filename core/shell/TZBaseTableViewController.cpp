@@ -16,12 +16,6 @@ void TZBaseTableViewController::viewDidLoad()
     changeBlueBgColor();
 }
 
-void TZBaseTableViewController::viewWillDisappear()
-{
-    Q_EMIT editingEnded();
-    KRBaseController::viewWillDisappear();
-}
-
 void TZBaseTableViewController::viewDidDisappear()
 {
     endRefreshing();

@@ -23,7 +23,6 @@ public:
     Q_INVOKABLE void beginLoadingMore();
 
     void viewDidLoad() override;
-    void viewWillDisappear() override;
     void viewDidDisappear() override;
     ~TZBaseTableViewController() override;
 

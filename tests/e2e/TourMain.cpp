@@ -21,7 +21,8 @@ Walk readArguments()
     const QCommandLineOption keyboard(QStringLiteral("keyboard"), QStringLiteral("do not touch the mouse"));
     parser.addOption(keyboard);
     parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("where the pictures of the steps go"),
+    parser.addPositionalArgument(QStringLiteral("folder"),
+                                 QStringLiteral("where the pictures of the steps go"),
                                  QStringLiteral("[folder]"));
     parser.process(*QCoreApplication::instance());
     return {parser.isSet(keyboard) ? Hand::Means::Keyboard : Hand::Means::Mouse,

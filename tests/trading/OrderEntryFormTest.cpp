@@ -249,6 +249,58 @@ TEST_F(OrderEntryTest, MoneyThatComesAfterThePriceIsCounted)
     EXPECT_EQ(screen->totalCount(), 810);
 }
 
+TEST_F(OrderEntryTest, MoneyThatIsNotKnownIsNotZeroAndIsAskedForAgain)
+{
+    const QString buyPage = QStringLiteral("buyPage");
+    screen = push<TZBuyAndSellController>(OrderSide::Buy);
+    screen->chooseStock(stock("600001", "海天传媒"));
+    enter("12.34", "800");
+    const auto refusesToSend = [this] {
+        submitEntry();
+        return lastBanner() == "正在获取可用资金，请稍后再试" && screen->countText().isEmpty();
+    };
+    EXPECT_TRUE(refusesToSend());
+    EXPECT_EQ(http.countOf(buyPage), 1) << "one is on its way";
+    http.fail(buyPage, HttpFailure::TimedOut);
+    push<KRBaseController>();
+    stack().pop();
+    http.answer(buyPage, refused("系统繁忙"));
+    EXPECT_TRUE(refusesToSend());
+    http.answer(buyPage, succeeded(QVariant::fromValue(nullptr)));
+    EXPECT_TRUE(refusesToSend());
+    http.answer(buyPage, succeeded("10000.00"));
+    EXPECT_EQ(screen->countText(), "         当前可买入810股");
+    submitEntry();
+    EXPECT_EQ(http.countOf(buyPath), 1);
+    EXPECT_EQ(http.countOf(buyPage), 4);
+}
+
+TEST_F(OrderEntryTest, AHoldingThatDoesNotTellWhatMayBeSoldIsNotTakenForNone)
+{
+    openSelling("");
+    enter("12.34", "100");
+    screen->submit();
+    EXPECT_EQ(screen->countText(), "");
+    EXPECT_EQ(lastBanner(), "没有可卖数量，请重新选择持仓");
+}
+
+TEST_F(OrderEntryTest, ADebtBuysNothing)
+{
+    openBuying("-100000");
+    screen->editPrice("12.34");
+    runLoop.advance(100ms);
+    screen->selectFraction(OrderEntryRules::All);
+    EXPECT_EQ(screen->quantity(), "0");
+}
+
+TEST_F(OrderEntryTest, BlanksAroundWhatIsPastedAreDropped)
+{
+    openBuying();
+    screen->editPrice(" 12.34\t");
+    screen->editQuantity(QString::fromUtf8("　800 "));
+    EXPECT_EQ(screen->price() + screen->quantity(), "12.34800");
+}
+
 TEST_F(OrderEntryTest, QuickButtonsWriteWholeLots)
 {
     openBuying();

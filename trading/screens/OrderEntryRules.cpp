@@ -27,6 +27,7 @@ const OrderTexts &OrderTexts::of(OrderSide side)
                                 QStringLiteral("请输入买入价格"),
                                 QStringLiteral("请输入买入数量"),
                                 QStringLiteral("买入数量须为100的整数倍"),
+                                QStringLiteral("正在获取可用资金，请稍后再试"),
                                 QStringLiteral("         当前可买入%1股"),
                                 QStringLiteral("继续买入")};
     // Kept on purpose: a missing stock is worded differently on this side.
@@ -37,6 +38,7 @@ const OrderTexts &OrderTexts::of(OrderSide side)
                                  QStringLiteral("请输入卖出价格"),
                                  QStringLiteral("请输入卖出数量"),
                                  QStringLiteral("卖出数量须为100的整数倍"),
+                                 QStringLiteral("没有可卖数量，请重新选择持仓"),
                                  QStringLiteral("         当前可卖出%1股"),
                                  QStringLiteral("继续卖出")};
     return side == OrderSide::Buy ? buy : sell;

@@ -14,6 +14,8 @@ struct OrderTexts {
     QString noPrice;
     QString noQuantity;
     QString notWholeLots;
+    /// Nobody knows how many shares they may be.
+    QString noLimit;
     /// Has a "%1" for the number of shares.
     QString count;
     QString continueTitle;

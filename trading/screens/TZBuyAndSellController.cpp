@@ -72,18 +72,15 @@ void TZBuyAndSellController::viewWillAppear()
     setTitle(texts.title);
     if (!isBuyType() || !Service::whetherAnEmptyString(stock.stockCode))
         startQuoteTimer();
-}
-
-void TZBuyAndSellController::viewWillDisappear()
-{
-    KRBaseController::viewWillDisappear();
-    Q_EMIT editingEnded();
+    if (std::exchange(covered, false))
+        askForMissingMoney();
 }
 
 void TZBuyAndSellController::viewDidDisappear()
 {
     KRBaseController::viewDidDisappear();
     shown = false;
+    covered = true;
     quoteTimer.stop();
     age.stop();
     if (orderTimer.isActive()) {
@@ -95,19 +92,31 @@ void TZBuyAndSellController::viewDidDisappear()
 void TZBuyAndSellController::getBuyPage()
 {
     const auto answered = [this](const Operation &, const QVariantMap &answer) {
-        usable = doubleValue(answer.value(dataKey));
+        const QVariant money = answer.value(dataKey);
+        if (Service::whetherAnEmptyString(money))
+            return;
+        usable = doubleValue(money);
         // A price may have been typed or tapped before the answer came.
         if (isBuyType() && !Service::whetherAnEmptyString(priceField))
             countTypedPrice();
     };
-    TZTradeTool::getBuyPageWithParam({}, Success{this, answered}, {});
+    const Operation operation = TZTradeTool::getBuyPageWithParam({}, Success{this, answered}, {});
+    readingMoney = operation != nullptr;
+    if (operation)
+        connect(operation.get(), &RequestOperation::finished, this, [this] { readingMoney = false; });
+}
+
+void TZBuyAndSellController::askForMissingMoney()
+{
+    if (isBuyType() && !usable && !readingMoney)
+        getBuyPage();
 }
 
 // The stock.
 
 void TZBuyAndSellController::gotoSelectStock()
 {
-    if (!stockSelectable || !isOnTop())
+    if (!stockSelectable || !isInFront())
         return;
     // Before the search takes the keyboard: once it is on top, what is being edited is the search's.
     endEditing();
@@ -193,8 +202,9 @@ void TZBuyAndSellController::drawBook()
 
 // Price, quantity, and how many shares they may be.
 
-void TZBuyAndSellController::editPrice(const QString &text)
+void TZBuyAndSellController::editPrice(const QString &edited)
 {
+    const QString text = edited.trimmed();
     if (text == priceField || !OrderEntryRules::acceptsPrice(text))
         return;
     setPrice(text);
@@ -203,8 +213,9 @@ void TZBuyAndSellController::editPrice(const QString &text)
         countTimer.startOnce(100ms, [this] { countTypedPrice(); });
 }
 
-void TZBuyAndSellController::editQuantity(const QString &text)
+void TZBuyAndSellController::editQuantity(const QString &edited)
 {
+    const QString text = edited.trimmed();
     if (text != quantityField && OrderEntryRules::acceptsQuantity(text))
         setQuantity(OrderEntryRules::cutQuantity(text), -1);
 }
@@ -229,13 +240,15 @@ void TZBuyAndSellController::countTypedPrice()
 
 void TZBuyAndSellController::countAffordable(double price)
 {
-    limit = OrderEntryRules::affordableShares(usable, price);
+    if (!usable)
+        return setCountLabel({});
+    limit = OrderEntryRules::affordableShares(*usable, price);
     setCountLabel(texts.count.arg(limit));
 }
 
 void TZBuyAndSellController::countHolding()
 {
-    if (isBuyType() || Service::whetherAnEmptyString(stock.availableShares))
+    if (isBuyType() || !isLimitKnown())
         return;
     limit = integerValue(stock.availableShares);
     setCountLabel(texts.count.arg(stock.availableShares));
@@ -247,7 +260,9 @@ void TZBuyAndSellController::selectFraction(int tag)
         return;
     if (isBuyType() && Service::whetherAnEmptyString(priceField))
         setQuantity(QStringLiteral("0"), tag);
-    const qint64 shares = OrderEntryRules::fractionOf(limit, static_cast<OrderEntryRules::Fraction>(tag));
+    // The service may tell of a debt; what would be written for it nobody could type.
+    const qint64 shares =
+        OrderEntryRules::fractionOf(std::max<qint64>(limit, 0), static_cast<OrderEntryRules::Fraction>(tag));
     setQuantity(QString::number(shares), tag);
 }
 
@@ -289,7 +304,14 @@ QString TZBuyAndSellController::fault() const
     const qint64 shares = integerValue(quantityField);
     if (!Service::isMultipleOfOneHundred(shares))
         return texts.notWholeLots;
+    if (!isLimitKnown())
+        return texts.noLimit;
     return shares > limit ? QStringLiteral("超过交易数量上限") : QString();
+}
+
+bool TZBuyAndSellController::isLimitKnown() const
+{
+    return isBuyType() ? usable.has_value() : !Service::whetherAnEmptyString(stock.availableShares);
 }
 
 OrderIntent TZBuyAndSellController::entry() const
@@ -326,6 +348,7 @@ void TZBuyAndSellController::submit()
     orderTimer.stop();
     wantedAgain.reset();
     wantsPassword.reset();
+    askForMissingMoney();
     if (const QString message = fault(); !message.isEmpty())
         Service::showErrorWithMsg(message);
     else if (const OrderIntent order = entry(); isInDoubt(order))

@@ -29,6 +29,7 @@ class TZBuyAndSellController : public KRBaseController, public StockChooser, pub
     Q_PROPERTY(QString currentPriceText READ currentPriceText NOTIFY currentPriceChanged)
     Q_PROPERTY(QString quantity READ quantity WRITE editQuantity NOTIFY quantityChanged)
     Q_PROPERTY(QString quantityPlaceholder READ quantityPlaceholder CONSTANT)
+    /// "" while nobody knows how many shares they may be.
     Q_PROPERTY(QString countText READ countText NOTIFY countChanged)
     Q_PROPERTY(QStringList fractionTitles READ fractionTitles CONSTANT)
     /// The tag of the quick button that wrote the quantity, -1 for none.
@@ -63,14 +64,16 @@ public:
     QString submitTitle() const { return texts.title; }
 
     const TZZorvanePageStocksModel &zorvanePageStocksModel() const { return stock; }
-    double useableAmount() const { return usable; }
+    /// 0 until it is known.
+    double useableAmount() const { return usable.value_or(0); }
     qint64 totalCount() const { return limit; }
     QString currentPrice() const { return latestPrice; }
     const QList<TZHandicapModel> &buyArr() const { return buyLevels; }
     const QList<TZHandicapModel> &sellArr() const { return sellLevels; }
 
-    void editPrice(const QString &text);
-    void editQuantity(const QString &text);
+    /// Blanks around what is pasted are dropped.
+    void editPrice(const QString &edited);
+    void editQuantity(const QString &edited);
     Q_INVOKABLE void gotoSelectStock();
     Q_INVOKABLE void selectFraction(int tag);
     /// Stays while an order is on its way: its outcome must be seen.
@@ -85,7 +88,6 @@ public:
 
     void viewDidLoad() override;
     void viewWillAppear() override;
-    void viewWillDisappear() override;
     void viewDidDisappear() override;
 
 Q_SIGNALS:
@@ -97,6 +99,8 @@ Q_SIGNALS:
 
 private:
     void getBuyPage();
+    /// What a buy page did not tell for want of an answer.
+    void askForMissingMoney();
     void startQuoteTimer();
     void fetchQuote();
     void showQuote(const QVariantMap &data);
@@ -114,6 +118,7 @@ private:
 
     /// What stands against sending the entry as it is now; "" when nothing does.
     QString fault() const;
+    bool isLimitKnown() const;
     OrderIntent entry() const;
     /// Whether one like it is of unknown outcome and the user has not yet said to want it once more.
     bool isInDoubt(const OrderIntent &order) const;
@@ -140,7 +145,9 @@ private:
     QString quantityField;
     QString countLabel;
     int fraction = -1;
-    double usable = 0;
+    /// None until a buy page has told it.
+    std::optional<double> usable;
+    bool readingMoney = false;
     qint64 limit = 0;
 
     QString latestPrice;
@@ -154,6 +161,7 @@ private:
     QuoteAge age;
 
     bool shown = false;
+    bool covered = false;
     Timer quoteTimer;
     Timer countTimer;
     Timer orderTimer;

@@ -244,7 +244,7 @@ bool TZStockDetailController::canSell() const
 
 void TZStockDetailController::buy()
 {
-    if (!isOnTop())
+    if (!isInFront())
         return;
     TZZorvanePageStocksModel bought;
     bought.stockCode = stock.stockCode;
@@ -254,6 +254,6 @@ void TZStockDetailController::buy()
 
 void TZStockDetailController::sell()
 {
-    if (canSell() && isOnTop())
+    if (canSell() && isInFront())
         navigationController()->push(std::make_unique<TZBuyAndSellController>(OrderSide::Sell, stock));
 }
