@@ -2,6 +2,9 @@
 
 #include "account/screens/TZModifyNicknameController.h"
 #include "account/screens/TZVerifyPhoneController.h"
+#include "core/platform/NotificationCenter.h"
+#include "core/platform/Platform.h"
+#include "core/session/NotificationNames.h"
 #include "core/session/TZUserModel.h"
 #include "core/session/TZUserTool.h"
 #include "core/util/Service.h"
@@ -35,12 +38,8 @@ void TZPersonalController::viewDidLoad()
     changeGrayBgColor();
     setTitle(QStringLiteral("个人资料"));
     setShowBackButton(true);
-}
-
-void TZPersonalController::viewWillAppear()
-{
-    TZFormController::viewWillAppear();
-    Q_EMIT userChanged();
+    Platform::current().notifications.observe(this, NotificationNames::userChanged,
+                                              [this](const QVariant &) { Q_EMIT userChanged(); });
 }
 
 void TZPersonalController::nickRowClick()

@@ -20,7 +20,6 @@ public:
     QString nick() const;
 
     void viewDidLoad() override;
-    void viewWillAppear() override;
     Q_INVOKABLE void nickRowClick();
     /// Asks whether the password may be changed, then opens the reset.
     Q_INVOKABLE void tradePwdRowClick();

@@ -1,9 +1,11 @@
 #include "core/session/TZUserTool.h"
 
 #include "core/net/ToolPolicy.h"
+#include "core/platform/NotificationCenter.h"
 #include "core/platform/Platform.h"
 #include "core/platform/PushService.h"
 #include "core/platform/SettingsStore.h"
+#include "core/session/NotificationNames.h"
 #include "core/session/SettingsKeys.h"
 #include "core/session/TZUserModel.h"
 #include "core/util/Service.h"
@@ -48,6 +50,7 @@ void store(const TZUserModel &user)
     SettingsStore &settings = Platform::current().settings;
     settings.setValue(SettingsKeys::user, toDictionary(user));
     settings.synchronize();
+    Platform::current().notifications.post(NotificationNames::userChanged);
 }
 
 /// The number of the latest "verify".

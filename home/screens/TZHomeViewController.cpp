@@ -36,6 +36,7 @@ QString TZHomeViewController::overviewAmount() const
 void TZHomeViewController::viewDidLoad()
 {
     TZBaseTableViewController::viewDidLoad();
+    setTitle(QStringLiteral("首页"));
     setTitleImage(QStringLiteral("home_nav"));
     showMessageButton(noMessage);
     Platform::current().notifications.observe(this, NotificationNames::refreshHome,
@@ -47,10 +48,11 @@ void TZHomeViewController::viewWillAppear()
 {
     TZBaseTableViewController::viewWillAppear();
     appeared = true;
+    // Before its own readings, which may have something to say.
+    Service::hideAlertView();
     refreshHomeData();
     if (Service::isLogin())
         getMessageCountRequest();
-    Service::hideAlertView();
 }
 
 void TZHomeViewController::viewWillDisappear()
@@ -74,13 +76,9 @@ void TZHomeViewController::refreshHomeData()
 
 void TZHomeViewController::getHomeDataWithRequest()
 {
-    const Operation operation = TZHomeTool::getHomeInfoWithParam(
+    refreshUntilAnswered(TZHomeTool::getHomeInfoWithParam(
         {}, Success{this, [this](const Operation &, const QVariantMap &answer) { showHome(answer); }},
-        Failure{});
-    if (!operation)
-        return endRefreshing();
-    connect(operation.get(), &RequestOperation::finished, this, [this] { endRefreshing(); });
-    endRefreshingAfter(15s);
+        Failure{}));
 }
 
 void TZHomeViewController::getUnloginHomeDataWithRequest()
@@ -145,7 +143,6 @@ void TZHomeViewController::showHome(const QVariantMap &answer)
     userIndexAssetModel = fromDictionary<TZUserIndexAssetModel>(data.value(QStringLiteral("asset")));
     assetKnown = true;
     showHeader();
-    endRefreshing();
 }
 
 void TZHomeViewController::showHeader()

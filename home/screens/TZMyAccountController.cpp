@@ -13,8 +13,6 @@
 #include "home/api/TZHomeTool.h"
 #include "home/screens/TZMoreViewController.h"
 
-using namespace std::chrono_literals;
-
 TZMyAccountController::TZMyAccountController(Router &appRouter) : router(appRouter) {}
 
 QString TZMyAccountController::nick() const
@@ -35,20 +33,22 @@ void TZMyAccountController::viewDidLoad()
     createNavLeftItemWithTitle({}, QStringLiteral("home_left"), {}, QStringLiteral("icon_more"));
     showAssets();
     connect(&amountsSwitch, &AmountsSwitch::changed, this, &TZMyAccountController::showAssets);
-    Platform::current().notifications.observe(this, NotificationNames::refreshAccount,
-                                              [this](const QVariant &) { getHomeDataWithRequest(); });
+    NotificationCenter &notifications = Platform::current().notifications;
+    notifications.observe(this, NotificationNames::refreshAccount,
+                          [this](const QVariant &) { getHomeDataWithRequest(); });
+    notifications.observe(this, NotificationNames::userChanged,
+                          [this](const QVariant &) { Q_EMIT accountChanged(); });
 }
 
 void TZMyAccountController::viewWillAppear()
 {
     TZBaseTableViewController::viewWillAppear();
-    Q_EMIT accountChanged();
     getHomeDataWithRequest();
 }
 
 void TZMyAccountController::getHomeDataWithRequest()
 {
-    const Operation operation = TZHomeTool::getHomeInfoWithParam(
+    refreshUntilAnswered(TZHomeTool::getHomeInfoWithParam(
         {},
         Success{this,
                 [this](const Operation &, const QVariantMap &answer) {
@@ -56,11 +56,7 @@ void TZMyAccountController::getHomeDataWithRequest()
                         answer.value(QStringLiteral("data")).toMap().value(QStringLiteral("asset")));
                     showAssets();
                 }},
-        Failure{});
-    if (!operation)
-        return endRefreshing();
-    connect(operation.get(), &RequestOperation::finished, this, [this] { endRefreshing(); });
-    endRefreshingAfter(15s);
+        Failure{}));
 }
 
 void TZMyAccountController::leftItemClick()

@@ -1,6 +1,7 @@
 #include "core/platform/ShareService.h"
 #include "core/session/NotificationNames.h"
 #include "core/session/SettingsKeys.h"
+#include "core/session/TZUserTool.h"
 #include "core/shell/KRNavigationController.h"
 #include "core/shell/KRSideMenu.h"
 #include "core/shell/KRWindow.h"
@@ -58,6 +59,16 @@ TEST_F(AccountTest, ItShowsTheFiguresAsTheServiceWritesThemAndReadsThemAgainWhen
     EXPECT_TRUE(http.hasPending(QStringLiteral("userIndex")));
     http.answer(QStringLiteral("userIndex"), refused(QString()));
     EXPECT_EQ(values().constFirst(), QStringLiteral("可用余额1000.5"));
+}
+
+TEST_F(AccountTest, ANicknameThatIsSavedAfterItsScreenWasLeftIsShown)
+{
+    int changes = 0;
+    QObject::connect(account, &TZMyAccountController::accountChanged, [&changes] { ++changes; });
+    TZUserTool::setNickWithParam({{QStringLiteral("nick"), QStringLiteral("小雨")}}, {}, {});
+    http.answer(QStringLiteral("user/set_nick"), succeeded());
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(account->nick(), QStringLiteral("小雨"));
 }
 
 TEST_F(AccountTest, HiddenAmountsAreHiddenOnEveryScreenAndAfterAStart)
@@ -157,6 +168,7 @@ TEST_F(AccountTest, TheServiceIsCalledOnlyAfterAQuestion)
     alert()->rightBtnClick();
     ASSERT_EQ(kits.calls.size(), 1);
     EXPECT_TRUE(kits.calls.constFirst().contains(QStringLiteral("tel://400-000-0000")));
+    EXPECT_TRUE(router.calls.isEmpty()) << "its answer is not that of the question about signing out";
 }
 
 TEST_F(AccountTest, SigningOutForgetsTheUserAndStartsOver)

@@ -3,6 +3,7 @@
 #include "core/shell/KRNavigationController.h"
 #include "core/shell/KRSideMenu.h"
 #include "core/shell/KRWindow.h"
+#include "core/util/Service.h"
 #include "core/util/Text.h"
 #include "home/screens/TZHomeViewController.h"
 #include "tests/support/RecordingRouter.h"
@@ -143,11 +144,22 @@ TEST_F(HomePageTest, OfflineAtTheFirstLaunchItIsNotEmpty)
     EXPECT_EQ(http.count(), 0);
 }
 
+TEST_F(HomePageTest, ComingIntoSightItTakesAwayWhatWasSaidBeforeAndOfflineSaysSo)
+{
+    Service::showErrorWithMsg(QStringLiteral("加载失败"));
+    show();
+    EXPECT_TRUE(banners().isEmpty());
+    settings.setValue(SettingsKeys::networkStatus, false);
+    cover()->dismiss();
+    EXPECT_EQ(banners(), QStringList(QStringLiteral("网络异常")));
+}
+
 TEST_F(HomePageTest, SignedInItShowsTheAssetsAndTheUnreadMessages)
 {
     signIn();
     show();
     EXPECT_EQ(home->face(), Face::SignedIn);
+    EXPECT_EQ(http.sent.front().path(), userIndex);
     http.answer(userIndex, assets(QStringLiteral("0"), QStringLiteral("88.50"), QStringLiteral("1.234")));
     const TZHomeHeaderView header = home->header();
     EXPECT_EQ(header.totalAsset, QStringLiteral("1,234,567.80"));
@@ -256,6 +268,8 @@ TEST_F(HomePageTest, APullThatIsNeverAnsweredEndsAfterFifteenSeconds)
     show();
     home->beginRefreshing();
     EXPECT_EQ(http.countOf(userIndex), 2);
+    http.answer(http.sent.front(), assets(QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("1")));
+    EXPECT_TRUE(home->refreshing()) << "the answer was to the reading before";
     runLoop.advance(14s);
     EXPECT_TRUE(home->refreshing());
     runLoop.advance(1s);

@@ -44,6 +44,41 @@ TEST_F(HomeToolTest, OfflineItAnswersAtOnceFromWhatIsStoredAndSendsNothing)
     EXPECT_EQ(http.count(), 1);
 }
 
+TEST_F(HomeToolTest, AGoodAnswerIsHandedOnOnceItIsStoredAndTheIndicatorIsGone)
+{
+    signIn();
+    bool handedOn = false;
+    TZHomeTool::getHomeInfoWithParam({}, Success::unowned([&](const Operation &, const QVariantMap &answer) {
+                                         handedOn = true;
+                                         EXPECT_FALSE(overlays.isWaiting());
+                                         EXPECT_EQ(settings.value(QStringLiteral("UserIndex")).toMap(),
+                                                   answer);
+                                         EXPECT_EQ(settings.flushes, 1);
+                                     }),
+                                     {});
+    EXPECT_TRUE(overlays.isWaiting());
+    http.answer(userIndex, succeeded());
+    EXPECT_TRUE(handedOn);
+}
+
+TEST_F(HomeToolTest, TheWarningIsReadFromTheServiceOnly)
+{
+    signIn();
+    const QString warn = QStringLiteral("warn");
+    const QStringList before = settings.allKeys();
+    TZHomeTool::getWarnInfoWithParam({}, note(), noteFailure());
+    EXPECT_TRUE(http.pending(warn).fields().isEmpty());
+    http.answer(warn, succeeded(QVariantMap{{QStringLiteral("level"), 1}}));
+    ASSERT_EQ(answers.size(), 1);
+    EXPECT_EQ(settings.allKeys(), before);
+    TZHomeTool::getWarnInfoWithParam({}, note(), noteFailure());
+    http.answer(warn, refused(QString()));
+    TZHomeTool::getWarnInfoWithParam({}, note(), noteFailure());
+    http.fail(warn, HttpFailure::TimedOut);
+    EXPECT_EQ(answers.size(), 1) << "nothing stands for an answer that did not come";
+    EXPECT_EQ(failures, 1);
+}
+
 TEST_F(HomeToolTest, OfflineWithNothingStoredNobodyIsCalled)
 {
     goOffline();

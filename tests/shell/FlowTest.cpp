@@ -64,6 +64,16 @@ TEST_F(FlowTest, SignedOutTheHomePageIsShownAndNobodyIsAskedToSignIn)
     EXPECT_EQ(window.presented()->count(), 0);
 }
 
+TEST_F(FlowTest, AnOfflineStartSaysSo)
+{
+    reachability.status = NetworkStatus::NotReachable;
+    KRWindow fresh;
+    AppRouter freshRouter(fresh);
+    AppDelegate offline(fresh, freshRouter, [] {});
+    offline.didFinishLaunchingWithOptions({});
+    EXPECT_EQ(banners(), QStringList(QStringLiteral("网络异常")));
+}
+
 TEST_F(FlowTest, MyAccountIsShownOnlyAfterTheSignInItAskedFor)
 {
     chooseRow(1);
