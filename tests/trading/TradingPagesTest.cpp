@@ -117,6 +117,16 @@ TEST_F(TradingPageTest, LessThanOneYuanIsNoMoneyToBuyWith)
     }
 }
 
+TEST_F(TradingPageTest, BeforeAnAnswerNothingIsSaidOfTheMoney)
+{
+    auto *const page = push<TZRealTradingController>(router);
+    http.answer(QStringLiteral("zorvanePage"), refused("系统维护"));
+    EXPECT_EQ(page->holdingsTitle(), "当前持仓(--)");
+    page->actionBarClick(TZRealTradingController::BuyTag);
+    EXPECT_EQ(alert(), nullptr);
+    EXPECT_NE(top<TZBuyAndSellController>(), nullptr);
+}
+
 TEST_F(TradingPageTest, WithoutMoneyTheWaysLeadToFinancingAndRecharge)
 {
     open("0")->actionBarClick(TZRealTradingController::BuyTag);
@@ -176,7 +186,9 @@ TEST_F(TradingPageTest, TheRightItemShowsTheWarningLinesAndTheRules)
     TZRealTradingController *const page = open();
     page->rightItemClick();
     http.answer(QStringLiteral("warnInfo"), succeeded(QVariantMap()));
-    EXPECT_EQ(alert(), nullptr);
+    ASSERT_NE(alert(), nullptr);
+    EXPECT_EQ(alert()->ensureText(), "亏损警告线 --\n亏损平仓线 --");
+    alert()->rightBtnClick();
     page->rightItemClick();
     http.answer(QStringLiteral("warnInfo"),
                 succeeded(QVariantMap{{"warnLine", 9000}, {"closeOutLine", "8000"}}));
@@ -369,9 +381,66 @@ TEST_F(WithdrawalsTest, TwoTapsSendOneCancellationOfTheLastTapped)
     runLoop.advance(499ms);
     screen->withdrawalsBtnDidClick(1);
     screen->withdrawalsBtnDidClick(2);
+    EXPECT_EQ(banners(), QStringList{"上一笔撤单没有提交：海天传媒(600001)"});
     runLoop.advance(10s);
     EXPECT_EQ(http.countOf(cancelPath), 1);
     EXPECT_EQ(http.pending(cancelPath).fields(), (QVariantMap{{"tradeEntrustNo", "E12"}}));
+}
+
+TEST_F(WithdrawalsTest, WhatWasTappedIsCancelledAlsoWhenTheListChangesMeanwhile)
+{
+    screen->withdrawalsBtnDidClick(0);
+    screen->beginRefreshing();
+    list({entrust("12", "E12", "2"), entrust("11", "E11")});
+    screen->withdrawalsBtnDidClick(1);
+    runLoop.advance(500ms);
+    EXPECT_EQ(http.pending(cancelPath).fields(), (QVariantMap{{"tradeEntrustNo", "E11"}}));
+    EXPECT_TRUE(banners().isEmpty()) << "the same one was tapped again";
+}
+
+TEST_F(WithdrawalsTest, LeavingWithinTheHalfSecondSendsAtOnce)
+{
+    screen->withdrawalsBtnDidClick(0);
+    KRNavigationController *const covering = window.present(std::make_unique<KRBaseController>());
+    EXPECT_EQ(http.countOf(cancelPath), 1);
+    EXPECT_FALSE(overlays.isWaiting());
+    http.answer(cancelPath, succeeded());
+    EXPECT_EQ(http.countOf(statusPath), 0);
+    const int reads = http.countOf("callBackPage");
+    covering->dismiss();
+    EXPECT_EQ(http.countOf("callBackPage"), reads + 1) << "it may be through by now";
+
+    screen->withdrawalsBtnDidClick(1);
+    screen->backButtonClicked();
+    screen->withdrawalsBtnDidClick(0);
+    settle();
+    runLoop.advance(1s);
+    EXPECT_EQ(http.countOf(cancelPath), 2);
+    http.fail(cancelPath, HttpFailure::Connection);
+    EXPECT_EQ(banners(), QStringList{"加载失败"});
+}
+
+TEST_F(WithdrawalsTest, AnAnswerThatIsLostOrComesWhileCoveredReadsTheList)
+{
+    const int reads = http.countOf("callBackPage");
+    cancel(0);
+    http.fail(cancelPath, HttpFailure::Offline);
+    EXPECT_EQ(http.countOf("callBackPage"), reads);
+    cancel(0);
+    http.fail(cancelPath, HttpFailure::TimedOut);
+    EXPECT_EQ(http.countOf("callBackPage"), reads + 1);
+    EXPECT_FALSE(overlays.isWaiting()) << "quietly";
+
+    list({entrust("11", "E11"), entrust("", "E13")});
+    int known = reads + 1;
+    for (const int row : {0, 1}) {
+        cancel(row);
+        KRNavigationController *const covering = window.present(std::make_unique<KRBaseController>());
+        http.answer(cancelPath, succeeded());
+        EXPECT_EQ(http.countOf("callBackPage"), known) << "not over another screen";
+        covering->dismiss();
+        EXPECT_EQ(http.countOf("callBackPage"), ++known);
+    }
 }
 
 TEST_F(WithdrawalsTest, ACancellationIsAskedForUntilItIsConfirmed)
@@ -586,7 +655,7 @@ TEST_F(TradingFixture, TheTitleDecidesWhichRowsAreShown)
     detail.setEntrustsTodayModel(entrusted);
     EXPECT_EQ(linesOf(detail), (QStringList{"证券名称 海天传媒", "证券代码 600001", "委托类型 买入",
                                             "委托价格 10.00", "成交价格 9.99", "成交数量 300",
-                                            "成交总额 2,997.00", "成交时间 not a stamp", "市场类别 上海"}));
+                                            "成交总额 2997.00", "成交时间 not a stamp", "市场类别 上海"}));
     for (const QString title : {"委托详情", "别的"}) {
         detail.setTitle(title);
         EXPECT_EQ(linesOf(detail),

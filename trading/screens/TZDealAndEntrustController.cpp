@@ -2,7 +2,6 @@
 
 #include "core/shell/KRNavigationController.h"
 #include "core/shell/KRWindow.h"
-#include "core/util/Amount.h"
 #include "trading/api/EntrustStatus.h"
 #include "trading/api/TZTradeTool.h"
 #include "trading/screens/TZDealDetailController.h"
@@ -30,7 +29,7 @@ TodayRow TodayRow::of(const TZDetailsTodayModel &deal)
             TradeTexts::time(deal.updatedAt),
             deal.businessPrice,
             deal.businessShares,
-            labelAmount(deal.businessMoney),
+            deal.businessMoney,
             false,
             false};
 }

@@ -1,7 +1,6 @@
 #include "trading/screens/TZDealDetailController.h"
 
 #include "core/shell/KRNavigationController.h"
-#include "core/util/Amount.h"
 #include "trading/api/EntrustStatus.h"
 #include "trading/screens/TradeTexts.h"
 
@@ -20,7 +19,7 @@ QList<DetailRow> dealRows(const TZDetailsTodayModel &deal)
         {QStringLiteral("委托价格"), deal.entrustPrice},
         {QStringLiteral("成交价格"), deal.businessPrice},
         {QStringLiteral("成交数量"), deal.businessShares},
-        {QStringLiteral("成交总额"), labelAmount(deal.businessMoney)},
+        {QStringLiteral("成交总额"), deal.businessMoney},
         {QStringLiteral("成交时间"), TradeTexts::time(deal.updatedAt)},
         {QStringLiteral("市场类别"), deal.exchangeType},
     };

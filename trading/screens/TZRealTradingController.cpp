@@ -22,9 +22,16 @@ using namespace std::chrono_literals;
 namespace {
 const QString dataKey = QStringLiteral("data");
 
+const QString dashes = QStringLiteral("--");
+
 QString figure(const QString &amount)
 {
-    return Service::whetherAnEmptyString(amount) ? QStringLiteral("--") : labelAmount(amount);
+    return Service::whetherAnEmptyString(amount) ? dashes : labelAmount(amount);
+}
+
+QString figureWithYuan(const QString &amount)
+{
+    return Service::whetherAnEmptyString(amount) ? dashes : labelAmountWithYuan(amount);
 }
 } // namespace
 
@@ -53,7 +60,7 @@ QString TZRealTradingController::frozenMoney() const
 
 QString TZRealTradingController::holdingsTitle() const
 {
-    return QStringLiteral("当前持仓(%1)").arg(holds.size());
+    return QStringLiteral("当前持仓(%1)").arg(pageKnown ? QString::number(holds.size()) : dashes);
 }
 
 QString TZRealTradingController::profitText() const
@@ -97,6 +104,7 @@ void TZRealTradingController::showPage(const QVariantMap &data)
     holds = fromArray<TZZorvanePageStocksModel>(data.value(QStringLiteral("stocks")));
     setNoData(holds.isEmpty());
     pageModel = fromDictionary<TZZorvanePageModel>(data);
+    pageKnown = true;
     QList<HoldingRow> rows;
     for (const TZZorvanePageStocksModel &holding : std::as_const(holds))
         rows.append(HoldingRow::of(holding));
@@ -125,8 +133,9 @@ void TZRealTradingController::actionBarClick(int tag)
 
 void TZRealTradingController::buy()
 {
-    // Kept on purpose: less than one whole yuan counts as none.
-    if (integerValue(pageModel.availableMoney) == 0)
+    // Kept on purpose: less than one whole yuan counts as none. Before an answer nothing is known of it, and
+    // order entry reads the amount itself.
+    if (pageKnown && integerValue(pageModel.availableMoney) == 0)
         showNoMoney();
     else
         navigationController()->push(std::make_unique<TZBuyAndSellController>(OrderSide::Buy));
@@ -184,12 +193,9 @@ void TZRealTradingController::rightItemClick()
 
 void TZRealTradingController::showWarning()
 {
-    if (Service::whetherAnEmptyString(warnInfo.warnLine) &&
-        Service::whetherAnEmptyString(warnInfo.closeOutLine))
-        return;
     const QString lines =
         QStringLiteral("亏损警告线 %1\n亏损平仓线 %2")
-            .arg(labelAmountWithYuan(warnInfo.warnLine), labelAmountWithYuan(warnInfo.closeOutLine));
+            .arg(figureWithYuan(warnInfo.warnLine), figureWithYuan(warnInfo.closeOutLine));
     const auto seeDetail = [this] {
         router.openWeb(*this,
                        {QStringLiteral("股票购买规则"), Platform::current().application.apiBaseUrl() +

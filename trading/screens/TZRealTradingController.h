@@ -27,6 +27,7 @@ class TZRealTradingController : public TZBaseTableViewController {
     Q_PROPERTY(QString stockValue READ stockValue NOTIFY pageChanged)
     Q_PROPERTY(QString availableMoney READ availableMoney NOTIFY pageChanged)
     Q_PROPERTY(QString frozenMoney READ frozenMoney NOTIFY pageChanged)
+    /// With dashes for the number until it is known.
     Q_PROPERTY(QString holdingsTitle READ holdingsTitle NOTIFY pageChanged)
     /// "" while the profit is not known; `profitTrend` 1 gain, 0 neither, -1 loss.
     Q_PROPERTY(QString profitText READ profitText NOTIFY pageChanged)
@@ -76,6 +77,7 @@ private:
 
     Router &router;
     TZZorvanePageModel pageModel;
+    bool pageKnown = false;
     QList<TZZorvanePageStocksModel> holds;
     TZWarnInfoModel warnInfo;
     RowListModel<TradingAction> actionRows;

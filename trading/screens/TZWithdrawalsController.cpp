@@ -42,17 +42,26 @@ void TZWithdrawalsController::viewWillAppear()
 {
     TZBaseTableViewController::viewWillAppear();
     shown = true;
-    // Nobody asked meanwhile whether the cancellation is through.
-    if (std::exchange(watchInterrupted, false))
+    if (std::exchange(outdated, false))
         refreshData();
+}
+
+void TZWithdrawalsController::viewWillDisappear()
+{
+    // Before the base takes the indicator away, which this shows.
+    if (pending.isActive()) {
+        pending.stop();
+        withdrawals();
+    }
+    TZBaseTableViewController::viewWillDisappear();
 }
 
 void TZWithdrawalsController::viewDidDisappear()
 {
     TZBaseTableViewController::viewDidDisappear();
     shown = false;
-    watchInterrupted = timer.isActive();
-    pending.stop();
+    // Nobody asks from now on whether the cancellation is through.
+    outdated = timer.isActive();
     timer.stop();
 }
 
@@ -76,9 +85,14 @@ void TZWithdrawalsController::showEntrusts(const QVariant &data)
 
 void TZWithdrawalsController::withdrawalsBtnDidClick(int row)
 {
-    if (row < 0 || row >= entrusts.size())
+    if (row < 0 || row >= entrusts.size() || !isInFront())
         return;
-    callBackPageModel = entrusts.at(row);
+    const TZCallBackPageModel &tapped = entrusts.at(row);
+    if (pending.isActive() && tapped.entrustNo != callBackPageModel.entrustNo)
+        Service::showErrorWithMsg(
+            QStringLiteral("上一笔撤单没有提交：%1")
+                .arg(TradeTexts::stock(callBackPageModel.stockName, callBackPageModel.stockCode)));
+    callBackPageModel = tapped;
     pending.startOnce(500ms, [this] { withdrawals(); });
 }
 
@@ -89,18 +103,22 @@ void TZWithdrawalsController::withdrawals()
         watchedOrder = id;
         watchCancellation();
     };
+    const auto lost = [this](const Operation &, const RequestError &error) {
+        if (error.mayHaveArrived())
+            readAgain();
+    };
     TZTradeTool::postCreateCancelWithParam({{QStringLiteral("tradeEntrustNo"), callBackPageModel.entrustNo}},
-                                           Success{this, answered}, {});
+                                           Success{this, answered}, Failure{this, lost});
 }
 
 void TZWithdrawalsController::watchCancellation()
 {
+    if (!shown)
+        return readAgain();
     // Without an identifier there is nothing to ask for: the indicator, which the tool left on, would stay
     // for ever.
     if (Service::whetherAnEmptyString(watchedOrder))
         return cancellationEnded();
-    if (!shown)
-        return;
     queryWithDrawStatus();
     if (!timer.isActive())
         timer.startRepeating(3s, [this] { queryWithDrawStatus(); });
@@ -121,4 +139,13 @@ void TZWithdrawalsController::cancellationEnded()
     timer.stop();
     hidenWaitngView();
     refreshData();
+}
+
+void TZWithdrawalsController::readAgain()
+{
+    outdated = !shown;
+    if (!shown)
+        return;
+    refreshData();
+    hidenWaitngView();
 }

@@ -40,11 +40,12 @@ public:
     const QList<TZCallBackPageModel> &withdrawalsArray() const { return entrusts; }
     QString orderId() const { return watchedOrder; }
 
-    /// Half a second after the last tap one request is sent.
+    /// Half a second after the last tap one request is sent; at once when the screen is left before.
     Q_INVOKABLE void withdrawalsBtnDidClick(int row);
 
     void viewDidLoad() override;
     void viewWillAppear() override;
+    void viewWillDisappear() override;
     void viewDidDisappear() override;
 
 protected:
@@ -56,6 +57,7 @@ private:
     void watchCancellation();
     void queryWithDrawStatus();
     void cancellationEnded();
+    void readAgain();
 
     QList<TZCallBackPageModel> entrusts;
     TZCallBackPageModel callBackPageModel;
@@ -64,5 +66,6 @@ private:
     Timer pending;
     Timer timer;
     bool shown = false;
-    bool watchInterrupted = false;
+    /// Something may have happened to the entrusts while the screen was covered.
+    bool outdated = false;
 };
