@@ -15,6 +15,9 @@ public:
     QString heading() const override { return QStringLiteral("请再次输入交易密码"); }
     QString caption() const override { return QStringLiteral("与上一步输入的六位数字一致"); }
 
+    /// Not while the password is being changed: whether it was must be seen.
+    bool canBeLeft() const override { return !isSending(); }
+
     void viewDidLoad() override;
 
 protected:

@@ -12,13 +12,18 @@ void TZFormController::viewWillAppear()
 
 void TZFormController::waitFor(const Operation &operation)
 {
-    sending = true;
-    connect(operation.get(), &RequestOperation::finished, this, [this] { sending = false; });
+    setSending(true);
+    connect(operation.get(), &RequestOperation::finished, this, [this] { setSending(false); });
+}
+
+void TZFormController::setSending(bool nowSending)
+{
+    sending = nowSending;
+    Q_EMIT barChanged();
 }
 
 void TZFormController::pushNext(std::unique_ptr<KRBaseController> next)
 {
-    KRNavigationController *const stack = navigationController();
-    if (stack && stack->top() == this)
-        stack->push(std::move(next));
+    if (isOnTop())
+        navigationController()->push(std::move(next));
 }

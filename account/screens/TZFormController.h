@@ -21,5 +21,7 @@ protected:
     void pushNext(std::unique_ptr<KRBaseController> next);
 
 private:
+    void setSending(bool nowSending);
+
     bool sending = false;
 };

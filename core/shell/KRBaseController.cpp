@@ -95,7 +95,7 @@ void KRBaseController::leftItemClick()
 
 void KRBaseController::popFromStack()
 {
-    if (isOnTop())
+    if (isOnTop() && canBeLeft())
         navigation->pop();
 }
 

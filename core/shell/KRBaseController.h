@@ -58,8 +58,8 @@ public:
     virtual void viewWillDisappear();
     virtual void viewDidDisappear() {}
 
-    /// Both pop the stack while this screen is on top of it: a second tap on a bar that is already leaving
-    /// does nothing.
+    /// Both pop the stack while this screen is on top of it and can be left: a second tap on a bar that is
+    /// already leaving does nothing.
     Q_INVOKABLE virtual void backButtonClicked();
     Q_INVOKABLE virtual void leftItemClick();
     Q_INVOKABLE virtual void rightItemClick() {}

@@ -225,10 +225,17 @@ TEST_F(PersonalTest, ARefusedOrLostPasswordStaysAndCanBeSentAgain)
 {
     for (const auto &[isResetPassword, path] : {std::pair(true, update), std::pair(false, setPassword)}) {
         TZEnsurePasswordController *const ensure = toEnsure(isResetPassword);
+        QList<bool> told;
+        QObject::connect(ensure, &KRBaseController::barChanged, &observer,
+                         [&] { told.append(ensure->canBeLeft()); });
         ensure->setInput(password);
         ensure->setInput(password + QStringLiteral("1"));
         EXPECT_EQ(http.countOf(path), 1) << "one at a time";
+        ensure->backButtonClicked();
+        EXPECT_EQ(top<TZEnsurePasswordController>(), ensure) << "its outcome must be seen";
         http.answer(path, refused(QStringLiteral("请先完成身份验证")));
+        EXPECT_EQ(told, (QList<bool>{false, true}));
+        ensure->disconnect(&observer);
         EXPECT_EQ(banners(), QStringList(QStringLiteral("请先完成身份验证")));
         EXPECT_FALSE(overlays.isWaiting());
         EXPECT_EQ(top<TZEnsurePasswordController>(), ensure);

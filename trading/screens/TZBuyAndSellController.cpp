@@ -422,12 +422,6 @@ void TZBuyAndSellController::askForTradePwd(const SentOrder &sent, bool hadPassw
     showTradePwdPrompt();
 }
 
-void TZBuyAndSellController::backButtonClicked()
-{
-    if (canBeLeft())
-        KRBaseController::backButtonClicked();
-}
-
 void TZBuyAndSellController::orderPlaced()
 {
     clearFields();

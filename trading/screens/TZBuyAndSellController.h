@@ -78,7 +78,6 @@ public:
     Q_INVOKABLE void selectFraction(int tag);
     /// Stays while an order is on its way: its outcome must be seen.
     bool canBeLeft() const override { return !orderOnItsWay; }
-    void backButtonClicked() override;
     /// Checks the entry and sends the order, with the trade password when it is needed. Does nothing while an
     /// order is on its way or the password is being asked for.
     Q_INVOKABLE void submit();
