@@ -34,8 +34,12 @@ public:
     {
         if (!isSafe(url))
             return fail(HttpFailure::Tls);
-        body = new OneShotBody(request.body, this);
-        reply = manager.sendCustomRequest(prepared(url), request.method, body);
+        if (request.method == "GET") {
+            reply = manager.get(prepared(url));
+        } else {
+            body = new OneShotBody(request.body, this);
+            reply = manager.sendCustomRequest(prepared(url), request.method, body);
+        }
         connect(reply, &QNetworkReply::finished, this, [this] { receive(); });
     }
 
@@ -77,10 +81,17 @@ private:
         const QUrl target = reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
         if (const auto failure = failureOf(reply->error()))
             return fail(*failure);
-        if ((status == 301 || status == 302 || status == 303) && target.isValid())
+        if (target.isValid() && isFollowed(status))
             return redirect(reply->url().resolved(target));
         finish(HttpResponse{status, reply->header(QNetworkRequest::ContentTypeHeader).toByteArray(),
                             reply->readAll(), bodyWasSent});
+    }
+
+    /// 307 and 308 ask for the same method again, with its body.
+    bool isFollowed(int status) const
+    {
+        const bool sameAgain = status == 307 || status == 308;
+        return status == 301 || status == 302 || status == 303 || (sameAgain && request.method == "GET");
     }
 
     void redirect(const QUrl &target)
@@ -90,7 +101,7 @@ private:
         const QUrl from = reply->url();
         if (target.scheme() != from.scheme() || target.authority() != from.authority())
             request.headers.clear();
-        bodyWasSent = bodyWasSent || body->wasTaken();
+        bodyWasSent = bodyWasSent || (body && body->wasTaken());
         request.method = "GET";
         request.body.clear();
         reply->deleteLater();
