@@ -1,13 +1,16 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Zorvane.Ui
 
-/// Six dots that mirror how many digits were typed into the field hidden behind them. `text` is what the screen holds;
-/// every edit is handed over with `edited`.
+/// Six dots that mirror how many digits were typed into the field hidden behind them. `digits` is what the screen holds;
+/// every edit is handed over with `edited`. The field itself holds nothing and says how many there are.
 FocusScope {
     id: row
 
-    property string text
+    property string digits
+    /// How many digits there are, for those who do not see the dots.
+    required property string countText
     property string placeholder
     /// Whether each of the six dots is lit.
     required property list<bool> lit
@@ -16,33 +19,18 @@ FocusScope {
 
     signal edited(string value)
 
-    function showText() {
-        if (field.text !== row.text)
-            field.text = row.text
-    }
-
     implicitWidth: Math.min(6 * 48, parent ? parent.width : 6 * 48)
     implicitHeight: Theme.buttonHeight
-    onTextChanged: showText()
-    // The row speaks for its field: Qt gives a password field no name, and a field that is none would speak its text.
-    Accessible.role: Accessible.EditableText
-    Accessible.name: placeholder
-    Accessible.focusable: true
-    Accessible.focused: field.activeFocus
 
-    TextInput {
+    DigitField {
         id: field
         anchors.fill: parent
         focus: true
-        activeFocusOnTab: true
-        echoMode: TextInput.Password
-        inputMethodHints: Qt.ImhDigitsOnly | Qt.ImhSensitiveData | Qt.ImhNoPredictiveText
-        cursorDelegate: Item {}
-        Accessible.ignored: true
-        onTextEdited: {
-            row.edited(text)
-            row.showText()
-        }
+        Accessible.role: Accessible.EditableText
+        Accessible.name: row.placeholder
+        Accessible.description: row.countText
+        onTyped: text => row.edited(row.digits + text)
+        onErased: row.edited(row.digits.slice(0, -1))
     }
     Rectangle {
         anchors.fill: parent
@@ -78,8 +66,5 @@ FocusScope {
                 color: row.tones.hairline
             }
         }
-    }
-    TapHandler {
-        onTapped: field.forceActiveFocus()
     }
 }

@@ -48,7 +48,7 @@ FocusScope {
     function endEditing(area: Item): bool {
         return Array.from(area.children).some(child => {
             const chosen = child.focus || !(child instanceof FocusScope)
-            if (!chosen || !(child.focus && child instanceof TextInput))
+            if (!chosen || !(child.focus && (child instanceof TextInput || child instanceof DigitField)))
                 return chosen && endEditing(child)
             child.focus = false
             return true

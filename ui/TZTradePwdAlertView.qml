@@ -42,7 +42,8 @@ DialogFrame {
             anchors.centerIn: parent
             focus: true
             placeholder: "交易密码"
-            text: box.prompt.inputTextField
+            digits: box.prompt.inputTextField
+            countText: box.prompt.countText
             lit: box.prompt.btns
             onEdited: value => box.prompt.inputTextField = value
         }

@@ -14,8 +14,8 @@ FocusScope {
     property int cover: -1
     property bool sliding: false
 
-    function endEditing(field) {
-        if (field)
+    function endEditing(field: Item) {
+        if (field instanceof TextInput || field instanceof DigitField)
             field.focus = false
     }
 
@@ -80,7 +80,7 @@ FocusScope {
     Connections {
         target: main.window
         function onEditingEnded() {
-            main.endEditing(main.Window.activeFocusItem as TextInput)
+            main.endEditing(main.Window.activeFocusItem)
         }
     }
     RootLoader {

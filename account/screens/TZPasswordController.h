@@ -11,6 +11,7 @@ class TZPasswordController : public TZFormController {
     Q_OBJECT
     /// What is written is cleaned first; with the sixth digit the screen goes on.
     Q_PROPERTY(QString input READ input WRITE setInput NOTIFY inputChanged)
+    Q_PROPERTY(QString countText READ countText NOTIFY inputChanged)
     // Whether each dot is lit.
     Q_PROPERTY(bool button1 READ button1 NOTIFY inputChanged)
     Q_PROPERTY(bool button2 READ button2 NOTIFY inputChanged)
@@ -30,6 +31,7 @@ public:
 
     QString input() const { return digits.text(); }
     void setInput(const QString &text);
+    QString countText() const { return digits.countText(); }
     bool button1() const { return digits.isLit(0); }
     bool button2() const { return digits.isLit(1); }
     bool button3() const { return digits.isLit(2); }

@@ -16,7 +16,8 @@ StepPage {
         deep: true
         focus: true
         placeholder: "交易密码"
-        text: page.screen.input
+        digits: page.screen.input
+        countText: page.screen.countText
         lit: [page.screen.button1, page.screen.button2, page.screen.button3, page.screen.button4, page.screen.button5,
               page.screen.button6]
         onEdited: value => page.screen.input = value

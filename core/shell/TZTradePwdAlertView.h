@@ -23,6 +23,7 @@ class TZTradePwdAlertView : public KRDialog {
     Q_OBJECT
     /// The digits typed so far, 0 to 6 of them. What is written is cleaned first.
     Q_PROPERTY(QString inputTextField READ inputTextField WRITE setInputTextField NOTIFY inputChanged)
+    Q_PROPERTY(QString countText READ countText NOTIFY inputChanged)
     /// The six dots, `aBtn` to `fBtn`: whether each is lit.
     Q_PROPERTY(QList<bool> btns READ btns NOTIFY inputChanged)
     Q_PROPERTY(bool shown READ isShown NOTIFY shownChanged)
@@ -42,6 +43,7 @@ public:
 
     QString inputTextField() const { return input.text(); }
     void setInputTextField(const QString &text);
+    QString countText() const { return input.countText(); }
     bool aBtn() const { return input.isLit(0); }
     bool bBtn() const { return input.isLit(1); }
     bool cBtn() const { return input.isLit(2); }

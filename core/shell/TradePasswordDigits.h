@@ -19,6 +19,8 @@ public:
     bool isComplete() const { return digits.size() == length; }
     /// Whether the dot is lit; they are counted from 0.
     bool isLit(int dot) const { return dot < digits.size(); }
+    /// How many there are, for those who do not see the dots: "已输入3位".
+    QString countText() const { return QStringLiteral("已输入%1位").arg(digits.size()); }
     void wipe();
 
 private:

@@ -214,7 +214,7 @@ bool Hand::isAt(const Control &control) const
     // A field shows that it has the keyboard with its cursor and its line, all else with a ring.
     QQuickItem *const focused = window.activeFocusItem();
     const QAccessibleInterface *const spoken = spokenOf(focused);
-    const bool seen =
-        focused && (focused->inherits("QQuickTextInput") || focused->property("showsFocus").toBool());
+    const bool seen = focused && (focused->inherits("QQuickTextInput") || focused->inherits("DigitField") ||
+                                  focused->property("showsFocus").toBool());
     return seen && spoken && spoken->text(QAccessible::Name) == control.name;
 }

@@ -4,6 +4,8 @@
 #include "core/shell/TZInfoAlertView.h"
 #include "core/shell/TZPlainPageController.h"
 
+#include <QAccessible>
+#include <QMetaEnum>
 #include <QQmlEngine>
 
 namespace {
@@ -11,7 +13,44 @@ std::unique_ptr<KRBaseController> page(const QString &title)
 {
     return std::make_unique<TZPlainPageController>(title, QStringLiteral("text of ") + title);
 }
+
+QString changes;
+
+void noteChange(QAccessibleEvent *event)
+{
+    if (event->type() == QAccessible::TextUpdated) {
+        const auto *const update = static_cast<QAccessibleTextUpdateEvent *>(event);
+        changes += update->textRemoved() + update->textInserted();
+    } else if (event->type() == QAccessible::TextInserted) {
+        changes += static_cast<QAccessibleTextInsertEvent *>(event)->textInserted();
+    } else if (event->type() == QAccessible::TextRemoved) {
+        changes += static_cast<QAccessibleTextRemoveEvent *>(event)->textRemoved();
+    }
+}
+
+QString textOf(QAccessibleInterface *spoken)
+{
+    QAccessibleTextInterface *const text = spoken->textInterface();
+    return (text ? text->text(0, text->characterCount()) : QString()) + spoken->text(QAccessible::Value);
+}
+
+QString everything(QAccessibleInterface *spoken)
+{
+    if (!spoken)
+        return {};
+    QString all = spoken->text(QAccessible::Name) + u'|' + spoken->text(QAccessible::Description) + u'|' +
+                  textOf(spoken) + u'\n';
+    for (int child = 0; child < spoken->childCount(); ++child)
+        all += everything(spoken->child(child));
+    return all;
+}
 } // namespace
+
+UiWorld::UiWorld()
+{
+    QAccessible::setActive(true);
+    QAccessible::installUpdateHandler(noteChange);
+}
 
 KRNavigationController *UiWorld::makeStack()
 {
@@ -66,6 +105,37 @@ void UiWorld::waitLong()
 {
     wait(true);
     runLoop.advance(std::chrono::seconds(5));
+}
+
+QVariantMap UiWorld::spoken(QObject *item) const
+{
+    QAccessibleInterface *const told = QAccessible::queryAccessibleInterface(item);
+    if (!told)
+        return {};
+    const QAccessible::State state = told->state();
+    return {{"role", QString::fromLatin1(QMetaEnum::fromType<QAccessible::Role>().valueToKey(told->role()))},
+            {"name", told->text(QAccessible::Name)},
+            {"description", told->text(QAccessible::Description)},
+            {"text", textOf(told)},
+            {"focusable", bool(state.focusable)},
+            {"focused", bool(state.focused)},
+            {"checkable", bool(state.checkable)},
+            {"checked", bool(state.checked)},
+            {"selected", bool(state.selected)},
+            {"pressable", told->actionInterface() && told->actionInterface()->actionNames().contains(
+                                                         QAccessibleActionInterface::pressAction())}};
+}
+
+QString UiWorld::heard(QObject *item)
+{
+    return std::exchange(changes, {}) + everything(QAccessible::queryAccessibleInterface(item));
+}
+
+void UiWorld::pressSpoken(QObject *item) const
+{
+    QAccessibleInterface *const told = QAccessible::queryAccessibleInterface(item);
+    if (told && told->actionInterface())
+        told->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
 }
 
 void UiWorld::display(int palette, int trendColours, int textSize)

@@ -30,6 +30,8 @@ class UiWorld : public QObject, public PlatformTest, public TZTradePwdAlertDeleg
     Q_PROPERTY(KRWindow *window READ window CONSTANT)
     Q_PROPERTY(OverlayHost *overlays READ overlayHost CONSTANT)
 public:
+    UiWorld();
+
     KRWindow *window() { return &theWindow; }
     OverlayHost *overlayHost() { return &overlays; }
 
@@ -49,6 +51,14 @@ public:
     Q_INVOKABLE void passSecond() { runLoop.advance(std::chrono::seconds(1)); }
     /// Lets the indicator show for so long that there must be a way out.
     Q_INVOKABLE void waitLong();
+    /// What a screen reader is told of an item: "role", "name", "description", "text" and the states that
+    /// hold.
+    Q_INVOKABLE QVariantMap spoken(QObject *item) const;
+    /// Everything that was told of `item` and what it holds, changes of texts included, since it was last
+    /// asked.
+    Q_INVOKABLE QString heard(QObject *item);
+    /// Has assistive technology press an item.
+    Q_INVOKABLE void pressSpoken(QObject *item) const;
     /// The places of DisplaySettings' choices.
     Q_INVOKABLE void display(int palette, int trendColours, int textSize);
 

@@ -22,7 +22,9 @@ Item {
     DotPasswordRow {
         id: dots
         y: 100
-        text: root.kept
+        placeholder: "交易密码"
+        digits: root.kept
+        countText: "已输入" + root.kept.length + "位"
         lit: Array.from({ length: 6 }, (_, dot) => dot < root.kept.length)
         onEdited: value => root.kept = value.replace(/ /g, "").slice(0, 6)
     }
@@ -80,6 +82,25 @@ Item {
             type("12345678")
             compare(root.kept, "123456")
             compare(dots.lit[5], true)
+            keyClick(Qt.Key_Backspace)
+            compare(root.kept, "12345")
+        }
+
+        function test_noDigitOfAPasswordIsSpoken() {
+            mouseClick(dots)
+            type("789")
+            const field = root.Window.activeFocusItem
+            const told = world.spoken(field)
+            compare(told.role, "EditableText")
+            compare(told.name, "交易密码")
+            compare(told.description, "已输入3位")
+            verify(told.focused)
+            compare(told.text, "")
+            keyClick(Qt.Key_Backspace)
+            type("7")
+            const heard = world.heard(dots) + world.heard(field)
+            verify(heard.includes("已输入3位"))
+            verify(!/[789]/.test(heard), heard)
         }
     }
 }
