@@ -3,6 +3,8 @@
 #include "trading/screens/TZDealAndEntrustController.h"
 
 #include <QAccessible>
+#include <QDeadlineTimer>
+#include <QMouseEvent>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickView>
@@ -35,6 +37,18 @@ int nodesUnder(QAccessibleInterface *top)
         nodes += nodesUnder(top->child(i));
     return nodes;
 }
+
+/// The name of what is selected: one of the two titles.
+QString selectedTab(QAccessibleInterface *top)
+{
+    if (top->state().selected)
+        return top->text(QAccessible::Name);
+    for (int i = 0; i < top->childCount(); ++i) {
+        if (const QString selected = selectedTab(top->child(i)); !selected.isEmpty())
+            return selected;
+    }
+    return {};
+}
 } // namespace
 
 class LongListTest : public TradingFixture {
@@ -42,7 +56,7 @@ protected:
     LongListTest()
     {
         settings.setValue(SettingsKeys::networkStatus, true);
-        auto *const screen = push<TZDealAndEntrustController>();
+        screen = push<TZDealAndEntrustController>();
         http.answer(entrustsPath, succeeded(entrusts(many)));
         view.engine()->addImportPath(QStringLiteral("qrc:/qt/qml"));
         view.setInitialProperties({{"controller", QVariant::fromValue(screen)}});
@@ -69,6 +83,28 @@ protected:
         list->setProperty("contentY", contentY);
         view.grabWindow();
     }
+    /// Drags the content with the left button.
+    void drag(double from, double to)
+    {
+        const auto send = [this](QEvent::Type type, double x) {
+            const QPointF at(x, 400);
+            QMouseEvent event(
+                type, at, view.mapToGlobal(at), type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+            event.setTimestamp(time += 16);
+            QCoreApplication::sendEvent(&view, &event);
+        };
+        send(QEvent::MouseButtonPress, from);
+        for (int step = 1; step <= 20; ++step)
+            send(QEvent::MouseMove, from + (to - from) * step / 20);
+        send(QEvent::MouseButtonRelease, to);
+    }
+    static void passUntil(const std::function<bool()> &done)
+    {
+        const QDeadlineTimer limit(3s);
+        while (!done() && !limit.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    }
     qsizetype rowsMade() const
     {
         return list->property("contentItem").value<QQuickItem *>()->childItems().size();
@@ -76,7 +112,9 @@ protected:
 
     const QString entrustsPath = QStringLiteral("entrustsToday");
     QQuickView view;
+    quint64 time = 1'000;
     QQuickItem *list = nullptr;
+    TZDealAndEntrustController *screen = nullptr;
     TodayList *page = nullptr;
 };
 
@@ -109,4 +147,20 @@ TEST_F(LongListTest, AFurtherPageLeavesThePlaceWhereItWas)
     EXPECT_EQ(list->property("count"), many + 20);
     EXPECT_NEAR(list->property("contentY").toDouble(), end, 1);
     EXPECT_LT(rowsMade(), fewRows);
+}
+
+TEST_F(LongListTest, ASwipeTurnsThePageAndTheTitleFollows)
+{
+    passUntil([this] { return view.isExposed(); });
+    view.grabWindow();
+    QAccessibleInterface *const spoken = QAccessible::queryAccessibleInterface(view.rootObject());
+    EXPECT_EQ(selectedTab(spoken), "当日委托");
+    drag(350, 40);
+    passUntil([this] { return screen->currentPage() == 1; });
+    EXPECT_EQ(screen->currentPage(), 1);
+    EXPECT_EQ(selectedTab(spoken), "当日成交");
+    EXPECT_EQ(http.countOf("detailsToday"), 1) << "its list is read";
+    drag(40, 350);
+    passUntil([this] { return screen->currentPage() == 0; });
+    EXPECT_EQ(selectedTab(spoken), "当日委托");
 }

@@ -193,9 +193,8 @@ void TZRealTradingController::rightItemClick()
 
 void TZRealTradingController::showWarning()
 {
-    const QString lines =
-        QStringLiteral("亏损警告线 %1\n亏损平仓线 %2")
-            .arg(figureWithYuan(warnInfo.warnLine), figureWithYuan(warnInfo.closeOutLine));
+    const QString lines = QStringLiteral("亏损警告线 %1\n亏损平仓线 %2")
+                              .arg(figureWithYuan(warnInfo.warnLine), figureWithYuan(warnInfo.closeOutLine));
     const auto seeDetail = [this] {
         router.openWeb(*this,
                        {QStringLiteral("股票购买规则"), Platform::current().application.apiBaseUrl() +
