@@ -66,7 +66,11 @@ const std::vector<AnyScreen> &allScreens()
          }},
         {"SelectStock", [](Router &) { return std::make_unique<TZSelectStockController>(nullptr, nullptr); }},
         {"StockDetail",
-         [](Router &) { return std::make_unique<TZStockDetailController>(TZZorvanePageStocksModel{}); }},
+         [](Router &) {
+             TZZorvanePageStocksModel stock;
+             stock.stockName = QStringLiteral("海天精工");
+             return std::make_unique<TZStockDetailController>(stock);
+         }},
     };
     return all;
 }

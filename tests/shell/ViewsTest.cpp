@@ -22,6 +22,17 @@
 using namespace std::chrono_literals;
 
 namespace {
+const QQuickItem *find(const QQuickItem *area, const char *type)
+{
+    for (const QQuickItem *const child : area->childItems()) {
+        if (QByteArray(child->metaObject()->className()).startsWith(type))
+            return child;
+        if (const QQuickItem *const found = find(child, type))
+            return found;
+    }
+    return nullptr;
+}
+
 class Prompted : public QObject, public TZTradePwdAlertDelegate {
 public:
     void checkTradePwd(const QString &) override {}
@@ -39,6 +50,7 @@ TEST_P(EveryScreen, ComesAndGoes)
     KRNavigationController *const stack =
         window.present(std::make_unique<TZPlainPageController>(QStringLiteral("下面"), QString()));
     stack->push(GetParam().make(router));
+    EXPECT_FALSE(stack->top()->title().isEmpty()) << "a page is spoken of by its title";
     pass();
     answerAll();
     pass();
@@ -70,6 +82,9 @@ TEST_F(ViewsTest, GuideThenHomeWithBothFacesThenTheMenuWithItsPages)
     pass();
     window.sideMenu()->presentLeftMenu();
     pass();
+    const QQuickItem *const content = find(shown->contentItem(), "NavigationStack");
+    ASSERT_TRUE(content);
+    EXPECT_NEAR(content->mapRectToScene(content->boundingRect()).width(), 0.82 * shown->width(), 0.5);
     router.showCommissions(*window.topStack()->top());
     pass();
 }

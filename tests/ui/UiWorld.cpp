@@ -69,8 +69,16 @@ void UiWorld::push(KRNavigationController *stack, const QString &title, bool ges
 CountingList *UiWorld::makeList()
 {
     auto list = std::make_unique<CountingList>();
+    list->attach(&theWindow);
     QQmlEngine::setObjectOwnership(list.get(), QQmlEngine::JavaScriptOwnership);
     return list.release();
+}
+
+TZGuideController *UiWorld::makeGuide()
+{
+    auto guide = std::make_unique<TZGuideController>(*this);
+    QQmlEngine::setObjectOwnership(guide.get(), QQmlEngine::JavaScriptOwnership);
+    return guide.release();
 }
 
 void UiWorld::present(const QString &title)

@@ -3,6 +3,7 @@
 #include "core/shell/KRNavigationController.h"
 #include "core/shell/KRWindow.h"
 #include "core/shell/TZBaseTableViewController.h"
+#include "core/shell/TZGuideController.h"
 #include "core/shell/TZTradePwdAlertView.h"
 #include "tests/support/TestPlatform.h"
 
@@ -25,7 +26,10 @@ private:
 };
 
 /// What the tests of views act on: the real navigation model and list screens, over a platform of fakes.
-class UiWorld : public QObject, public PlatformTest, public TZTradePwdAlertDelegate {
+class UiWorld : public QObject,
+                public PlatformTest,
+                public TZTradePwdAlertDelegate,
+                public TZGuideControllerDelegate {
     Q_OBJECT
     Q_PROPERTY(KRWindow *window READ window CONSTANT)
     Q_PROPERTY(OverlayHost *overlays READ overlayHost CONSTANT)
@@ -40,6 +44,7 @@ public:
     Q_INVOKABLE void push(KRNavigationController *stack, const QString &title, bool gesture);
     Q_INVOKABLE void pop(KRNavigationController *stack) { stack->pop(); }
     Q_INVOKABLE CountingList *makeList();
+    Q_INVOKABLE TZGuideController *makeGuide();
     /// A stack of one page over the window; its bar closes it.
     Q_INVOKABLE void present(const QString &title);
     Q_INVOKABLE void showQuestion();
@@ -64,6 +69,7 @@ public:
 
 private:
     void TestBody() override {}
+    void clickRemoveGuideViewBtn() override {}
 
     KRWindow theWindow;
     QString given;

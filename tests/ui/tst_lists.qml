@@ -38,6 +38,11 @@ Item {
             id: search
         }
     }
+    SignalSpy {
+        id: editing
+        target: world.window
+        signalName: "editingEnded"
+    }
     TestCase {
         name: "Lists"
         when: windowShown
@@ -69,9 +74,11 @@ Item {
             compare(list.topMargin, 0)
         }
 
-        function test_aShortPullDoesNothing() {
+        function test_aShortPullRefreshesNothingButEndsEditing() {
+            editing.clear()
             pull(60, 90)
             compare(root.screen.refreshes, 0)
+            compare(editing.count, 1)
         }
 
         function test_pullingUpAtTheEndLoadsMore() {

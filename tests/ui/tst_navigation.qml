@@ -24,6 +24,13 @@ Item {
             focus: true
         }
     }
+    Component {
+        id: guideView
+        TZGuideView {
+            width: 390
+            height: 600
+        }
+    }
     TestCase {
         name: "Navigation"
         when: windowShown
@@ -123,6 +130,28 @@ Item {
             pushed("second", false)
             swipe(300)
             compare(navigation.depth, 2)
+        }
+
+        function test_theGuideFollowsTheFingerAndItsButtonsAndDoesNotBounce() {
+            const guide = createTemporaryObject(guideView, root, { controller: world.makeGuide() })
+            const leaves = Array.from(guide.children).find(item => item instanceof ListView)
+            const drag = (from, to) => {
+                const step = to > from ? 12 : -12
+                mousePress(guide, from, 300)
+                for (let x = from; step > 0 ? x <= to : x >= to; x += step)
+                    mouseMove(guide, x, 300)
+            }
+            const dots = () => Array.from(guide.children).map(row => Array.from(row.children).filter(dot => dot.current !== undefined))
+                                                         .find(found => found.length > 0).map(dot => dot.current)
+            drag(60, 300)
+            compare(leaves.contentX, 0)
+            mouseRelease(guide, 300, 300)
+            drag(300, 60)
+            mouseRelease(guide, 60, 300)
+            tryCompare(guide.controller, "page", 1)
+            compare(dots(), [false, true, false, false])
+            guide.controller.toNextPage()
+            tryCompare(leaves, "contentX", 2 * 390)
         }
 
         function test_noSwipeOnTheRoot() {
