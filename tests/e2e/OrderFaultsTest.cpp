@@ -161,7 +161,7 @@ protected:
                 return true;
             }
             if (said == "未找到这笔委托") {
-                alert()->rightBtnClick();
+                alert()->leftBtnClick();
                 // As long as a person takes to think about it, some of what is late arrives.
                 Hand::wait([&] { return ordersInTheBooks() > before; }, 400ms);
                 submit(price, shares);
@@ -175,7 +175,7 @@ protected:
             } else if (said == "确认再次提交") {
                 alert()->rightBtnClick();
             } else if (said == "委托结果未知" && !alert()->leftTitle().isEmpty()) {
-                alert()->leftBtnClick();
+                alert()->rightBtnClick();
             } else if (said.isEmpty()) {
                 submit(price, shares);
             } else {

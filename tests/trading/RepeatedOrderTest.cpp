@@ -10,7 +10,7 @@ TEST_F(RepeatedOrderTest, TheFirstOfTwoLostOnesIsFoundWhenOnlyItStands)
     quoteAt(0);
     lose();
     http.fail(entrustsPath, HttpFailure::TimedOut);
-    alert()->rightBtnClick();
+    alert()->leftBtnClick();
     quoteAt(500);
     TZTradeTool::getEntrustsTodayWithParam({}, {}, {});
     answerPage({entrust("4", 1)});
@@ -45,7 +45,7 @@ TEST_F(RepeatedOrderTest, WhenBothStandBothAreNamed)
     quoteAt(0);
     lose();
     findNothing();
-    alert()->rightBtnClick();
+    alert()->leftBtnClick();
     submitAgain({});
     http.fail(buyPath, HttpFailure::Connection);
     answerEntrusts({entrust("5", 20), entrust("4", 1)});
@@ -68,7 +68,7 @@ TEST_F(RepeatedOrderTest, WhatArrivesLateIsFoundBeforeTheSecondGoesOutOrToldAfte
     quoteAt(0);
     lose();
     findNothing();
-    alert()->rightBtnClick();
+    alert()->leftBtnClick();
     submitEntry();
     alert()->leftBtnClick();
     EXPECT_EQ(said(), "再次提交");
@@ -79,7 +79,7 @@ TEST_F(RepeatedOrderTest, WhatArrivesLateIsFoundBeforeTheSecondGoesOutOrToldAfte
 
     loseNext();
     findNothing({entrust("4", 25)});
-    alert()->rightBtnClick();
+    alert()->leftBtnClick();
     submitAgain({entrust("4", 25)});
     http.answer(buyPath, succeeded(QVariantMap{{"id", "6"}}));
     EXPECT_EQ(said(), "委托挂单成功");
@@ -97,7 +97,7 @@ TEST_F(RepeatedOrderTest, TheQuestionSendsNothingWhenItsReadingIsClosed)
     openWithEntry();
     lose();
     findNothing();
-    alert()->rightBtnClick();
+    alert()->leftBtnClick();
     submitEntry();
     alert()->leftBtnClick();
     FakeTransport::Sent &reading = http.pending(entrustsPath);
@@ -115,7 +115,7 @@ TEST_F(RepeatedOrderTest, TheSameOrderAsksForOneConfirmationAnotherOneDoesNot)
     openWithEntry();
     lose();
     findNothing();
-    alert()->rightBtnClick();
+    alert()->leftBtnClick();
 
     enter("12.35", "800");
     submitEntry();

@@ -66,7 +66,8 @@ protected:
         answerEntrusts(entrusts);
         runLoop.advance(3s);
         answerEntrusts(entrusts);
-        EXPECT_EQ(said(), "未找到这笔委托");
+        EXPECT_EQ(said() + alert()->rightTitle(), "未找到这笔委托查询委托")
+            << "the safe step is the bold one";
     }
     /// Goes through the question, and the reading that follows it.
     void submitAgain(const QVariantList &entrusts)

@@ -18,7 +18,7 @@ TEST_F(UnknownOrderTest, IsSaidAndLookedForAndFoundWithItsStatus)
                     with(entrust("6"), "entrustPrice", "12.35"), with(entrust("5"), "entrustShares", "900"),
                     entrust("4")});
     EXPECT_EQ(said(), "已找到这笔委托");
-    EXPECT_TRUE(says("\n\n委托编号 10004，状态：委托中，提交时间"));
+    EXPECT_TRUE(says("\n\n委托编号 10004\n状态：委托中\n提交时间"));
     EXPECT_EQ(screen->price() + screen->quantity(), "");
     EXPECT_EQ(alert()->rightTitle(), "继续买入");
     alert()->rightBtnClick();
@@ -119,7 +119,7 @@ TEST_F(UnknownOrderTest, IsFoundOnAFurtherPageAndNotSoughtBeyondItsTime)
     answerPage(whole);
     EXPECT_EQ(said(), "未找到这笔委托");
 
-    alert()->leftBtnClick();
+    alert()->rightBtnClick();
     answerPage({other("9", 900), other("8", 900)});
     EXPECT_TRUE(http.hasPending(entrustsPath)) << "one time for all does not say that the newest come first";
 }
@@ -209,7 +209,7 @@ TEST_F(UnknownOrderTest, EntrustsThatCannotBeReadAreSaidAndReadAgainOnDemand)
         succeeded(QVariantList{"", entrust("4")}),
     };
     for (const QVariantMap &answer : garbage) {
-        alert()->leftBtnClick();
+        alert()->rightBtnClick();
         EXPECT_EQ(said() + alert()->leftTitle(), "委托结果未知");
         http.answer(entrustsPath, answer);
         EXPECT_TRUE(says("没有读到今日委托")) << garbage.indexOf(answer);
@@ -220,11 +220,11 @@ TEST_F(UnknownOrderTest, EntrustsThatCannotBeReadAreSaidAndReadAgainOnDemand)
     const QVariant copy = succeeded(QVariantList{entrust("4")});
     settings.setValue(TZTradeTool::entrustsTodayKey, copy);
     settings.setValue(SettingsKeys::networkStatus, false);
-    alert()->leftBtnClick();
+    alert()->rightBtnClick();
     http.fail(entrustsPath, HttpFailure::Offline);
     EXPECT_TRUE(says("没有读到今日委托"));
     settings.setValue(SettingsKeys::networkStatus, true);
-    alert()->leftBtnClick();
+    alert()->rightBtnClick();
     answerEntrusts({entrust("5")});
     EXPECT_EQ(said(), "已找到这笔委托");
     EXPECT_EQ(settings.value(TZTradeTool::entrustsTodayKey), copy) << "what the list shows offline";

@@ -39,7 +39,7 @@ bool isRefused(const FoundOrder &found)
     return integerValue(found.entrust.status) == refused;
 }
 
-/// "委托编号 10004，状态：委托中，提交时间 10:00:00", without what the service left out.
+/// "委托编号 10004", "状态：委托中", "提交时间 10:00:00" under each other, without what the service left out.
 QString described(const FoundOrder &found)
 {
     const TZEntrustsTodayModel &entrust = found.entrust;
@@ -50,7 +50,7 @@ QString described(const FoundOrder &found)
         parts.append(QStringLiteral("状态：%1").arg(EntrustStatus::of(entrust.status).text));
     if (OrderIntent::serviceTime(entrust.createdAt) > 0)
         parts.append(QStringLiteral("提交时间 %1").arg(Service::formatTimeStamp(entrust.createdAt)));
-    QString text = parts.join(u'，');
+    QString text = parts.join(u'\n');
     if (!found.certain)
         text.prepend(QStringLiteral("可能是这笔："));
     if (!Service::whetherAnEmptyString(entrust.errorMsg))
@@ -161,8 +161,8 @@ private:
         say({QStringLiteral("未找到这笔委托"),
              below(order, QStringLiteral("今日委托中没有这笔委托，它可能没有提交成功，也可能稍后才会出现。"
                                          "再次提交前会请您确认。")),
-             searchTitle, understoodTitle},
-            search(), {});
+             understoodTitle, searchTitle},
+            {}, search());
     }
 
     void tellUnreadable()
@@ -171,7 +171,7 @@ private:
         if (again)
             say({unknownTitle, text, againTitle, searchTitle}, again, search());
         else
-            say({unknownTitle, text, searchTitle, understoodTitle}, search(), {});
+            say({unknownTitle, text, understoodTitle, searchTitle}, {}, search());
     }
 
     OwnedAction search() const
