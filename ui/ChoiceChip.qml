@@ -7,8 +7,8 @@ Tappable {
     property bool selected: false
     property color fill: Theme.accent
 
-    leftPadding: Theme.spacingSmall
-    rightPadding: Theme.spacingSmall
+    leftPadding: Theme.spacingTiny
+    rightPadding: Theme.spacingTiny
     topInset: Theme.spacingTiny
     bottomInset: Theme.spacingTiny
     ringInset: 2

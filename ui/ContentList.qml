@@ -10,6 +10,8 @@ ListView {
     property Item footerContent
     readonly property bool scrolls: contentHeight > height
     readonly property Item focused: Window.activeFocusItem
+    /// Whether a key was used while the list itself has the focus.
+    property bool byKeyboard: false
 
     function scrollBy(distance: real) {
         const end = Math.max(originY, originY + contentHeight - height)
@@ -79,12 +81,14 @@ ListView {
     }
     Accessible.role: Accessible.List
     onFocusedChanged: {
+        byKeyboard = false
         if (!focused || focused === list || !holds(contentItem, focused))
             return
         const top = focused.mapToItem(contentItem, 0, 0).y
         contentY = Math.max(Math.min(contentY, top), top + focused.height - height)
     }
 
+    Keys.onReleased: byKeyboard = focused === list
     Keys.onDownPressed: step(1)
     Keys.onUpPressed: step(-1)
     Keys.onPressed: event => {
@@ -106,7 +110,7 @@ ListView {
         parent: list
         anchors.fill: parent
         z: 1
-        visible: list.activeFocus && list.scrolls && !list.stopIn(list.currentItem)
+        visible: list.byKeyboard && list.scrolls
         color: Theme.transparent
         border.width: Theme.focusRingWidth
         border.color: Theme.deep.focusRing

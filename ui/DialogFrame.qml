@@ -1,7 +1,8 @@
 import QtQuick
 import Zorvane.Ui
 
-/// The card of a dialog over the dimmed window; children are laid under each other in it. Esc cancels.
+/// The card of a dialog over the dimmed window; children are laid under each other in it, above its `footer`. When the
+/// window is too low for them they scroll, by keyboard too, and the footer stays. Esc cancels.
 FocusScope {
     id: frame
 
@@ -14,6 +15,8 @@ FocusScope {
     property bool shown: true
     property int fadeDuration: Theme.motion
     default property alias content: column.data
+    property alias footer: footerSlot.data
+    readonly property alias scroll: body
 
     focus: true
     opacity: 0
@@ -23,6 +26,8 @@ FocusScope {
     Accessible.name: name
     Keys.onEscapePressed: frame.dialog.cancel()
     Keys.onBackPressed: frame.dialog.cancel()
+    Keys.onUpPressed: body.scrollBy(-Theme.rowHeight)
+    Keys.onDownPressed: body.scrollBy(Theme.rowHeight)
 
     Behavior on lift {
         NumberAnimation { duration: Theme.motionKeyboard; easing.type: Easing.OutCubic }
@@ -40,14 +45,40 @@ FocusScope {
     Rectangle {
         id: card
         width: Math.min(320, parent.width - 2 * Theme.spacingHuge)
-        height: column.height
+        height: body.height + footerSlot.height
         x: Math.round((parent.width - width) / 2)
         y: Math.max(0, Math.round((frame.height - height) / 2 - frame.lift))
         radius: Theme.radiusLarge
         color: Theme.surface
 
+        PageFlickable {
+            id: body
+            width: parent.width
+            height: Math.min(column.height, frame.height - 2 * Theme.spacingHuge - footerSlot.height)
+            contentHeight: column.height
+            interactive: contentHeight > height
+
+            function scrollBy(distance: real) {
+                contentY = Math.max(0, Math.min(contentHeight - height, contentY + distance))
+            }
+
+            Column {
+                id: column
+                width: parent.width
+            }
+        }
+        Rectangle {
+            anchors { right: parent.right; rightMargin: 3 }
+            y: 3 + (body.height - 6 - height) * body.contentY / Math.max(1, body.contentHeight - body.height)
+            visible: body.interactive
+            width: 3
+            height: Math.max(Theme.spacingHuge, body.height * body.height / Math.max(1, body.contentHeight))
+            radius: 1.5
+            color: Theme.placeholder
+        }
         Column {
-            id: column
+            id: footerSlot
+            anchors.top: body.bottom
             width: parent.width
         }
     }

@@ -9,16 +9,19 @@ Item {
     property string text: "网络异常"
     property string hint: "请检查网络设置后重试"
     property bool deep: false
+    /// Without its picture, where room is scarce.
+    property bool small: false
 
     Column {
-        anchors.centerIn: parent
+        anchors { horizontalCenter: parent.horizontalCenter; verticalCenter: panel.small ? undefined : parent.verticalCenter }
         width: parent.width - 2 * Theme.margin
         spacing: Theme.spacing
 
         Icon {
             anchors.horizontalCenter: parent.horizontalCenter
+            visible: !panel.small
             name: panel.deep ? "no_net_deep" : "no_net"
-            size: 96
+            size: 72
         }
         PlainText {
             width: parent.width

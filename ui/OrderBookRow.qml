@@ -11,6 +11,7 @@ Tappable {
     /// Of the price against yesterday's close: 1 rise, 0 flat, -1 fall.
     property int trend: 0
     property bool buySide: true
+    property bool stale: false
     readonly property real priceEnd: width * 0.64
 
     implicitWidth: parent ? parent.width : 0
@@ -25,7 +26,7 @@ Tappable {
         Rectangle {
             anchors { right: parent.right; top: parent.top; bottom: parent.bottom; margins: 2 }
             width: (row.width - row.priceEnd - 4) * Math.min(1, Math.max(0, row.share))
-            color: row.buySide ? Theme.buy : Theme.sell
+            color: row.stale ? row.tones.textSecondary : row.buySide ? Theme.buy : Theme.sell
             opacity: 0.2
         }
         Rectangle {
@@ -51,6 +52,7 @@ Tappable {
             font: Theme.bodyBold
             deep: row.deep
             trend: row.trend
+            stale: row.stale
             horizontalAlignment: Text.AlignRight
             Accessible.ignored: true
         }
@@ -58,6 +60,7 @@ Tappable {
             anchors { right: parent.right; rightMargin: Theme.spacingSmall; verticalCenter: parent.verticalCenter }
             width: parent.width - row.priceEnd - 2 * Theme.spacingSmall
             text: row.volume
+            stale: row.stale
             font: Theme.label
             deep: row.deep
             horizontalAlignment: Text.AlignRight

@@ -62,4 +62,13 @@ ContentList {
         deep: list.deep
         text: list.noDataText
     }
+    MVNoNetView {
+        parent: list
+        anchors.fill: parent
+        anchors.topMargin: list.headerItem ? list.headerItem.height : 0
+        visible: list.controller.failed
+        deep: list.deep
+        text: "加载失败"
+        noNet: list.controller.noNet
+    }
 }

@@ -22,7 +22,7 @@ Tappable {
     contentItem: PlainText {
         text: control.text
         font: control.small ? Theme.label : Theme.title
-        color: control.enabled ? control.stroke : control.tones.disabled
+        color: control.enabled ? control.stroke : control.tones.textSecondary
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight

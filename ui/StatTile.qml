@@ -8,6 +8,7 @@ Column {
     property string value
     property bool deep: false
     property int trend: 0
+    property bool stale: false
     property int alignment: Text.AlignLeft
 
     spacing: Theme.spacingTiny
@@ -29,6 +30,7 @@ Column {
         font: Theme.bodyBold
         deep: tile.deep
         trend: tile.trend
+        stale: tile.stale
         horizontalAlignment: tile.alignment
         Accessible.ignored: true
     }

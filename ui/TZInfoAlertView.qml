@@ -16,7 +16,8 @@ DialogFrame {
 
         Column {
             id: texts
-            anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.spacingHuge }
+            anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.spacingLarge }
+            anchors.topMargin: Theme.spacingHuge
             spacing: Theme.spacingSmall
             PlainText {
                 width: parent.width
@@ -37,31 +38,33 @@ DialogFrame {
             }
         }
     }
-    Hairline {
-        width: parent.width
-    }
-    Row {
-        width: parent.width
-        height: Theme.rowHeight
+    footer: [
+        Hairline {
+            width: parent.width
+        },
+        Row {
+            width: parent.width
+            height: Theme.rowHeight
 
-        DialogButton {
-            id: left
-            width: visible ? parent.width / 2 : 0
-            visible: text !== ""
-            strong: false
-            text: alert.info.leftTitle
-            onClicked: alert.info.leftBtnClick()
+            DialogButton {
+                id: left
+                width: visible ? parent.width / 2 : 0
+                visible: text !== ""
+                strong: false
+                text: alert.info.leftTitle
+                onClicked: alert.info.leftBtnClick()
+            }
+            Rectangle {
+                width: left.visible ? Theme.hairlineWidth : 0
+                height: parent.height
+                color: Theme.hairline
+            }
+            DialogButton {
+                width: parent.width - x
+                focus: true
+                text: alert.info.rightTitle
+                onClicked: alert.info.rightBtnClick()
+            }
         }
-        Rectangle {
-            width: left.visible ? Theme.hairlineWidth : 0
-            height: parent.height
-            color: Theme.hairline
-        }
-        DialogButton {
-            width: parent.width - x
-            focus: true
-            text: alert.info.rightTitle
-            onClicked: alert.info.rightBtnClick()
-        }
-    }
+    ]
 }

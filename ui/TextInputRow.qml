@@ -86,12 +86,12 @@ FocusScope {
         onAccepted: row.accepted()
 
         PlainText {
-            anchors.fill: parent
+            anchors { fill: parent; rightMargin: Theme.spacingSmall }
             visible: field.length === 0 && !row.composing
             text: row.placeholder
             font: field.font
             fontSizeMode: Text.HorizontalFit
-            minimumPixelSize: 11
+            minimumPixelSize: Theme.smallestText
             color: row.tones.placeholder
             verticalAlignment: Text.AlignVCenter
             elide: Text.ElideRight

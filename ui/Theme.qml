@@ -36,6 +36,7 @@ QtObject {
     readonly property color accent: "#1F74C4"
     readonly property color link: plain.accent
     readonly property color reloadHint: dark ? plain.accent : "#2893EF"
+    readonly property color unlitButton: "#5F6A88"
     readonly property color leave: redFill
     readonly property color toHome: "#FF4747"
     readonly property color warning: "#FF7E00"
@@ -56,7 +57,7 @@ QtObject {
     readonly property color pageGrayPlain: dark ? plain.page : "#DDDDDD"
     readonly property color scrim: dark ? "#B3000000" : "#80101420"
     readonly property color pressedOverlay: "#26FFFFFF"
-    readonly property color indicatorPanel: dark ? "#F02C3444" : "#E6262A36"
+    readonly property color indicatorPanel: dark ? "#2C3444" : "#262A36"
     readonly property color transparent: "#00000000"
 
     readonly property Tones plain: dark ? plainDark : plainLight
@@ -65,7 +66,7 @@ QtObject {
         greenRises: Display.greenRises
         page: "#F3F3F3"
         surface: "#FFFFFF"
-        surfacePressed: "#E9EDF3"
+        surfacePressed: "#EEF2F7"
         hairline: "#E2E5EB"
         textPrimary: "#22283A"
         textSecondary: "#565E70"
@@ -163,6 +164,8 @@ QtObject {
     readonly property real textScale: Display.textScale
     readonly property string family: Qt.font({ pixelSize: 15 }).family
     readonly property int smallestText: scaled(11)
+    // What digits shrink to before any of them is left out; larger text is no reason to leave out one more.
+    readonly property int smallestFigure: 10
     readonly property font unit: style(11, Font.Normal)
     readonly property font caption: style(12, Font.Normal)
     readonly property font label: style(13, Font.Normal)
@@ -179,6 +182,8 @@ QtObject {
     readonly property int motionFast: 120
     readonly property int motion: 220
     readonly property int motionBanner: 500
+    // How long an indicator leaves the page as it is.
+    readonly property int motionPatience: 1000
     // Of an on-screen keyboard; it does not tell its own.
     readonly property int motionKeyboard: 250
 

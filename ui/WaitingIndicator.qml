@@ -24,6 +24,19 @@ FocusScope {
     PointerShield {
         anchors.fill: parent
     }
+    // What takes longer shows that nothing under it can be used.
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.scrim
+
+        SequentialAnimation on opacity {
+            running: indicator.visible
+
+            PropertyAction { value: 0 }
+            PauseAnimation { duration: Theme.motionPatience }
+            NumberAnimation { to: 0.6; duration: Theme.motion }
+        }
+    }
     Rectangle {
         anchors.centerIn: parent
         width: Math.max(112, column.implicitWidth + 2 * Theme.spacingHuge)

@@ -1,7 +1,7 @@
 import QtQuick
 import Zorvane.Ui
 
-/// The fields of a step on one rounded surface.
+/// The fields of a step on one rounded surface, whose corners they keep clear of.
 Rectangle {
     default property alias rows: column.data
 
@@ -12,7 +12,8 @@ Rectangle {
 
     Column {
         id: column
+        x: Theme.spacingTiny
         y: Theme.spacingTiny
-        width: parent.width
+        width: parent.width - 2 * x
     }
 }

@@ -7,5 +7,5 @@ PrimaryButton {
 
     width: parent ? parent.width : 0
     deep: true
-    fill: lit ? Theme.accent : Theme.deep.disabled
+    fill: lit ? Theme.accent : Theme.unlitButton
 }

@@ -29,6 +29,8 @@ Rectangle {
             font: Theme.heading
             color: Theme.deep.textPrimary
             horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
             elide: Text.ElideRight
             Accessible.role: Accessible.Heading
             Accessible.name: text

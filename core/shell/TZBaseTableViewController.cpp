@@ -42,12 +42,19 @@ void TZBaseTableViewController::refreshUntilAnswered(const Operation &operation)
 {
     latestRead = operation ? operation->number : 0;
     if (!operation)
-        return endRefreshing();
+        return readEnded();
+    setContent(content, false);
     connect(operation.get(), &RequestOperation::finished, this, [this, read = latestRead] {
         if (read == latestRead)
-            endRefreshing();
+            readEnded();
     });
-    endRefreshingAfter(15s);
+    guard.startOnce(15s, [this] { readEnded(); });
+}
+
+void TZBaseTableViewController::readEnded()
+{
+    endRefreshing();
+    setContent(content, content == Content::Unknown);
 }
 
 void TZBaseTableViewController::endRefreshing()
@@ -64,9 +71,15 @@ void TZBaseTableViewController::endRefreshingAfter(std::chrono::seconds delay)
 
 void TZBaseTableViewController::setNoData(bool noData)
 {
-    if (empty == noData)
+    setContent(noData ? Content::Empty : Content::Rows, false);
+}
+
+void TZBaseTableViewController::setContent(Content now, bool lastReadFailed)
+{
+    if (content == now && readFailed == lastReadFailed)
         return;
-    empty = noData;
+    content = now;
+    readFailed = lastReadFailed;
     Q_EMIT noDataChanged();
 }
 

@@ -8,6 +8,6 @@ TZBoardcastCell TZBoardcastCell::of(const TZRecentLoansModel &loan)
     const auto orEmpty = [](const QString &value) {
         return Service::whetherAnEmptyString(value) ? QString() : value;
     };
-    return {QStringLiteral("%1申请操盘资金%2")
-                .arg(orEmpty(loan.nick), labelAmountWithYuan(orEmpty(loan.borrowMoney)))};
+    return {orEmpty(loan.nick),
+            QStringLiteral("申请操盘资金") + labelAmountWithYuan(orEmpty(loan.borrowMoney))};
 }

@@ -5,9 +5,12 @@
 /// A row of the ticker.
 struct TZBoardcastCell {
     Q_GADGET
-    Q_PROPERTY(QString text MEMBER text)
+    /// One after the other they are the text of the row.
+    Q_PROPERTY(QString nick MEMBER nick)
+    Q_PROPERTY(QString deed MEMBER deed)
 public:
     static TZBoardcastCell of(const TZRecentLoansModel &loan);
 
-    QString text;
+    QString nick;
+    QString deed;
 };

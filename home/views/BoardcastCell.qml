@@ -5,14 +5,15 @@ import Zorvane.Ui
 Item {
     id: cell
 
-    required property string text
+    required property string nick
+    required property string deed
     readonly property real above: ListView.view.contentY
     readonly property real below: above + ListView.view.height
 
     // Rows that are clipped away are not spoken either.
     visible: y + height > above && y < below
     Accessible.role: Accessible.ListItem
-    Accessible.name: text
+    Accessible.name: nick + deed
 
     Rectangle {
         anchors.fill: parent
@@ -29,10 +30,22 @@ Item {
         name: "home_user"
         size: 20
     }
+    // A long name gives way to the sum.
     PlainText {
-        anchors { left: avatar.right; right: parent.right; verticalCenter: parent.verticalCenter }
-        anchors { leftMargin: Theme.spacingSmall; rightMargin: Theme.spacingSmall }
-        text: cell.text
+        id: nick
+        anchors { left: avatar.right; leftMargin: Theme.spacingSmall; verticalCenter: parent.verticalCenter }
+        width: Math.min(implicitWidth, cell.width - x - deed.width - Theme.spacingSmall)
+        text: cell.nick
+        font: Theme.body
+        color: Theme.deep.textPrimary
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+    PlainText {
+        id: deed
+        anchors { left: nick.right; verticalCenter: parent.verticalCenter }
+        width: Math.min(implicitWidth, (cell.width - nick.x) * 0.8)
+        text: cell.deed
         font: Theme.body
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: Theme.smallestText

@@ -10,7 +10,8 @@ Tappable {
 
     deep: true
     ringRadius: Theme.radiusLarge
-    implicitHeight: Theme.scaled(132)
+    // A low window has more need of the room above.
+    implicitHeight: Theme.scaled(Window.height < 700 ? 108 : 132)
     Accessible.name: text + " " + caption
     background: Rectangle {
         radius: Theme.radiusLarge

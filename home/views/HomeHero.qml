@@ -17,10 +17,12 @@ Item {
     Image {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
         // Below the figure, where there is room for it.
-        height: Math.min(width * 0.56, Math.max(parent.height - column.y - column.height, parent.height / 3))
+        readonly property real room: parent.height - column.y - column.height
+        height: Math.min(width * 0.56, room)
+        visible: room >= 60
         asynchronous: true
         sourceSize.width: width
-        fillMode: Image.Stretch
+        fillMode: Image.PreserveAspectCrop
         source: Theme.image(hero.picture)
         Accessible.ignored: true
     }

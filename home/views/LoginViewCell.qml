@@ -82,7 +82,7 @@ Item {
         id: mid
         anchors { left: parent.left; right: parent.right; bottom: custody.top }
         anchors { leftMargin: Theme.margin; rightMargin: Theme.margin; bottomMargin: Theme.spacing }
-        height: tiles.height + 2 * Theme.spacingLarge
+        height: tiles.height + 2 * (Window.height < 700 ? Theme.spacing : Theme.spacingLarge)
         radius: Theme.radiusLarge
         color: Theme.deep.surface
 

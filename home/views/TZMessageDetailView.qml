@@ -14,6 +14,7 @@ PageFrame {
 
     ContentList {
         anchors { left: parent.left; right: parent.right; top: parent.top; bottom: buttons.top }
+        anchors.bottomMargin: Theme.spacing
         focus: true
         model: 0
         Accessible.role: Accessible.Pane

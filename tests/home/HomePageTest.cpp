@@ -97,8 +97,9 @@ TEST_F(HomePageTest, SignedOutItShowsTheFiguresAndThenTheLoansOfOthers)
                 succeeded(QVariantList{QVariantMap{{QStringLiteral("nick"), QStringLiteral("小李")},
                                                    {QStringLiteral("borrowMoney"), 50000}},
                                        QVariantMap{{QStringLiteral("nick"), QVariant()}}}));
-    EXPECT_EQ(home->boardcastArr()->at(0).text, QStringLiteral("小李申请操盘资金50,000.00元"));
-    EXPECT_EQ(home->boardcastArr()->at(1).text, QStringLiteral("申请操盘资金"));
+    EXPECT_EQ(home->boardcastArr()->at(0).nick + home->boardcastArr()->at(0).deed,
+              QStringLiteral("小李申请操盘资金50,000.00元"));
+    EXPECT_EQ(home->boardcastArr()->at(1).deed, QStringLiteral("申请操盘资金"));
     EXPECT_EQ(home->titleImage(), QStringLiteral("home_nav"));
     EXPECT_EQ(home->rightItemImage(), QStringLiteral("no_message"));
 }

@@ -178,6 +178,50 @@ TEST_F(OrderEntryTest, ALevelWithoutAPriceIsNotPicked)
     EXPECT_EQ(screen->price(), "12.34");
 }
 
+TEST_F(OrderEntryTest, ALevelIsDrawnWithItsPriceAndAVolumeThatHasRoomBesideIt)
+{
+    openWithEntry();
+    struct Case {
+        const char *price;
+        const char *volume;
+        const char *drawn;
+    };
+    for (const Case &each :
+         {Case{"12.34", "99999", "12.34 99999"}, Case{"12.34", "100000", "12.34 10.0万"},
+          Case{"12.34", "1296400", "12.34 129.6万"}, Case{"12.34", "123456700", "12.34 1.2亿"},
+          Case{"0.00", "0", "-- --"}, Case{"0", "500", "-- --"}, Case{"x", "500", "-- --"}}) {
+        const QVariantList levels{QVariantMap{{"price", each.price}, {"volume", each.volume}}};
+        runLoop.advance(3s);
+        http.answer(quotePath, succeeded(QVariantMap{{"match", "12.30"}, {"buyPankou", levels}}));
+        const HandicapRow &row = screen->buyHandicapView()->rows()->at(0);
+        EXPECT_EQ(row.price + u' ' + row.volume, each.drawn);
+        EXPECT_EQ(row.selectable, row.price != "--");
+    }
+    screen->buyHandicapView()->selectHandicap(0);
+    EXPECT_EQ(screen->price(), "12.34") << "what is no price is not picked";
+}
+
+TEST_F(OrderEntryTest, OfQuotesThatFailOneIsToldUntilOneSucceeds)
+{
+    openWithEntry();
+    http.answer(quotePath, quote("12.30"));
+    const auto fail = [this] {
+        overlays.hideBanners();
+        runLoop.advance(3s);
+        http.fail(quotePath, HttpFailure::TimedOut);
+        return banners().join(u' ');
+    };
+    EXPECT_EQ(fail(), "加载失败");
+    EXPECT_EQ(fail(), "");
+    overlays.hideBanners();
+    runLoop.advance(3s);
+    http.answer(quotePath, refused("行情不可用"));
+    EXPECT_EQ(banners(), QStringList());
+    runLoop.advance(3s);
+    http.answer(quotePath, quote("12.31"));
+    EXPECT_EQ(fail(), "加载失败");
+}
+
 TEST_F(OrderEntryTest, ATypedPriceIsCountedATenthOfASecondLater)
 {
     openBuying();

@@ -230,6 +230,29 @@ TEST_F(TradingPageTest, ATappedHoldingOpensItsDetailFromWhichBothSidesAreTraded)
     EXPECT_EQ(top<TZBuyAndSellController>()->zorvanePageStocksModel().availableShares, "");
 }
 
+TEST_F(TradingFixture, AListThatCouldNotBeReadSaysSoAndReadsAgainWhenAsked)
+{
+    auto *const screen = push<TZWithdrawalsController>();
+    const QString path = QStringLiteral("callBackPage");
+    const auto state = [screen] {
+        return QString(screen->refreshing() ? "reading " : "") + (screen->failed() ? "failed " : "") +
+               (screen->noData() ? "empty" : "");
+    };
+    EXPECT_EQ(state(), "reading ");
+    http.fail(path, HttpFailure::TimedOut);
+    EXPECT_EQ(state(), "failed ");
+    screen->noNet()->clickReloadBtn();
+    EXPECT_EQ(state(), "reading ");
+    http.answer(path, refused("系统维护中"));
+    EXPECT_EQ(state(), "failed ");
+    screen->noNet()->clickReloadBtn();
+    http.answer(path, succeeded(QVariantList()));
+    EXPECT_EQ(state(), "empty");
+    screen->beginRefreshing();
+    http.fail(path, HttpFailure::TimedOut);
+    EXPECT_EQ(state(), "empty") << "what was read before goes on being shown";
+}
+
 TEST_F(TradingFixture, HoldingsToSellAreReadOnLoadingAndEachTimeTheyAppear)
 {
     settings.setValue(SettingsKeys::needTradePwd, false);
@@ -648,11 +671,13 @@ TEST_F(TradingFixture, TheTitleDecidesWhichRowsAreShown)
     entrusted.type = QStringLiteral("2");
     entrusted.status = QStringLiteral("7");
     entrusted.entrustShares = QStringLiteral("500");
+    entrusted.errorMsg = QStringLiteral("价格超出涨跌幅限制");
     entrusted.createdAt = QString::number(QDateTime(QDate(2026, 11, 21), QTime(9, 5)).toMSecsSinceEpoch());
 
     TZDealDetailController detail(QStringLiteral("成交详情"));
     detail.setDetailsTodayModel(deal);
     detail.setEntrustsTodayModel(entrusted);
+    EXPECT_EQ(detail.reason(), "");
     EXPECT_EQ(linesOf(detail), (QStringList{"证券名称 海天传媒", "证券代码 600001", "委托类型 买入",
                                             "委托价格 10.00", "成交价格 9.99", "成交数量 300",
                                             "成交总额 2997.00", "成交时间 not a stamp", "市场类别 上海"}));
@@ -662,6 +687,7 @@ TEST_F(TradingFixture, TheTitleDecidesWhichRowsAreShown)
                   (QStringList{"证券名称 东方钢铁", "证券代码 ", "委托类型 卖出", "委托价格 ", "委托数量 500",
                                "委托时间 2026-11-21 09:05", "当前状态 部分成交"}));
         EXPECT_TRUE(detail.rows()->at(2).isSell);
+        EXPECT_EQ(detail.reason(), "价格超出涨跌幅限制");
     }
 }
 

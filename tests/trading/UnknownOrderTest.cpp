@@ -187,7 +187,7 @@ TEST_F(UnknownOrderTest, AnOrderOfTheSameKindThatStoodBeforeIsNotTakenForIt)
     const QVariantList before{entrust("3", 200), entrust("4", 100), entrust("2"), entrust("1")};
     findNothing(before);
 
-    alert()->leftBtnClick();
+    alert()->rightBtnClick();
     answerEntrusts(QVariantList{entrust("5", 200)} + before);
     EXPECT_EQ(said(), "已找到这笔委托");
     EXPECT_TRUE(says("10005"));

@@ -86,12 +86,11 @@ void UiWorld::present(const QString &title)
     theWindow.present(page(title));
 }
 
-void UiWorld::showQuestion()
+void UiWorld::showQuestion(const QString &text)
 {
     given.clear();
     theWindow.show(std::make_unique<TZInfoAlertView>(
-        TZInfoAlertViewModel{QStringLiteral("提示"), QStringLiteral("确定？"), QStringLiteral("取消"),
-                             QStringLiteral("确定")},
+        TZInfoAlertViewModel{QStringLiteral("提示"), text, QStringLiteral("取消"), QStringLiteral("确定")},
         OwnedAction{this, [this] { given += QLatin1String("left "); }},
         OwnedAction{this, [this] { given += QLatin1String("right "); }}));
 }

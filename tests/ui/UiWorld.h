@@ -47,7 +47,7 @@ public:
     Q_INVOKABLE TZGuideController *makeGuide();
     /// A stack of one page over the window; its bar closes it.
     Q_INVOKABLE void present(const QString &title);
-    Q_INVOKABLE void showQuestion();
+    Q_INVOKABLE void showQuestion(const QString &text = QStringLiteral("确定？"));
     Q_INVOKABLE TZTradePwdAlertView *showPrompt();
     void checkTradePwd(const QString &password) override { given = password; }
     /// The buttons that were pressed, or the password that was handed over.

@@ -23,6 +23,12 @@ TestCase {
         return (both[1] + 0.05) / (both[0] + 0.05)
     }
 
+    /// `over` shines through what is laid on it.
+    function laid(colour, opacity, over) {
+        const mix = part => colour[part] * opacity + over[part] * (1 - opacity)
+        return Qt.rgba(mix("r"), mix("g"), mix("b"), 1)
+    }
+
     function readable(text, over, least, what) {
         verify(contrast(text, over) >= least, what + ": " + contrast(text, over).toFixed(2))
     }
@@ -37,7 +43,8 @@ TestCase {
             }
             readable(set.red, set.surface, 4.5, name + " red on a surface")
             readable(set.red, set.page, 3, name + " red on the page, large")
-            readable(set.textPrimary, set.surfacePressed, 4.5, name + " text on a pressed surface")
+            for (const tone of ["textPrimary", "textSecondary", "placeholder", "accent"])
+                readable(set[tone], set.surfacePressed, 4.5, name + " " + tone + " on a pressed surface")
             readable(set.focusRing, set.page, 3, name + " ring on the page")
             readable(set.focusRing, set.surface, 3, name + " ring on a surface")
         })
@@ -49,10 +56,12 @@ TestCase {
 
     function test_textsWithAColourOfTheirOwn(row) {
         world.display(row.palette, 0, 0)
-        for (const fill of ["accent", "buy", "sell", "leave", "errorBanner", "indicatorPanel"])
+        for (const fill of ["accent", "unlitButton", "buy", "sell", "leave", "indicatorPanel"])
             readable(Theme.textOnAccent, Theme[fill], 4.5, fill)
-        for (const fill of ["toHome", "warningBadge", "riskBadge", "successBanner"])
+        for (const fill of ["toHome", "warningBadge", "riskBadge"])
             readable(Theme.textOnAccent, Theme[fill], 3, fill + ", large")
+        for (const banner of ["successBanner", "errorBanner"])
+            readable(Theme.textOnAccent, laid(Theme[banner], Theme.bannerOpacity, Theme.navigationBar), 4.5, banner)
         for (const text of ["dealt", "pendingEntrust", "profitLabel"])
             readable(Theme[text], Theme.deep.surface, 4.5, text)
         readable(Theme.navigationText, Theme.navigationBar, 4.5, "title")

@@ -84,6 +84,22 @@ Item {
             compare(world.answers(), "left ")
         }
 
+        function test_aLongDialogScrollsAboveButtonsThatStayInTheWindow() {
+            world.showQuestion(("一段很长的说明。".repeat(20) + "\n").repeat(12))
+            tryVerify(() => holdsFocus("确定"))
+            const button = content.Window.activeFocusItem
+            const dialog = find(content, item => item instanceof DialogFrame && item !== lifted)
+            tryVerify(() => dialog.scroll.contentHeight > dialog.scroll.height)
+            const end = dialog.scroll.contentHeight - dialog.scroll.height
+            verify(button.mapToItem(content, 0, button.height).y <= content.height)
+            keyClick(Qt.Key_Down)
+            verify(dialog.scroll.contentY > 0)
+            mouseWheel(dialog.scroll, 50, 50, 0, -12000)
+            tryCompare(dialog.scroll, "contentY", end)
+            keyClick(Qt.Key_Return)
+            compare(world.answers(), "right ")
+        }
+
         function test_aTapBesideADialogReachesNothing() {
             world.showQuestion()
             mouseClick(content, 50, 24)

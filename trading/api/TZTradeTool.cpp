@@ -22,6 +22,11 @@ QString stockDetailUrl(const QVariantMap &param)
            textForm(param.value(QStringLiteral("stockCode")));
 }
 
+QString timelyInfoUrl(const QString &stockCode)
+{
+    return ToolPolicy::url(QStringLiteral("timelyInfo/timelyOrderForm?stockCode=")) + stockCode;
+}
+
 // The smart add-on offer keeps its answer under the trading page's key.
 bool isTradingPage(const QVariantMap &answer)
 {
@@ -125,8 +130,13 @@ Operation TZTradeTool::getWarnInfoWithParam(const QVariantMap &param, Success su
 
 Operation TZTradeTool::getTimelyInfoWithStockCode(const QString &stockCode, Success success, Failure andError)
 {
-    const QString url = ToolPolicy::url(QStringLiteral("timelyInfo/timelyOrderForm?stockCode=")) + stockCode;
-    return KRAFHTTPClient::get(url, {}, std::move(success), std::move(andError));
+    return KRAFHTTPClient::get(timelyInfoUrl(stockCode), {}, std::move(success), std::move(andError));
+}
+
+Operation TZTradeTool::readTimelyInfoWithStockCode(const QString &stockCode, Success success,
+                                                   Failure andError)
+{
+    return KRAFHTTPClient::getQuietly(timelyInfoUrl(stockCode), {}, std::move(success), std::move(andError));
 }
 
 Operation TZTradeTool::getTradeRechargeWithParam(const QVariantMap &param, Success success, Failure andError)

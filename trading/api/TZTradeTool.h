@@ -55,6 +55,8 @@ public:
     /// Passed. "data" has "match", the latest traded price or "", and "buyPankou" and "sellPankou", ten
     /// levels each.
     static Operation getTimelyInfoWithStockCode(const QString &stockCode, Success success, Failure andError);
+    /// The same without a word.
+    static Operation readTimelyInfoWithStockCode(const QString &stockCode, Success success, Failure andError);
     /// Guarded, HUD.
     static Operation getTradeRechargeWithParam(const QVariantMap &param, Success success, Failure andError);
     /// Passed, HUD.

@@ -153,12 +153,18 @@ void TZBuyAndSellController::fetchQuote()
 {
     const int number = ++askedQuotes;
     const auto answered = [this, number](const Operation &, const QVariantMap &answer) {
-        if (number <= shownQuote || !boolValue(answer.value(QStringLiteral("success"))))
+        const bool good = boolValue(answer.value(QStringLiteral("success")));
+        quoteFailed = !good;
+        if (number <= shownQuote || !good)
             return;
         shownQuote = number;
         showQuote(answer.value(dataKey).toMap());
     };
-    TZTradeTool::getTimelyInfoWithStockCode(stock.stockCode, Success{this, answered}, {});
+    const auto failed = [this](const Operation &, const RequestError &) { quoteFailed = true; };
+    // One failure is told; after it the age of the quote says enough.
+    const auto read =
+        quoteFailed ? TZTradeTool::readTimelyInfoWithStockCode : TZTradeTool::getTimelyInfoWithStockCode;
+    read(stock.stockCode, Success{this, answered}, Failure{this, failed});
 }
 
 void TZBuyAndSellController::showQuote(const QVariantMap &data)

@@ -168,6 +168,7 @@ private:
     /// stock, is dropped.
     int askedQuotes = 0;
     int shownQuote = 0;
+    bool quoteFailed = false;
     QPointer<TZTradePwdAlertView> prompt;
     bool orderOnItsWay = false;
     /// The order that the user wants although one like it is of unknown outcome.

@@ -1,6 +1,7 @@
 #include "trading/screens/TZDealDetailController.h"
 
 #include "core/shell/KRNavigationController.h"
+#include "core/util/Service.h"
 #include "trading/api/EntrustStatus.h"
 #include "trading/screens/TradeTexts.h"
 
@@ -72,4 +73,11 @@ void TZDealDetailController::leftItemClick()
 void TZDealDetailController::showRows()
 {
     shownRows.setRows(title() == dealTitle ? dealRows(detailsTodayModel) : entrustRows(entrustsTodayModel));
+    Q_EMIT reasonChanged();
+}
+
+QString TZDealDetailController::reason() const
+{
+    const QString &told = entrustsTodayModel.errorMsg;
+    return title() == dealTitle || Service::whetherAnEmptyString(told) ? QString() : told;
 }

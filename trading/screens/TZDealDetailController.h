@@ -23,6 +23,8 @@ class TZDealDetailController : public TZBaseTableViewController {
     Q_OBJECT
     /// Rows of DetailRow.
     Q_PROPERTY(GadgetListModel *rows READ rows CONSTANT)
+    /// Why an entrust was refused, in the service's words; "" when it says nothing.
+    Q_PROPERTY(QString reason READ reason NOTIFY reasonChanged)
 public:
     static inline const QString dealTitle = QStringLiteral("成交详情");
     static inline const QString entrustTitle = QStringLiteral("委托详情");
@@ -33,9 +35,13 @@ public:
     void setDetailsTodayModel(const TZDetailsTodayModel &deal);
 
     RowListModel<DetailRow> *rows() { return &shownRows; }
+    QString reason() const;
 
     void viewDidLoad() override;
     void leftItemClick() override;
+
+Q_SIGNALS:
+    void reasonChanged();
 
 private:
     void showRows();

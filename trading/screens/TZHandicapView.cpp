@@ -11,15 +11,32 @@
 namespace {
 const QString noFigure = QStringLiteral("--");
 
+/// A service fills the places of levels that nobody offers with zeros.
+bool isPrice(const QString &text)
+{
+    return doubleValue(text) > 0;
+}
+
+/// Whole as far as it fits beside a price: "12345", "129.6万", "1.2亿".
+QString shortVolume(const QString &text)
+{
+    const double volume = doubleValue(text);
+    if (volume < 100'000)
+        return text;
+    const bool hundredMillions = volume >= 100'000'000;
+    return QString::number(volume / (hundredMillions ? 100'000'000 : 10'000), 'f', 1) +
+           (hundredMillions ? u'亿' : u'万');
+}
+
 HandicapRow rowOf(const TZHandicapModel &level, const TZHandicapView::Scale &scale)
 {
-    const bool hasPrice = !Service::whetherAnEmptyString(level.price);
+    const bool hasPrice = isPrice(level.price);
     const double volume = std::max(doubleValue(level.volume), 0.0);
     return {level.title,
             hasPrice ? level.price : noFigure,
-            Service::whetherAnEmptyString(level.volume) ? noFigure : level.volume,
+            !hasPrice || Service::whetherAnEmptyString(level.volume) ? noFigure : shortVolume(level.volume),
             scale.deepestVolume > 0 ? volume / scale.deepestVolume : 0,
-            trendOf(doubleValue(level.price), scale.previousClose),
+            hasPrice ? trendOf(doubleValue(level.price), scale.previousClose) : 0,
             hasPrice};
 }
 } // namespace
@@ -49,7 +66,7 @@ void TZHandicapView::setLevels(const QList<TZHandicapModel> &levels, const Scale
 void TZHandicapView::selectHandicap(int row)
 {
     const QString price = shownLevels.value(row).price;
-    if (Service::whetherAnEmptyString(price))
+    if (!isPrice(price))
         return;
     Q_EMIT aboutToSelect();
     Platform::current().notifications.post(priceSelectNotification,

@@ -165,7 +165,9 @@ void TZStockDetailController::fetchQuote()
 {
     const int number = ++askedQuotes;
     const auto answered = [this, number](const Operation &, const QVariantMap &answer) {
-        if (number <= shownQuote || !boolValue(answer.value(QStringLiteral("success"))))
+        const bool good = boolValue(answer.value(QStringLiteral("success")));
+        quoteFailed = !good;
+        if (number <= shownQuote || !good)
             return;
         shownQuote = number;
         const QVariantMap data = answer.value(dataKey).toMap();
@@ -178,7 +180,11 @@ void TZStockDetailController::fetchQuote()
         detailMinute = std::max(detailMinute, time / minute);
         refreshDetail();
     };
-    TZTradeTool::getTimelyInfoWithStockCode(stock.stockCode, Success{this, answered}, {});
+    const auto failed = [this](const Operation &, const RequestError &) { quoteFailed = true; };
+    // One failure is told; after it the age of the quote says enough.
+    const auto read =
+        quoteFailed ? TZTradeTool::readTimelyInfoWithStockCode : TZTradeTool::getTimelyInfoWithStockCode;
+    read(stock.stockCode, Success{this, answered}, Failure{this, failed});
 }
 
 void TZStockDetailController::takeQuote(const QVariantMap &data)

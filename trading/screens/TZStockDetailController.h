@@ -118,6 +118,7 @@ private:
     /// Quotes are counted as they are asked for; what answers later than a newer one is dropped.
     int askedQuotes = 0;
     int shownQuote = 0;
+    bool quoteFailed = false;
     bool refreshing = false;
     /// The minute since 1970 that the charts were last asked for, and how many quotes came since they came.
     qint64 detailMinute = 0;

@@ -18,7 +18,6 @@ Tappable {
     required property string rate
     required property int trend
     required property string sentence
-    readonly property real columnWidth: (width - 2 * Theme.margin) / 4
 
     implicitHeight: Theme.scaled(64)
     deep: true
@@ -32,27 +31,44 @@ Tappable {
             deep: true
         }
     }
-    contentItem: Row {
-        leftPadding: Theme.margin
+    HoldingLine {
+        id: line
+        anchors.fill: parent
 
-        Pair {
-            width: cell.columnWidth
-            upper: cell.name
-            lower: cell.code
-            alignment: Text.AlignLeft
+        Column {
+            width: line.columnWidth(0)
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: Theme.spacingTiny
+
+            PlainText {
+                width: parent.width
+                text: cell.name
+                font: Theme.body
+                color: Theme.deep.textPrimary
+                elide: Text.ElideRight
+                Accessible.ignored: true
+            }
+            PlainText {
+                width: parent.width
+                text: cell.code
+                font: Theme.caption
+                color: Theme.deep.textSecondary
+                elide: Text.ElideRight
+                Accessible.ignored: true
+            }
         }
         Pair {
-            width: cell.columnWidth
+            width: line.columnWidth(1)
             upper: cell.cost
             lower: cell.price
         }
         Pair {
-            width: cell.columnWidth
+            width: line.columnWidth(2)
             upper: cell.shares
             lower: cell.available
         }
         Pair {
-            width: cell.columnWidth
+            width: line.columnWidth(3)
             upper: cell.profit
             lower: cell.rate
             trend: cell.trend
@@ -64,7 +80,6 @@ Tappable {
 
         required property string upper
         required property string lower
-        property int alignment: Text.AlignRight
         property int trend: 0
 
         anchors.verticalCenter: parent.verticalCenter
@@ -72,21 +87,22 @@ Tappable {
 
         AmountText {
             width: parent.width
-            leftPadding: pair.alignment === Text.AlignRight ? Theme.spacingSmall : 0
+            leftPadding: Theme.spacingSmall
             deep: true
             text: pair.upper
             font: Theme.body
             trend: pair.trend
-            horizontalAlignment: pair.alignment
+            horizontalAlignment: Text.AlignRight
             Accessible.ignored: true
         }
         AmountText {
             width: parent.width
+            leftPadding: Theme.spacingSmall
             deep: true
             text: pair.lower
             font: Theme.caption
             color: pair.trend === 0 ? Theme.deep.textSecondary : Theme.trend(pair.trend, true)
-            horizontalAlignment: pair.alignment
+            horizontalAlignment: Text.AlignRight
             Accessible.ignored: true
         }
     }

@@ -11,10 +11,13 @@ Column {
 
     required property TZHandicapView handicapView
     required property bool buySide
+    required property bool stale
     required property real rowHeight
     required property string name
-    /// The row that Tab reaches. The best of the sell levels is the last of the upper block of five.
-    property int current: buySide ? 0 : 4
+    /// The row of the best level. Below one that is not the first the next block begins, with the worst.
+    property int best: 0
+    /// The row that Tab reaches.
+    property int current: best
 
     function moveTo(row: int) {
         const level = levels.itemAt(row) as OrderBookRow
@@ -34,6 +37,7 @@ Column {
         OrderBookRow {
             required property int index
             required property bool selectable
+            readonly property bool parted: index === side.best && index > 0
 
             required title
             required price
@@ -41,12 +45,21 @@ Column {
             required share
             required trend
             width: side.width
-            height: side.rowHeight
+            height: side.rowHeight + (parted ? partition.height : 0)
             buySide: side.buySide
+            stale: side.stale
             enabled: selectable
             activeFocusOnTab: index === side.current
             onActiveFocusChanged: if (activeFocus) side.current = index
             onClicked: side.handicapView.selectHandicap(index)
+
+            Rectangle {
+                id: partition
+                anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+                height: Theme.spacingTiny
+                visible: parent.parted
+                color: Theme.deep.hairline
+            }
         }
     }
 }

@@ -28,7 +28,7 @@ Column {
             text: head.detail.price
             font: Theme.display
             trend: head.detail.trend
-            opacity: head.detail.quoteAge.stale ? Theme.disabledOpacity : 1
+            stale: head.detail.quoteAge.stale
         }
         Column {
             id: beside
@@ -42,7 +42,7 @@ Column {
                 text: head.detail.change
                 font: Theme.bodyBold
                 trend: head.detail.trend
-                opacity: head.detail.quoteAge.stale ? Theme.disabledOpacity : 1
+                stale: head.detail.quoteAge.stale
             }
             PlainText {
                 text: head.detail.stockCode
@@ -72,17 +72,16 @@ Column {
                 anchors.centerIn: parent
                 text: head.detail.tag
                 font: Theme.label
-                color: head.detail.tagTrend === 0 ? Theme.deep.textSecondary : Theme.trend(head.detail.tagTrend, true)
+                color: head.detail.tagTrend === 0 || head.detail.quoteAge.stale ? Theme.deep.textSecondary : Theme.trend(head.detail.tagTrend, true)
             }
         }
     }
     Grid {
         id: figures
-        readonly property real cellWidth: (head.width - 2 * Theme.margin - 2 * columnSpacing) / 3
-        columns: 3
+        readonly property real room: head.width - 2 * Theme.margin + columnSpacing
+        columns: room / 3 < Theme.scaled(110) ? 2 : 3
         columnSpacing: Theme.spacing
         rowSpacing: Theme.spacingTiny
-        opacity: head.detail.quoteAge.stale ? Theme.disabledOpacity : 1
 
         Repeater {
             model: head.detail.figures
@@ -94,7 +93,7 @@ Column {
                 required property string value
                 required property int trend
 
-                width: figures.cellWidth
+                width: figures.room / figures.columns - figures.columnSpacing
                 height: figure.implicitHeight
                 Accessible.role: Accessible.StaticText
                 Accessible.name: label + " " + value
@@ -113,6 +112,7 @@ Column {
                     text: cell.value
                     font: Theme.label
                     trend: cell.trend
+                    stale: head.detail.quoteAge.stale
                     horizontalAlignment: Text.AlignRight
                     Accessible.ignored: true
                 }

@@ -11,6 +11,7 @@ T.Control {
     id: view
 
     required property StockChart chart
+    property bool stale: false
     readonly property real zoomStep: 1.25
     /// In the order of ChartTone.
     readonly property var colours: [
@@ -61,7 +62,7 @@ T.Control {
                 height: legend.height
                 verticalAlignment: Text.AlignVCenter
                 font: Theme.unit
-                color: view.colours[tone]
+                color: view.stale ? Theme.deep.textSecondary : view.colours[tone]
                 Accessible.ignored: true
             }
         }
@@ -79,9 +80,15 @@ T.Control {
             y: Math.round(place.y - height / 2)
             font: Theme.unit
             color: view.colours[tone]
-            style: Text.Outline
-            styleColor: Theme.pageBlue
             Accessible.ignored: true
+
+            // Curves pass behind it.
+            Rectangle {
+                z: -1
+                anchors { fill: parent; leftMargin: -2; rightMargin: -2 }
+                color: Theme.deep.surface
+                opacity: 0.85
+            }
         }
     }
     Item {

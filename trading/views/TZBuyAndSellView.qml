@@ -9,9 +9,9 @@ PageFrame {
     id: page
 
     readonly property TZBuyAndSellController screen: controller as TZBuyAndSellController
-    readonly property real bookWidth: Math.min(260, Math.floor(width * 0.46))
-    readonly property real quoteOpacity: screen.quoteAge.stale ? Theme.disabledOpacity : 1
-    readonly property real levelHeight: Math.floor((scroll.height - bookTitle.height - Theme.spacing) / 20)
+    readonly property real bookWidth: Math.min(260, Math.floor(width * (largeText ? 0.5 : 0.46)))
+    readonly property bool largeText: Theme.textScale > 1
+    readonly property real levelHeight: Math.floor((book.height - 2 * Theme.spacing) / 20)
 
     FormRow {
         id: stockRow
@@ -25,9 +25,9 @@ PageFrame {
     }
     PageFlickable {
         id: scroll
-        anchors { left: parent.left; right: parent.right; top: stockRow.bottom; bottom: submitButton.top }
+        anchors { left: parent.left; right: book.left; top: stockRow.bottom; bottom: submitButton.top }
         anchors.bottomMargin: Theme.spacingSmall
-        contentHeight: Math.max(height, form.height, book.height)
+        contentHeight: Math.max(height, form.height)
         onDragStarted: page.screen.scrollViewWillBeginDragging()
 
         TapHandler {
@@ -35,7 +35,7 @@ PageFrame {
         }
         Column {
             id: form
-            width: parent.width - page.bookWidth
+            width: parent.width
 
             TextInputRow {
                 deep: true
@@ -48,12 +48,24 @@ PageFrame {
 
                 AmountText {
                     anchors.verticalCenter: parent.verticalCenter
+                    visible: !page.largeText
                     deep: true
                     text: page.screen.currentPriceText
-                    opacity: page.quoteOpacity
                     font: Theme.caption
                     color: Theme.deep.textSecondary
                 }
+            }
+            // Large text leaves no room for it in the field.
+            AmountText {
+                x: Theme.margin
+                width: parent.width - 2 * x
+                height: Theme.touchTarget
+                visible: page.largeText
+                deep: true
+                text: page.screen.currentPriceText
+                font: Theme.caption
+                color: Theme.deep.textSecondary
+                Accessible.ignored: text === ""
             }
             TextInputRow {
                 deep: true
@@ -70,8 +82,8 @@ PageFrame {
             }
             Row {
                 id: fractions
-                readonly property real buttonWidth: (form.width - 2 * Theme.spacing - 2 * Theme.spacingSmall) / 3
-                x: Theme.spacing
+                readonly property real buttonWidth: (form.width - Theme.margin - Theme.spacing - 2 * Theme.spacingSmall) / 3
+                x: Theme.margin
                 spacing: Theme.spacingSmall
 
                 Repeater {
@@ -100,57 +112,70 @@ PageFrame {
                 Accessible.ignored: text === ""
             }
         }
+    }
+    Item {
+        id: bookTitle
+        anchors { left: book.left; right: book.right; top: stockRow.bottom }
+        height: Theme.scaled(36)
+
+        // The age finds room within the title: levels never move below a finger.
+        SectionHeader {
+            width: parent.width
+            height: parent.height - (quoteAge.visible ? quoteAge.height - Theme.spacingTiny : 0)
+            deep: true
+            text: "level2 盘口"
+        }
+        QuoteAgeText {
+            id: quoteAge
+            anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+            anchors { leftMargin: Theme.margin; rightMargin: Theme.spacingSmall; bottomMargin: 1 }
+            age: page.screen.quoteAge
+        }
+    }
+    PageFlickable {
+        id: book
+        // Where the sides do not fit, the best levels of both are seen first, and no level by half.
+        readonly property real row: Math.max(Theme.scaled(30), page.levelHeight)
+        readonly property real start: Math.max(0, Math.min(sell.best, Math.round((sell.height - height / 2) / row))) * row
+        anchors { right: parent.right; top: bookTitle.bottom; bottom: scroll.bottom }
+        width: page.bookWidth
+        contentHeight: sides.height
+        onStartChanged: if (!moving) contentY = Math.min(start, Math.max(0, contentHeight - height))
+        onDragStarted: page.screen.scrollViewWillBeginDragging()
+
         Column {
-            id: book
-            x: form.width
-            width: page.bookWidth
-            bottomPadding: Theme.spacingSmall
+            id: sides
+            width: parent.width
 
-            Item {
-                id: bookTitle
-                width: parent.width
-                height: Theme.scaled(36)
-
-                // The age finds room within the title: levels never move below a finger.
-                SectionHeader {
-                    width: parent.width
-                    height: parent.height - (quoteAge.visible ? quoteAge.height - Theme.spacingTiny : 0)
-                    deep: true
-                    text: "level2 盘口"
-                }
-                QuoteAgeText {
-                    id: quoteAge
-                    anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
-                    anchors { leftMargin: Theme.margin; rightMargin: Theme.spacingSmall; bottomMargin: 1 }
-                    age: page.screen.quoteAge
-                }
-            }
             OrderBookSide {
+                id: sell
                 width: parent.width
                 handicapView: page.screen.sellHandicapView
                 buySide: false
+                stale: page.screen.quoteAge.stale
                 name: "卖盘"
-                rowHeight: Math.max(Theme.scaled(30), page.levelHeight)
-                opacity: page.quoteOpacity
+                best: 4
+                rowHeight: book.row
             }
             Hairline {
                 width: parent.width
+                height: Theme.spacingTiny
                 deep: true
             }
             OrderBookSide {
                 width: parent.width
                 handicapView: page.screen.buyHandicapView
                 buySide: true
+                stale: page.screen.quoteAge.stale
                 name: "买盘"
-                rowHeight: Math.max(Theme.scaled(30), page.levelHeight)
-                opacity: page.quoteOpacity
+                rowHeight: book.row
             }
         }
     }
     PrimaryButton {
         id: submitButton
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
-        anchors { leftMargin: Theme.spacing; rightMargin: Theme.spacing; bottomMargin: Theme.spacingSmall }
+        anchors { leftMargin: Theme.margin; rightMargin: Theme.margin; bottomMargin: Theme.spacingSmall }
         deep: true
         fill: page.screen.isBuyType ? Theme.buy : Theme.sell
         text: page.screen.submitTitle

@@ -16,6 +16,17 @@ PageFrame {
         model: page.detail.rows
         Accessible.name: page.detail.title
 
+        footerContent: PlainText {
+            height: text === "" ? 0 : implicitHeight
+            padding: Theme.margin
+            text: page.detail.reason
+            font: Theme.body
+            color: Theme.deep.textPrimary
+            wrapMode: Text.Wrap
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+            Accessible.ignored: text === ""
+        }
         delegate: DetailLine {
             width: ListView.view.width
         }

@@ -60,7 +60,7 @@ PageFrame {
                 trailingTrend: page.trading.profitTrend
             }
             HoldingColumns {
-                visible: !page.trading.noData
+                visible: page.trading.holdings.count > 0
             }
         }
         delegate: HoldingCell {

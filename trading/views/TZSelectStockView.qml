@@ -94,13 +94,14 @@ PageFrame {
         noNet: page.screen.noNet
     }
 
-    /// A text whose middle piece stands out.
+    /// A text whose middle piece stands out, cut at the end of `room`.
     component Pieces: Row {
         id: pieces
 
         required property list<string> texts
         required property font style
         property color colour: Theme.textPrimary
+        property real room: Infinity
 
         Repeater {
             model: pieces.texts
@@ -109,8 +110,10 @@ PageFrame {
                 required property int index
                 required property string modelData
 
+                width: Math.max(0, Math.min(implicitWidth, pieces.room - x))
                 text: modelData
                 font: pieces.style
+                elide: Text.ElideRight
                 color: index === 1 ? Theme.link : pieces.colour
                 Accessible.ignored: true
             }
@@ -143,7 +146,16 @@ PageFrame {
                 anchors { left: parent.left; right: parent.right; bottom: parent.bottom; leftMargin: Theme.margin }
             }
         }
-        contentItem: Item {
+        Item {
+            id: texts
+            anchors.fill: parent
+            readonly property real room: ends.x - Theme.margin - Theme.spacingSmall
+
+            TextMetrics {
+                id: wholeName
+                font: Theme.body
+                text: Array.from(row.name).join("")
+            }
             Column {
                 anchors { left: parent.left; leftMargin: Theme.margin; verticalCenter: parent.verticalCenter }
                 spacing: 2
@@ -151,24 +163,30 @@ PageFrame {
                 Pieces {
                     texts: row.name
                     style: Theme.body
+                    room: texts.room
                 }
                 Pieces {
                     texts: row.code
                     style: Theme.caption
                     colour: Theme.textSecondary
+                    room: texts.room
                 }
             }
             Row {
+                id: ends
                 anchors { right: parent.right; rightMargin: Theme.spacingSmall; verticalCenter: parent.verticalCenter }
                 spacing: Theme.spacingTiny
 
                 Pieces {
                     anchors.verticalCenter: parent.verticalCenter
+                    // A long name needs their place more.
+                    visible: wholeName.width + implicitWidth < row.width - detail.width - 2 * Theme.margin - Theme.spacing
                     texts: row.initials
                     style: Theme.label
                     colour: Theme.textSecondary
                 }
                 TextButton {
+                    id: detail
                     // The keyboard reaches that of the row which the arrow keys have chosen.
                     activeFocusOnTab: row.current
                     text: "行情"

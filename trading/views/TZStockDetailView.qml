@@ -17,6 +17,12 @@ PageFrame {
         anchors.bottomMargin: Theme.spacing
         contentHeight: sections.height
 
+        // Figures and curves in the colours of trends are read better on it than on the page.
+        Rectangle {
+            width: parent.width
+            height: book.y
+            color: Theme.deep.surface
+        }
         Column {
             id: sections
             width: parent.width
@@ -25,11 +31,14 @@ PageFrame {
                 width: parent.width
                 detail: page.detail
             }
-            Row {
+            Grid {
                 id: holding
+                readonly property real room: sections.width - 2 * Theme.margin + Theme.spacingSmall
                 x: Theme.margin
                 visible: page.detail.holdingFigures.count > 0
-                spacing: Theme.spacingSmall
+                columns: room / 4 < Theme.scaled(120) ? 2 : 4
+                columnSpacing: Theme.spacingSmall
+                rowSpacing: Theme.spacingSmall
                 bottomPadding: Theme.spacing
 
                 Repeater {
@@ -40,14 +49,16 @@ PageFrame {
                         required value
                         required trend
 
-                        width: (sections.width - 2 * Theme.margin - 3 * holding.spacing) / 4
+                        width: holding.room / holding.columns - holding.columnSpacing
                         deep: true
+                        stale: page.detail.quoteAge.stale
                     }
                 }
             }
             Row {
                 id: choices
                 x: Theme.margin
+                visible: !page.detail.canRetry
                 spacing: Theme.spacingSmall
                 Accessible.role: Accessible.PageTabList
 
@@ -70,12 +81,13 @@ PageFrame {
             }
             Item {
                 width: parent.width
-                height: Math.max(260, Math.round(page.height * 0.36))
+                height: Math.max(Theme.scaled(260), Math.round(page.height * 0.36))
 
                 StockChartView {
                     anchors { fill: parent; leftMargin: Theme.margin; rightMargin: Theme.margin }
                     visible: !page.detail.canRetry
                     chart: page.detail.chart
+                    stale: page.detail.quoteAge.stale
                 }
                 PlainText {
                     anchors.centerIn: parent
@@ -83,20 +95,28 @@ PageFrame {
                     text: page.detail.notice
                     font: Theme.label
                     color: Theme.deep.textSecondary
+
+                    Rectangle {
+                        z: -1
+                        anchors { fill: parent; margins: -Theme.spacingTiny }
+                        color: Theme.deep.surface
+                    }
                 }
                 MVNoNetView {
                     anchors.fill: parent
                     visible: page.detail.canRetry
                     deep: true
+                    small: page.height < 700
                     text: page.detail.notice
                     noNet: page.detail.noNet
                 }
             }
             TwoSidedBook {
+                id: book
                 width: parent.width
                 buyView: page.detail.buyHandicapView
                 sellView: page.detail.sellHandicapView
-                opacity: page.detail.quoteAge.stale ? Theme.disabledOpacity : 1
+                stale: page.detail.quoteAge.stale
             }
         }
     }

@@ -10,6 +10,7 @@ Item {
 
     required property TZHandicapView buyView
     required property TZHandicapView sellView
+    property bool stale: false
     property real rowHeight: Theme.scaled(30)
 
     implicitHeight: title.height + levels.height
@@ -28,6 +29,7 @@ Item {
             width: book.width / 2
             handicapView: book.buyView
             buySide: true
+            stale: book.stale
             name: "买盘"
             rowHeight: book.rowHeight
         }
@@ -35,6 +37,7 @@ Item {
             width: book.width / 2
             handicapView: book.sellView
             buySide: false
+            stale: book.stale
             name: "卖盘"
             rowHeight: book.rowHeight
         }

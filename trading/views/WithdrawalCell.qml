@@ -41,11 +41,13 @@ Item {
                 color: cell.isSell ? Theme.fall : Theme.rise
                 Accessible.ignored: true
             }
-            AmountText {
-                width: Math.min(implicitWidth, parent.width - sideText.width - statusText.width - 2 * parent.spacing)
+            PlainText {
+                anchors.baseline: sideText.baseline
+                width: parent.width - sideText.width - statusText.width - 2 * parent.spacing
                 text: cell.stock
                 font: Theme.body
                 color: Theme.deep.textPrimary
+                elide: Text.ElideRight
                 Accessible.ignored: true
             }
             PlainText {
