@@ -21,7 +21,6 @@ const std::vector<ToolOperation> operations{
     OPERATION(postQueryWithDrawStatusWithParam),
     OPERATION(getDetailsTodayWithParam),
     OPERATION(getEntrustsTodayWithParam),
-    OPERATION(readEntrustsTodayWithParam),
     OPERATION(getWarnInfoWithParam),
     OPERATION(getTimelyInfoWithStockCode),
     OPERATION(getTradeRechargeWithParam),
