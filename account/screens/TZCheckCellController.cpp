@@ -2,7 +2,6 @@
 
 #include "account/screens/TZLoginController.h"
 #include "account/screens/TZRegisterController.h"
-#include "core/net/ToolPolicy.h"
 #include "core/session/TZUserTool.h"
 #include "core/util/Service.h"
 
@@ -47,18 +46,15 @@ void TZCheckCellController::clickNextStepBtn()
 
 void TZCheckCellController::openNextStep(const QString &cell, const QVariantMap &answer)
 {
-    // The message of a refusal is on the screen already.
-    if (!ToolPolicy::succeeded(answer))
-        return;
+    const bool sent = TZSmsCodeController::wasSent(answer);
     const QString bizCode = TZSmsCodeController::bizCodeOf(answer);
     std::unique_ptr<TZSignInCodeController> next;
-    if (bizCode == u"1001")
+    if (sent && bizCode == u"1001")
         next = std::make_unique<TZRegisterController>(router);
-    else if (bizCode == u"1002")
+    else if (sent && bizCode == u"1002")
         next = std::make_unique<TZLoginController>();
     if (!next) {
-        if (Service::whetherAnEmptyString(answer.value(QStringLiteral("message"))))
-            Service::showErrorWithMsg(QStringLiteral("交易码异常"));
+        TZSmsCodeController::sayIfSilent(answer);
         return;
     }
     next->requestData = {{QStringLiteral("bizCode"), bizCode}, {QStringLiteral("cell"), cell}};

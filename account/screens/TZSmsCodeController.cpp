@@ -20,6 +20,18 @@ QString TZSmsCodeController::bizCodeOf(const QVariantMap &answer)
                         : code);
 }
 
+bool TZSmsCodeController::wasSent(const QVariantMap &answer)
+{
+    const bool says = !Service::whetherAnEmptyString(answer.value(QStringLiteral("success")));
+    return says ? ToolPolicy::succeeded(answer) : !Service::whetherAnEmptyString(bizCodeOf(answer));
+}
+
+void TZSmsCodeController::sayIfSilent(const QVariantMap &answer)
+{
+    if (Service::whetherAnEmptyString(ToolPolicy::message(answer)))
+        Service::showErrorWithMsg(QStringLiteral("交易码异常"));
+}
+
 QString TZSmsCodeController::sentTo(const QString &cell)
 {
     return QStringLiteral("已发送短信验证码至%1，请在输入框内填写验证码")
@@ -37,8 +49,8 @@ void TZSmsCodeController::sendSms(const OwnedAction &complete)
     using TimeButton = TZSmsCell::TimeButton;
     sms.changeTimeButtonStyleWithIndex(TimeButton::Waiting, sms.title());
     const auto sent = [this, complete](const Operation &, const QVariantMap &answer) {
-        if (!ToolPolicy::succeeded(answer))
-            return;
+        if (!wasSent(answer))
+            return sayIfSilent(answer);
         const QString renewed = bizCodeOf(answer);
         if (!Service::whetherAnEmptyString(renewed))
             requestData.insert(bizCodeKey, renewed);

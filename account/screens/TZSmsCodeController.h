@@ -18,6 +18,11 @@ class TZSmsCodeController : public TZFormController {
 public:
     /// The business code of an answer: at its top level or, when that is empty, in "data".
     static QString bizCodeOf(const QVariantMap &answer);
+    /// Whether the answer says that a code was sent: a success, or one that is silent about "success" and has
+    /// a business code.
+    static bool wasSent(const QVariantMap &answer);
+    /// Says that something is wrong with an answer that says nothing itself.
+    static void sayIfSilent(const QVariantMap &answer);
 
     /// Handed on from step to step. Keys: "bizCode" (of the answer that told of the code), and what the
     /// screens derived from this add.

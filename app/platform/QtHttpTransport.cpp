@@ -3,6 +3,8 @@
 #include "app/platform/Loopback.h"
 #include "app/platform/OneShotBody.h"
 
+#include <QDateTime>
+#include <QLocale>
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QSslConfiguration>
@@ -84,7 +86,15 @@ private:
         if (target.isValid() && isFollowed(status))
             return redirect(reply->url().resolved(target));
         finish(HttpResponse{status, reply->header(QNetworkRequest::ContentTypeHeader).toByteArray(),
-                            reply->readAll(), bodyWasSent});
+                            reply->readAll(), bodyWasSent, dateOf(*reply)});
+    }
+
+    static qint64 dateOf(const QNetworkReply &reply)
+    {
+        QDateTime date = QLocale::c().toDateTime(QString::fromLatin1(reply.rawHeader("Date")),
+                                                 QStringLiteral("ddd, dd MMM yyyy hh:mm:ss 'GMT'"));
+        date.setTimeSpec(Qt::UTC);
+        return date.isValid() ? date.toMSecsSinceEpoch() : 0;
     }
 
     /// 307 and 308 ask for the same method again, with its body.

@@ -27,6 +27,9 @@ public:
     /// What came back is from where a redirect led after the body was sent: it says nothing of the work that
     /// the body asked for. Set before the callbacks.
     bool redirected = false;
+    /// When the service answered, on its own clock: milliseconds since 1970; 0 when it did not say so. Set
+    /// before the callbacks.
+    qint64 answeredAt = 0;
 
 Q_SIGNALS:
     void finished();

@@ -76,6 +76,7 @@ void deliver(const Operation &operation, const HttpOutcome &outcome, const Succe
     if (!response)
         return fail(operation, error, {std::get<HttpFailure>(outcome)});
     operation->redirected = response->redirected;
+    operation->answeredAt = response->date;
     const std::optional<QVariantMap> answer = decodeEnvelope(*response);
     if (!answer)
         return fail(operation, error, {std::nullopt, response->status, response->redirected});
@@ -168,7 +169,7 @@ Operation KRAFHTTPClient::execute(const QString &url, const QString &method, con
 void KRAFHTTPClient::showMsgWithDict(const QVariantMap &dict, const QString &url)
 {
     const bool ok = ToolPolicy::succeeded(dict);
-    const QString message = textForm(dict.value(QStringLiteral("message")));
+    const QString message = ToolPolicy::message(dict);
     const bool silent =
         Service::whetherAnEmptyString(message) || url == ToolPolicy::url(QStringLiteral("info"));
     if (!silent && ok)

@@ -20,6 +20,14 @@ bool ToolPolicy::succeeded(const QVariantMap &answer)
     return boolValue(answer.value(QStringLiteral("success")));
 }
 
+QString ToolPolicy::message(const QVariantMap &answer)
+{
+    const QVariant message = answer.value(QStringLiteral("message"));
+    // Not of a success, where services are used to write "ok" into it.
+    const bool otherName = !succeeded(answer) && Service::whetherAnEmptyString(message);
+    return textForm(otherName ? answer.value(QStringLiteral("msg")) : message);
+}
+
 Success ToolPolicy::gated(Success success, Indicator indicator)
 {
     return Success::unowned(

@@ -20,6 +20,9 @@ QString url(const QString &path);
 /// The answer's "success" as a boolean; absent is false.
 bool succeeded(const QVariantMap &answer);
 
+/// The "message" for the user; of an answer that is not a success, the "msg" when there is no "message".
+QString message(const QVariantMap &answer);
+
 enum class Indicator { Hide, Keep };
 enum class Hand { AsReceived, Cleaned };
 

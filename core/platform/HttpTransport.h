@@ -22,6 +22,8 @@ struct HttpResponse {
     QByteArray body;
     /// It answers a GET to which a redirect led after the body of the request was sent.
     bool redirected = false;
+    /// Its "Date", in milliseconds since 1970; 0 when it has none.
+    qint64 date = 0;
 };
 
 /// `Offline`: no connection came about. `Tls`: the other side could not prove itself, or an address was not
@@ -33,8 +35,8 @@ using HttpOutcome = std::variant<HttpResponse, HttpFailure>;
 
 /// Sends bytes, brings bytes. Any status is a response; only what yields no whole response is a failure.
 /// Never ignores a TLS error, follows redirects only while they stay on HTTPS. Only a GET, which changes
-/// nothing, may reach the wire again, on a new connection where the kept one broke; anything else goes out once.
-/// `done` runs exactly once, on the main thread, never from inside `send`.
+/// nothing, may reach the wire again, on a new connection where the kept one broke; anything else goes out
+/// once. `done` runs exactly once, on the main thread, never from inside `send`.
 class HttpTransport {
 public:
     virtual ~HttpTransport() = default;

@@ -44,6 +44,19 @@ qsizetype skipDigits(const QString &text, qsizetype at)
     return at;
 }
 
+/// Digits, also in groups as in "12,345,678".
+qsizetype skipWhole(const QString &text, qsizetype at)
+{
+    constexpr qsizetype group = 3;
+    const qsizetype first = at;
+    at = skipDigits(text, at);
+    if (at == first || at - first > group)
+        return at;
+    while (at < text.size() && text[at] == u',' && skipDigits(text, at + 1) == at + 1 + group)
+        at += 1 + group;
+    return at;
+}
+
 qsizetype skipSign(const QString &text, qsizetype at)
 {
     return at < text.size() && (text[at] == u'+' || text[at] == u'-') ? at + 1 : at;
@@ -55,12 +68,12 @@ qsizetype skipSpace(const QString &text)
     return found - text.begin();
 }
 
-/// The part of `text` that reads as a decimal number; empty when no digit stands in it.
+/// The part of `text` that reads as a decimal number, groups and all; empty when no digit stands in it.
 QStringView leadingNumber(const QString &text)
 {
     const qsizetype start = skipSpace(text);
     const qsizetype whole = skipSign(text, start);
-    qsizetype end = skipDigits(text, whole);
+    qsizetype end = skipWhole(text, whole);
     qsizetype digits = end - whole;
     if (end < text.size() && text[end] == u'.') {
         const qsizetype fraction = end + 1;
@@ -81,13 +94,17 @@ QStringView leadingNumber(const QString &text)
 /// The locale reads what is beyond all numbers too, but the detour costs more than the reading.
 double asciiNumber(QStringView number)
 {
-    QVarLengthArray<char, 64> ascii(number.size());
-    std::transform(number.begin(), number.end(), ascii.begin(), [](QChar c) { return c.toLatin1(); });
+    QVarLengthArray<char, 64> ascii;
+    for (const QChar c : number) {
+        if (c != u',')
+            ascii.append(c.toLatin1());
+    }
     const char *const end = ascii.data() + ascii.size();
     const char *const start = number.startsWith(u'+') ? ascii.data() + 1 : ascii.data();
     double value = 0;
     const auto [read, problem] = std::from_chars(start, end, value);
-    return problem == std::errc() && read == end ? value : QLocale::c().toDouble(number);
+    return problem == std::errc() && read == end ? value
+                                                 : QLocale::c().toDouble(number.toString().remove(u','));
 }
 
 double finiteNumber(double number)
@@ -150,8 +167,8 @@ qint64 integerValue(const QVariant &value)
 
     const QString text = textForm(value);
     const qsizetype start = skipSpace(text);
-    const qsizetype end = skipDigits(text, skipSign(text, start));
-    const QString digits = text.sliced(start, end - start);
+    const qsizetype end = skipWhole(text, skipSign(text, start));
+    const QString digits = text.sliced(start, end - start).remove(u',');
     bool fits = false;
     const qint64 number = digits.toLongLong(&fits);
     return fits ? number : wholePart(finiteNumber(digits.toDouble()));

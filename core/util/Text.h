@@ -11,9 +11,10 @@ bool isNullMarker(const QVariant &value);
 /// Integral numbers without a point, booleans "1"/"0", other numbers as the shortest text that reads back;
 /// null, absent, lists and dictionaries give "".
 QString textForm(const QVariant &value);
-/// The leading number of a text, blanks before it skipped; 0 when there is none. Always finite.
+/// The leading number of a text, blanks before it skipped, also in groups ("1,234.50"); 0 when there is none.
+/// Always finite.
 double doubleValue(const QVariant &value);
-/// The leading whole number of a text, blanks before it skipped, clamped to the type; 0 when there is none.
+/// The leading whole number of a text, read in the same way, clamped to the type; 0 when there is none.
 qint64 integerValue(const QVariant &value);
 /// A number that is not zero; a text whose first significant character (after blanks, a sign, zeros) is Y, y,
 /// T, t or 1 to 9.
@@ -33,13 +34,16 @@ template <typename Model> Model fromDictionary(const QVariant &dictionary)
     return model;
 }
 
+/// Elements that are no dictionaries are left out.
 template <typename Model> QList<Model> fromArray(const QVariant &array)
 {
     const QVariantList rows = array.toList();
     QList<Model> models;
     models.reserve(rows.size());
-    for (const QVariant &row : rows)
-        models.append(fromDictionary<Model>(row));
+    for (const QVariant &row : rows) {
+        if (row.typeId() == QMetaType::QVariantMap)
+            models.append(fromDictionary<Model>(row));
+    }
     return models;
 }
 

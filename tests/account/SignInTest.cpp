@@ -175,6 +175,8 @@ TEST_F(SignInTest, TheEntryStaysForEveryOtherAnswerAndSaysWhy)
          {QStringLiteral("号码已停用")}},
         {"1003, without one", started(QStringLiteral("1003")), {QStringLiteral("交易码异常")}},
         {"no code at all", succeeded(), {QStringLiteral("交易码异常")}},
+        {"nothing", {}, {QStringLiteral("交易码异常")}},
+        {"a refusal without a word", refused({}), {QStringLiteral("交易码异常")}},
         {"a refusal, with a known code",
          {{QStringLiteral("success"), false},
           {QStringLiteral("bizCode"), QStringLiteral("1002")},
@@ -192,9 +194,11 @@ TEST_F(SignInTest, TheEntryStaysForEveryOtherAnswerAndSaysWhy)
 
 TEST_F(SignInTest, TheBusinessCodeIsReadAsNumberAndInDataToo)
 {
-    sendNumber(started(1002));
-    EXPECT_EQ(stack->top()->title(), QStringLiteral("登录"));
-    stack->pop();
+    for (const QVariantMap &answer : {started(1002), QVariantMap{{QStringLiteral("bizCode"), 1002}}}) {
+        sendNumber(answer);
+        EXPECT_EQ(stack->top()->title(), QStringLiteral("登录"));
+        stack->pop();
+    }
     QVariantMap inData = succeeded(QVariantMap{{QStringLiteral("bizCode"), QStringLiteral("1001")}});
     for (const char *empty : {"", "(null)"}) {
         inData.insert(QStringLiteral("bizCode"), QLatin1String(empty));

@@ -67,7 +67,8 @@ TEST_F(HttpTransportTest, CarriesMethodHeadersAndBodyAndBringsAnyStatusBack)
     server.answer = [](QTcpSocket &socket, const WireServer::Request &request) {
         const QByteArray status = request.line().split('/').value(1).split(' ').value(0);
         const QByteArray challenge = status == "401" ? "WWW-Authenticate: Basic realm=\"x\"\r\n" : "";
-        respond(socket, status + " X", "Content-Type: text/html; charset=utf-8\r\n" + challenge,
+        const QByteArray date = status == "201" ? "" : "Date: Sun, 13 Sep 2020 12:26:40 GMT\r\n";
+        respond(socket, status + " X", "Content-Type: text/html; charset=utf-8\r\n" + date + challenge,
                 "{" + status + "}");
     };
     for (const char *method : {"GET", "POST", "PUT"}) {
@@ -88,6 +89,8 @@ TEST_F(HttpTransportTest, CarriesMethodHeadersAndBodyAndBringsAnyStatusBack)
     }
     EXPECT_EQ(std::get<HttpResponse>(get(server.url(QStringLiteral("200")))).contentType,
               "text/html; charset=utf-8");
+    EXPECT_EQ(std::get<HttpResponse>(get(server.url(QStringLiteral("200")))).date, 1'600'000'000'000);
+    EXPECT_EQ(std::get<HttpResponse>(get(server.url(QStringLiteral("201")))).date, 0);
     EXPECT_EQ(described(get(server.url(QStringLiteral("204")))), "204 ");
 }
 

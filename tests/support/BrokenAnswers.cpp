@@ -29,6 +29,8 @@ QList<UnusableAnswer> unusableAnswers()
         {"no label", HttpResponse{200, "", good}, failed},
         {"empty object", body("{}"), {}},
         {"refusal", body(R"({"success":false,"message":"余额不足"})"), QStringLiteral("余额不足")},
+        {"refusal by another name", body(R"({"success":false,"message":"","msg":"余额不足"})"),
+         QStringLiteral("余额不足")},
         {"refusal as text", body(R"({"success":"false","message":"余额不足"})"), QStringLiteral("余额不足")},
         {"refusal labelled html", HttpResponse{201, "text/html; charset=utf-8", R"({"message":"余额不足"})"},
          QStringLiteral("余额不足")},

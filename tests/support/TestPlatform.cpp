@@ -143,7 +143,7 @@ FakeTransport::Sent &FakeTransport::pending(const QString &path)
 void FakeTransport::answer(Sent &which, const QVariantMap &json)
 {
     const QByteArray body = QJsonDocument(QJsonObject::fromVariantMap(json)).toJson(QJsonDocument::Compact);
-    answerRaw(which, HttpResponse{200, "application/json; charset=utf-8", body});
+    answerRaw(which, HttpResponse{200, "application/json; charset=utf-8", body, false, date});
 }
 
 void FakeTransport::answerRaw(Sent &which, const HttpOutcome &outcome)

@@ -67,6 +67,8 @@ public:
     void fail(const QString &path, HttpFailure failure) { answerRaw(pending(path), failure); }
 
     std::list<Sent> sent;
+    /// The "Date" of answers from now on.
+    qint64 date = 0;
 };
 
 class MemorySettings : public SettingsStore {

@@ -57,7 +57,7 @@ TEST_F(RepeatedOrderTest, WhenBothStandBothAreNamed)
 
     loseNext();
     answerEntrusts({entrust("7", 20), entrust("6", 10), entrust("5", 20), entrust("4", 1)});
-    EXPECT_EQ(said(), "已找到 2 笔委托");
+    EXPECT_EQ(said(), "可能找到了这笔委托");
     EXPECT_TRUE(says("可能是这笔：委托编号 10006")) << "one of them is not this client's";
     EXPECT_TRUE(says("可能是这笔：委托编号 10007"));
 }
@@ -164,4 +164,47 @@ TEST_F(RepeatedOrderTest, TheQuestionLeadsToTheSearchToo)
     enter("12.34", "800");
     submitEntry();
     EXPECT_EQ(http.countOf(buyPath), 2);
+}
+
+TEST_F(RepeatedOrderTest, WhatMayBeItEndsNothingAndIsToldOnce)
+{
+    // Nothing says when the entrust came: it may be hours old.
+    OrderEntryTest::openWithEntry();
+    lose();
+    answerEntrusts({entrust("4")});
+    EXPECT_EQ(said(), "可能找到了这笔委托");
+    EXPECT_EQ(alert()->leftTitle() + alert()->rightTitle(), "知道了");
+    EXPECT_EQ(screen->quantity(), "800");
+    alert()->rightBtnClick();
+    submitEntry();
+    EXPECT_EQ(said(), "确认再次提交");
+    alert()->leftBtnClick();
+    answerEntrusts({entrust("4")});
+    EXPECT_TRUE(says("可能是这笔：委托编号 10004"));
+    EXPECT_EQ(alert()->leftTitle(), "再次提交");
+    EXPECT_EQ(http.countOf(buyPath), 1);
+    alert()->leftBtnClick();
+    runLoop.advance(500ms);
+    EXPECT_EQ(http.countOf(buyPath), 2);
+
+    http.answer(buyPath, succeeded(QVariantMap{{"id", "5"}}));
+    alert()->cancel();
+    runLoop.advance(30s);
+    answerEntrusts({entrust("5"), entrust("4")});
+    EXPECT_EQ(said(), "");
+    EXPECT_EQ(UnknownOrders::all().size(), 1);
+}
+
+TEST_F(RepeatedOrderTest, AnAcceptedOneWithoutAnIdentifierIsNotSaidToBeUnanswered)
+{
+    openWithEntry();
+    submitEntry();
+    http.answer(buyPath, succeeded());
+    submitEntry();
+    EXPECT_EQ(said(), "确认再次提交");
+    EXPECT_TRUE(says("已受理"));
+    alert()->rightBtnClick();
+    EXPECT_EQ(said(), "委托已受理");
+    findNothing();
+    EXPECT_TRUE(says("已受理"));
 }

@@ -94,22 +94,27 @@ TEST_F(StockInfoToolTest, ARefusalWithoutAVersionKeepsTheStoredOne)
     EXPECT_TRUE(banners().isEmpty());
 }
 
-TEST_F(StockInfoToolTest, AListWithABrokenRowEmptiesTheTableAndIsAskedForAgain)
+TEST_F(StockInfoToolTest, ABrokenRowDoesNotCostTheOthers)
 {
-    save({{QStringLiteral("600123"), QStringLiteral("东方钢铁"), QStringLiteral("DFGT")}});
-    const QVariantMap good =
-        listed(QStringLiteral("600124"), QStringLiteral("西部水泥"), QStringLiteral("XBSN"));
-    QVariantMap withNull = good;
-    withNull.insert(QStringLiteral("c"), QVariant::fromValue(nullptr));
-    QVariantMap withoutName = good;
-    withoutName.remove(QStringLiteral("n"));
-    for (const QVariant &broken :
-         QVariantList{withNull, withoutName, QStringLiteral("600125"), QVariantList{1, 2}}) {
-        TZStockInfoTool::getStockInfoWithParam({}, {}, {});
-        http.answer(QStringLiteral("info"), newList({good, broken, good}));
-        waitUntilSaved();
-        EXPECT_TRUE(TZStockInfoTool::isTableEmpty());
-    }
+    const auto row = [](const QVariant &c, const QVariant &n) {
+        return QVariantMap{{QStringLiteral("c"), c}, {QStringLiteral("n"), n}};
+    };
+    const QVariant null = QVariant::fromValue(nullptr);
+    TZStockInfoTool::getStockInfoWithParam({}, {}, {});
+    http.answer(QStringLiteral("info"),
+                newList({row(QStringLiteral("600124"), null), row(null, QStringLiteral("西部水泥")),
+                         QVariantMap(), QStringLiteral("600125"), QVariantList{1, 2}, null,
+                         row(QStringLiteral("600126"), QStringLiteral("西部水泥"))}));
+    waitUntilSaved();
+    EXPECT_EQ(codesOf(TZStockInfoTool::queryWithCondition({})),
+              QStringList({QStringLiteral("600124"), QStringLiteral("600126")}));
+}
+
+TEST_F(StockInfoToolTest, AListThatCannotBeInsertedEmptiesTheTableAndIsAskedForAgain)
+{
+    save({{QStringLiteral("600123"), QString(), QStringLiteral("DFGT")}});
+    EXPECT_TRUE(TZStockInfoTool::isTableEmpty());
+    settings.setValue(SettingsKeys::infoVersion, QStringLiteral("6"));
     TZStockInfoTool::getStockInfoWithParam({}, {}, {});
     EXPECT_EQ(http.last().header("info_version"), "")
         << "the version of a list that is not there would hide it for ever";

@@ -112,7 +112,7 @@ TEST_F(StockDetailTest, BearsAnswersWithLessOrWithGarbage)
     EXPECT_EQ(page->price(), "7.00");
     EXPECT_EQ(page->change(), "-0.10  -1.41%");
     EXPECT_EQ(page->trend(), -1);
-    EXPECT_EQ(page->notice(), "今日暂无成交");
+    EXPECT_EQ(page->notice(), "暂无分时数据");
     page->selectChart(TZStockDetailController::Candles);
     EXPECT_EQ(page->notice(), "暂无历史行情");
     EXPECT_EQ(values(page), QStringList(6, "--"));

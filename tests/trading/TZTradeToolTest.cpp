@@ -1,5 +1,6 @@
 #include "trading/api/TZTradeTool.h"
 
+#include "core/net/ToolPolicy.h"
 #include "core/session/SettingsKeys.h"
 #include "core/util/Service.h"
 #include "tests/support/TestPlatform.h"
@@ -108,11 +109,16 @@ protected:
         return GetParam().shows == Shows::Quiet ? QStringList() : QStringList(text);
     }
     QString key() const { return QString::fromUtf8(GetParam().key); }
-    /// Data that any of the endpoints may bring, with a null in it.
-    static QVariantMap data()
+    /// A success as the endpoint may bring it, with a null in it.
+    QVariantMap accepted() const
     {
-        return {{QStringLiteral("availableMoney"), QStringLiteral("1.00")},
-                {QStringLiteral("profit"), QVariant::fromValue(nullptr)}};
+        const bool isPage = key().isEmpty() || key() == TZTradeTool::zorvanePageKey;
+        const QVariant list =
+            key() == TZTradeTool::buyPageKey ? QVariant(QStringLiteral("1.00")) : QVariantList{QVariantMap()};
+        const QVariant page = QVariantMap{{QStringLiteral("availableMoney"), QStringLiteral("1.00")}};
+        QVariantMap answer = succeeded(isPage ? page : list);
+        answer.insert(QStringLiteral("note"), QVariant::fromValue(nullptr));
+        return answer;
     }
 
     QObject owner;
@@ -141,13 +147,13 @@ TEST_P(TZTradeToolTest, HandsOnAnAcceptedAnswer)
 {
     call();
     Service::showWaitingProgressView();
-    http.answer(http.last(), succeeded(data()));
+    http.answer(http.last(), accepted());
     EXPECT_EQ(successes, 1);
     EXPECT_EQ(failures, 0);
     EXPECT_TRUE(withOperation);
     EXPECT_EQ(overlays.isWaiting(), GetParam().then == Then::Leaves);
-    const QVariant profit = received.value(QStringLiteral("data")).toMap().value(QStringLiteral("profit"));
-    EXPECT_EQ(profit.typeId(), QMetaType::Nullptr) << "the answer is handed on as it came";
+    EXPECT_EQ(received.value(QStringLiteral("note")).typeId(), QMetaType::Nullptr)
+        << "the answer is handed on as it came";
 }
 
 TEST_P(TZTradeToolTest, HandsOnARefusalOnlyWhenItPassesEveryAnswer)
@@ -181,7 +187,7 @@ TEST_P(TZTradeToolTest, AnswersFromTheStoredCopyWithoutANetwork)
     }
     call();
     const int flushes = settings.flushes;
-    http.answer(http.last(), succeeded(data()));
+    http.answer(http.last(), accepted());
     EXPECT_GT(settings.flushes, flushes);
 
     settings.setValue(SettingsKeys::networkStatus, false);
@@ -189,10 +195,25 @@ TEST_P(TZTradeToolTest, AnswersFromTheStoredCopyWithoutANetwork)
     EXPECT_EQ(http.count(), 1);
     EXPECT_EQ(successes, 2);
     EXPECT_FALSE(withOperation);
-    EXPECT_EQ(received.value(QStringLiteral("data")).toMap().value(QStringLiteral("profit")),
-              QVariant(QString()));
+    EXPECT_EQ(received.value(QStringLiteral("note")), QVariant(QString()));
     EXPECT_FALSE(overlays.isWaiting());
     EXPECT_EQ(banners(), QStringList{QStringLiteral("网络异常")});
+}
+
+TEST_P(TZTradeToolTest, KeepsTheStoredCopyWhenTheDataHasAnotherShape)
+{
+    if (GetParam().policy != Policy::Cached)
+        return;
+    settings.setValue(key(), accepted());
+    const bool isPage = key() == TZTradeTool::zorvanePageKey;
+    const QVariant other = isPage ? QVariant(QVariantList()) : QVariantMap{{QStringLiteral("list"), 1}};
+    call();
+    http.answer(http.last(), succeeded(other));
+    EXPECT_EQ(successes, 0);
+    EXPECT_EQ(banners(), QStringList{QStringLiteral("加载失败")});
+    EXPECT_FALSE(overlays.isWaiting());
+    EXPECT_EQ(ToolPolicy::stored(key()).value(QStringLiteral("data")),
+              accepted().value(QStringLiteral("data")));
 }
 
 TEST_P(TZTradeToolTest, StaysSilentWithoutANetworkAndACopy)
@@ -241,6 +262,7 @@ TEST_F(TradeToolTest, EntrustStatusReadsItsCodeAsAWholeNumber)
         {"6", "已撤单", EntrustStatus::Plain},   {"7", "部分成交", EntrustStatus::Dealt},
         {"8", "已成交", EntrustStatus::Dealt},   {"9", "废单", EntrustStatus::Plain},
         {"10", "", EntrustStatus::Plain},        {"-1", "", EntrustStatus::Plain},
+        {"", "", EntrustStatus::Plain},          {"已报", "", EntrustStatus::Plain},
         {"8.0", "已成交", EntrustStatus::Dealt}, {"99999999999999999999", "", EntrustStatus::Plain},
     };
     for (const Case &each : cases) {

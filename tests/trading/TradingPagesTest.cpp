@@ -261,7 +261,7 @@ TEST_F(TradingFixture, HoldingsToSellAreReadOnLoadingAndEachTimeTheyAppear)
     EXPECT_EQ(http.countOf("holding"), 2);
     EXPECT_EQ(http.pending("holding").fields(), (QVariantMap{{"", ""}}));
     http.answer(http.sent.front(), succeeded(QVariantList{holding("600001", "5"), 7, "x"}));
-    EXPECT_EQ(list->holdingMArray().size(), 3);
+    EXPECT_EQ(list->holdingMArray().size(), 1);
     list->beginRefreshing();
     http.answer(QStringLiteral("holding"), succeeded(QVariantList{holding("600001", "5")}));
     EXPECT_EQ(list->holdings()->count(), 1);
@@ -419,6 +419,17 @@ TEST_F(WithdrawalsTest, WhatWasTappedIsCancelledAlsoWhenTheListChangesMeanwhile)
     runLoop.advance(500ms);
     EXPECT_EQ(http.pending(cancelPath).fields(), (QVariantMap{{"tradeEntrustNo", "E11"}}));
     EXPECT_TRUE(banners().isEmpty()) << "the same one was tapped again";
+}
+
+TEST_F(WithdrawalsTest, WhatHasNoNumberCannotBeCancelled)
+{
+    screen->beginRefreshing();
+    list({entrust("11", ""), QVariant::fromValue(nullptr)});
+    ASSERT_EQ(screen->rows()->count(), 1);
+    EXPECT_FALSE(screen->rows()->at(0).cancellable);
+    screen->withdrawalsBtnDidClick(0);
+    runLoop.advance(10s);
+    EXPECT_EQ(http.countOf(cancelPath), 0);
 }
 
 TEST_F(WithdrawalsTest, LeavingWithinTheHalfSecondSendsAtOnce)

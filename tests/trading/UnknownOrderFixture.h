@@ -33,6 +33,12 @@ protected:
         settings.setValue(SettingsKeys::networkStatus, true);
     }
 
+    /// With the service's time in the first quote.
+    void openWithEntry()
+    {
+        OrderEntryTest::openWithEntry();
+        quoteAt(0);
+    }
     /// Sends the order of the entry; no answer comes back.
     void lose(const HttpOutcome &outcome = HttpFailure::TimedOut)
     {

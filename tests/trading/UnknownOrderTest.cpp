@@ -126,12 +126,14 @@ TEST_F(UnknownOrderTest, IsFoundOnAFurtherPageAndNotSoughtBeyondItsTime)
 
 TEST_F(UnknownOrderTest, OnlyStampsOfTheServicesClockSayWhatIsOlder)
 {
-    // What the quotes say, what the entrust says; whether it may be the order, and is surely it.
+    // What the quotes say, what the entrust says; whether it may be the order, and is surely it; when the
+    // quotes were answered.
     struct Case {
         QVariantList quotes;
         QVariant createdAt;
         bool found;
         bool certain;
+        qint64 answeredAt = 0;
     };
     const auto stamp = [](int time) { return QString::number(seconds(time)); };
     const Case cases[] = {
@@ -145,9 +147,13 @@ TEST_F(UnknownOrderTest, OnlyStampsOfTheServicesClockSayWhatIsOlder)
         {{stamp(100)}, QVariant(), true, false},
         {{}, stamp(39), true, false},
         {{"1600000100"}, stamp(39), true, false},
+        {{QVariant()}, stamp(41), true, true, seconds(100)},
+        {{QVariant()}, stamp(39), false, false, seconds(100)},
+        {{stamp(100)}, stamp(41), true, true, seconds(900)},
     };
     for (const Case &c : cases) {
-        openWithEntry();
+        http.date = c.answeredAt;
+        OrderEntryTest::openWithEntry();
         for (const QVariant &time : c.quotes)
             quoteAt(time);
         lose();
@@ -160,8 +166,10 @@ TEST_F(UnknownOrderTest, OnlyStampsOfTheServicesClockSayWhatIsOlder)
             answerEntrusts(books);
         }
         SCOPED_TRACE(c.createdAt.toString().toStdString());
-        EXPECT_EQ(said(), c.found ? "已找到这笔委托" : "未找到这笔委托");
+        EXPECT_EQ(said(), !c.found ? "未找到这笔委托" : c.certain ? "已找到这笔委托" : "可能找到了这笔委托");
         EXPECT_EQ(says("可能是这笔"), c.found && !c.certain);
+        EXPECT_EQ(UnknownOrders::all().isEmpty(), c.certain);
+        EXPECT_EQ(screen->quantity(), c.certain ? "" : "800");
         alert()->cancel();
         settings.remove(UnknownOrders::settingsKey);
         stack().pop();

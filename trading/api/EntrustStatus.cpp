@@ -2,6 +2,8 @@
 
 #include "core/util/Text.h"
 
+#include <algorithm>
+
 EntrustStatus EntrustStatus::of(const QString &status)
 {
     static const EntrustStatus waiting{QStringLiteral("委托中"), Waiting};
@@ -19,5 +21,6 @@ EntrustStatus EntrustStatus::of(const QString &status)
         {QStringLiteral("已成交"), Dealt},
         {QStringLiteral("废单"), Plain},
     };
-    return table.value(integerValue(status));
+    const bool isCode = std::any_of(status.begin(), status.end(), [](QChar c) { return c.isDigit(); });
+    return isCode ? table.value(integerValue(status)) : EntrustStatus();
 }

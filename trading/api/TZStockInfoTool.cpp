@@ -30,17 +30,15 @@ StockTable &table()
     return *opened;
 }
 
-// Null, unlike "", is what the table refuses.
+/// Never null, which the table refuses.
 QString fieldOf(const QVariantMap &row, const QString &key)
 {
-    const QVariant value = row.value(key);
-    if (!value.isValid() || isNullMarker(value))
-        return {};
-    const QString text = textForm(value);
+    const QString text = textForm(row.value(key));
     return text.isNull() ? QStringLiteral("") : text;
 }
 
-// As fromArray, without walking the meta-object: the list has thousands of rows.
+// As fromArray, without walking the meta-object: the list has thousands of rows. What has no code can be
+// neither shown nor bought, and must not keep the others from it.
 QList<TZStockInfoModel> stocksOf(const QVariantList &data)
 {
     static const QString c = QStringLiteral("c");
@@ -50,7 +48,9 @@ QList<TZStockInfoModel> stocksOf(const QVariantList &data)
     stocks.reserve(data.size());
     for (const QVariant &element : data) {
         const QVariantMap row = element.toMap();
-        stocks.append({fieldOf(row, c), fieldOf(row, n), fieldOf(row, s)});
+        const QString code = textForm(row.value(c));
+        if (!Service::whetherAnEmptyString(code))
+            stocks.append({code, fieldOf(row, n), fieldOf(row, s)});
     }
     return stocks;
 }
@@ -64,8 +64,12 @@ void saveNewList(const QVariantMap &answer)
         settings.synchronize();
     }
     const QVariant data = answer.value(QStringLiteral("data"));
-    if (data.typeId() == QMetaType::QVariantList)
-        TZStockInfoTool::saveStockInfo(stocksOf(data.toList()));
+    if (data.typeId() != QMetaType::QVariantList)
+        return;
+    const QVariantList rows = data.toList();
+    // A list of nothing but broken rows is none; the service may well list nothing.
+    if (const QList<TZStockInfoModel> stocks = stocksOf(rows); rows.isEmpty() || !stocks.isEmpty())
+        TZStockInfoTool::saveStockInfo(stocks);
 }
 } // namespace
 

@@ -6,13 +6,45 @@
 #include "core/util/Text.h"
 
 namespace {
-Operation cached(const QString &path, const QString &key, const QVariantMap &param, Success success,
-                 Failure andError)
+using Shape = bool (*)(const QVariant &);
+
+/// Nothing is a list without elements.
+bool isList(const QVariant &data)
+{
+    return !data.isValid() || isNullMarker(data) || data.typeId() == QMetaType::QVariantList;
+}
+
+bool isScalar(const QVariant &data)
+{
+    return data.typeId() != QMetaType::QVariantList && data.typeId() != QMetaType::QVariantMap;
+}
+
+bool isPage(const QVariant &data)
+{
+    return data.typeId() == QMetaType::QVariantMap && isList(data.toMap().value(QStringLiteral("stocks")));
+}
+
+/// A success whose "data" has another shape counts as undecodable: it is no empty page, and takes the place
+/// of no stored copy.
+Success shaped(Shape shape, Success success)
+{
+    return Success::unowned(
+        [shape, success = std::move(success)](const Operation &operation, const QVariantMap &answer) {
+            if (!ToolPolicy::succeeded(answer) || shape(answer.value(QStringLiteral("data"))))
+                return success(operation, answer);
+            Service::hideWaitingProgressView();
+            Service::showLoadFailView();
+        });
+}
+
+Operation cached(const QString &path, const QString &key, Shape shape, const QVariantMap &param,
+                 Success success, Failure andError)
 {
     if (ToolPolicy::answersOffline(key, success))
         return nullptr;
     Service::showWaitingProgressView();
-    return KRAFHTTPClient::get(ToolPolicy::url(path), param, ToolPolicy::cached(key, std::move(success)),
+    return KRAFHTTPClient::get(ToolPolicy::url(path), param,
+                               shaped(shape, ToolPolicy::cached(key, std::move(success))),
                                std::move(andError));
 }
 
@@ -44,12 +76,14 @@ Operation TZTradeTool::getZorvanePageWithParam(const QVariantMap &param, Success
     if (ToolPolicy::answersOffline(zorvanePageKey, Success::unowned(ownCopy)))
         return nullptr;
     return KRAFHTTPClient::get(ToolPolicy::url(QStringLiteral("zorvanePage")), param,
-                               ToolPolicy::cached(zorvanePageKey, std::move(success)), std::move(andError));
+                               shaped(isPage, ToolPolicy::cached(zorvanePageKey, std::move(success))),
+                               std::move(andError));
 }
 
 Operation TZTradeTool::getBuyPageWithParam(const QVariantMap &param, Success success, Failure andError)
 {
-    return cached(QStringLiteral("buyPage"), buyPageKey, param, std::move(success), std::move(andError));
+    return cached(QStringLiteral("buyPage"), buyPageKey, isScalar, param, std::move(success),
+                  std::move(andError));
 }
 
 Operation TZTradeTool::postCreatBuyWithParam(const QVariantMap &param, Success success, Failure andError)
@@ -76,12 +110,13 @@ Operation TZTradeTool::postQueryEntrustNoWithParam(const QVariantMap &param, Suc
 
 Operation TZTradeTool::getHoldingWithParam(const QVariantMap &param, Success success, Failure andError)
 {
-    return cached(QStringLiteral("holding"), holdingKey, param, std::move(success), std::move(andError));
+    return cached(QStringLiteral("holding"), holdingKey, isList, param, std::move(success),
+                  std::move(andError));
 }
 
 Operation TZTradeTool::getCallBackPageWithParam(const QVariantMap &param, Success success, Failure andError)
 {
-    return cached(QStringLiteral("callBackPage"), callBackPageKey, param, std::move(success),
+    return cached(QStringLiteral("callBackPage"), callBackPageKey, isList, param, std::move(success),
                   std::move(andError));
 }
 
@@ -103,13 +138,13 @@ Operation TZTradeTool::postQueryWithDrawStatusWithParam(const QVariantMap &param
 
 Operation TZTradeTool::getDetailsTodayWithParam(const QVariantMap &param, Success success, Failure andError)
 {
-    return cached(QStringLiteral("detailsToday"), detailsTodayKey, param, std::move(success),
+    return cached(QStringLiteral("detailsToday"), detailsTodayKey, isList, param, std::move(success),
                   std::move(andError));
 }
 
 Operation TZTradeTool::getEntrustsTodayWithParam(const QVariantMap &param, Success success, Failure andError)
 {
-    return cached(QStringLiteral("entrustsToday"), entrustsTodayKey, param, std::move(success),
+    return cached(QStringLiteral("entrustsToday"), entrustsTodayKey, isList, param, std::move(success),
                   std::move(andError));
 }
 

@@ -1,5 +1,6 @@
 #include "trading/screens/OrderDialogs.h"
 
+#include "core/net/ToolPolicy.h"
 #include "core/platform/Platform.h"
 #include "core/platform/RunLoop.h"
 #include "core/platform/Timer.h"
@@ -19,7 +20,6 @@ using namespace std::chrono_literals;
 namespace {
 const QString placedTitle = QStringLiteral("委托挂单成功");
 const QString notPlacedTitle = QStringLiteral("委托未成功");
-const QString unknownTitle = QStringLiteral("委托结果未知");
 const QString leaveTitle = QStringLiteral("实盘炒股");
 const QString searchTitle = QStringLiteral("查询委托");
 const QString againTitle = QStringLiteral("再次提交");
@@ -27,6 +27,41 @@ const QString understoodTitle = QStringLiteral("知道了");
 
 /// Longer than a request may take, and than the books may need for what was sent before it.
 constexpr std::chrono::milliseconds late = 30s;
+
+/// What is said while it is not known which entrust an order became.
+struct SearchTexts {
+    QString title;
+    QString searching;
+    /// With the times of the submissions.
+    QString question;
+    QString notFound;
+    QString unreadable;
+
+    /// Of all unknown orders like this one.
+    static const SearchTexts &of(const OrderIntent &order);
+};
+
+const SearchTexts &SearchTexts::of(const OrderIntent &order)
+{
+    static const SearchTexts unknown{
+        QStringLiteral("委托结果未知"),
+        QStringLiteral("没有收到服务器的确认，这笔委托可能已经提交。正在查询今日委托…"),
+        QStringLiteral("%1 提交的同一笔委托结果未知，可能已经成交。再次提交将是另一笔委托。"),
+        QStringLiteral(
+            "今日委托中没有这笔委托，它可能没有提交成功，也可能稍后才会出现。再次提交前会请您确认。"),
+        QStringLiteral("没有读到今日委托，不能确定这笔委托是否已经提交。"),
+    };
+    static const SearchTexts accepted{
+        QStringLiteral("委托已受理"),
+        QStringLiteral("服务器已受理这笔委托，没有告知是哪一笔。正在查询今日委托…"),
+        QStringLiteral("%1 提交的同一笔委托已受理，尚未在今日委托中找到。再次提交将是另一笔委托。"),
+        QStringLiteral("这笔委托已受理，尚未在今日委托中找到，可能稍后才会出现。再次提交前会请您确认。"),
+        QStringLiteral("没有读到今日委托，不能确定已受理的是哪一笔。"),
+    };
+    const QList<OrderIntent> like = UnknownOrders::like(order);
+    const bool all = std::all_of(like.begin(), like.end(), [](const auto &each) { return each.accepted; });
+    return all && !like.isEmpty() ? accepted : unknown;
+}
 
 QString below(const OrderIntent &order, const QString &news)
 {
@@ -39,6 +74,11 @@ bool isRefused(const FoundOrder &found)
     return integerValue(found.entrust.status) == refused;
 }
 
+bool isAnyCertain(const QList<FoundOrder> &found)
+{
+    return std::any_of(found.begin(), found.end(), [](const FoundOrder &each) { return each.certain; });
+}
+
 /// "委托编号 10004", "状态：委托中", "提交时间 10:00:00" under each other, without what the service left out.
 QString described(const FoundOrder &found)
 {
@@ -46,8 +86,8 @@ QString described(const FoundOrder &found)
     QStringList parts;
     if (!Service::whetherAnEmptyString(entrust.entrustNo))
         parts.append(QStringLiteral("委托编号 %1").arg(entrust.entrustNo));
-    if (!Service::whetherAnEmptyString(entrust.status))
-        parts.append(QStringLiteral("状态：%1").arg(EntrustStatus::of(entrust.status).text));
+    if (const QString status = EntrustStatus::of(entrust.status).text; !status.isEmpty())
+        parts.append(QStringLiteral("状态：%1").arg(status));
     if (OrderIntent::serviceTime(entrust.createdAt) > 0)
         parts.append(QStringLiteral("提交时间 %1").arg(Service::formatTimeStamp(entrust.createdAt)));
     QString text = parts.join(u'\n');
@@ -56,6 +96,17 @@ QString described(const FoundOrder &found)
     if (!Service::whetherAnEmptyString(entrust.errorMsg))
         text += u'\n' + entrust.errorMsg;
     return text;
+}
+
+/// The unknown orders of this kind that none of the entrusts may have come of.
+qsizetype countMissing(const OrderIntent &kind, const QList<FoundOrder> &found)
+{
+    QList<OrderIntent> missing = UnknownOrders::like(kind);
+    missing.removeIf([&found](const OrderIntent &order) {
+        return std::any_of(found.begin(), found.end(),
+                           [&order](const FoundOrder &each) { return each.order.isSameIntent(order); });
+    });
+    return missing.size();
 }
 
 /// Every kind of order once, with what was found of it and how many are still missing.
@@ -74,17 +125,22 @@ QString described(const QList<FoundOrder> &found)
             if (each.order.isSameOrder(kind))
                 lines.append(described(each));
         }
-        if (const auto missing = UnknownOrders::like(kind).size(); missing > 0)
+        if (const auto missing = countMissing(kind, found); missing > 0)
             lines.append(QStringLiteral("另有 %1 次提交没有找到，可能稍后才会出现。").arg(missing));
         texts.append(below(kind, lines.join(u'\n')));
     }
+    if (!isAnyCertain(found))
+        texts.append(QStringLiteral("请核对是不是这笔委托。再次提交前会请您确认。"));
     return texts.join(QStringLiteral("\n\n"));
 }
 
 QString foundTitle(const QList<FoundOrder> &found)
 {
-    return found.size() == 1 ? QStringLiteral("已找到这笔委托")
-                             : QStringLiteral("已找到 %1 笔委托").arg(found.size());
+    const auto certain =
+        std::count_if(found.begin(), found.end(), [](const FoundOrder &each) { return each.certain; });
+    if (certain == 0)
+        return QStringLiteral("可能找到了这笔委托");
+    return certain == 1 ? QStringLiteral("已找到这笔委托") : QStringLiteral("已找到 %1 笔委托").arg(certain);
 }
 
 /// Whether the screen is still there.
@@ -111,7 +167,7 @@ void tellPlaced(KRWindow &window, const OrderIntent &order, const OrderWays &way
 
 void tellNotPlaced(KRWindow &window, const SentOrder &sent)
 {
-    const QString message = textForm(sent.answer.value(QStringLiteral("message")));
+    const QString message = ToolPolicy::message(sent.answer);
     inform(
         window, notPlacedTitle,
         below(sent.order, Service::whetherAnEmptyString(message) ? QStringLiteral("请重新提交") : message));
@@ -142,10 +198,14 @@ private:
     {
         const QString title = foundTitle(found);
         const QString text = described(found);
-        const bool stands = !std::all_of(found.begin(), found.end(), isRefused);
+        const bool stands = std::any_of(found.begin(), found.end(), [](const FoundOrder &each) {
+            return each.certain && !isRefused(each);
+        });
         if (stands)
             ways.whenPlaced();
-        if (stands && areOpen(ways))
+        if (again && !isAnyCertain(found))
+            say({title, text, againTitle, understoodTitle}, again, {});
+        else if (stands && areOpen(ways))
             say({title, text, leaveTitle, OrderTexts::of(order.side).continueTitle}, ways.leave, ways.goOn);
         else
             say({title, text, {}, understoodTitle}, {}, {});
@@ -158,20 +218,19 @@ private:
             again();
             return;
         }
-        say({QStringLiteral("未找到这笔委托"),
-             below(order, QStringLiteral("今日委托中没有这笔委托，它可能没有提交成功，也可能稍后才会出现。"
-                                         "再次提交前会请您确认。")),
-             understoodTitle, searchTitle},
+        say({QStringLiteral("未找到这笔委托"), below(order, SearchTexts::of(order).notFound), understoodTitle,
+             searchTitle},
             {}, search());
     }
 
     void tellUnreadable()
     {
-        const QString text = below(order, QStringLiteral("没有读到今日委托，不能确定这笔委托是否已经提交。"));
+        const SearchTexts &texts = SearchTexts::of(order);
+        const QString text = below(order, texts.unreadable);
         if (again)
-            say({unknownTitle, text, againTitle, searchTitle}, again, search());
+            say({texts.title, text, againTitle, searchTitle}, again, search());
         else
-            say({unknownTitle, text, understoodTitle, searchTitle}, {}, search());
+            say({texts.title, text, understoodTitle, searchTitle}, {}, search());
     }
 
     OwnedAction search() const
@@ -230,8 +289,12 @@ private:
     void tellFound(const QList<FoundOrder> &found)
     {
         window.dialogs()->disconnect(this);
-        inform(window, foundTitle(found), described(found));
         deleteLater();
+        const bool isNews = std::any_of(found.begin(), found.end(), [](const FoundOrder &each) {
+            return each.certain || !each.toldBefore;
+        });
+        if (isNews)
+            inform(window, foundTitle(found), described(found));
     }
 
     KRWindow &window;
@@ -266,10 +329,11 @@ void OrderDialogs::tellOutcome(KRWindow &window, const SentOrder &sent, const Or
 
 void OrderDialogs::tell(KRWindow &window, const OrderIntent &order, const OrderWays &ways)
 {
-    const QString news = QStringLiteral("没有收到服务器的答复，这笔委托可能已经提交。正在查询今日委托…");
-    show(window, std::make_unique<SearchAlert>(
-                     TZInfoAlertViewModel{unknownTitle, below(order, news), {}, QStringLiteral("稍后再查")},
-                     order, ways, OwnedAction()));
+    const SearchTexts &texts = SearchTexts::of(order);
+    show(window,
+         std::make_unique<SearchAlert>(
+             TZInfoAlertViewModel{texts.title, below(order, texts.searching), {}, QStringLiteral("稍后再查")},
+             order, ways, OwnedAction()));
 }
 
 void OrderDialogs::ask(KRWindow &window, const OrderIntent &order, const OrderWays &ways,
@@ -279,9 +343,7 @@ void OrderDialogs::ask(KRWindow &window, const OrderIntent &order, const OrderWa
     QStringList times;
     for (const OrderIntent &unknown : UnknownOrders::like(order))
         times.append(Service::formatTimeStamp(unknown.sentAt));
-    const QString question =
-        QStringLiteral("%1 提交的同一笔委托结果未知，可能已经成交。再次提交将是另一笔委托。")
-            .arg(times.join(u'、'));
+    const QString question = SearchTexts::of(order).question.arg(times.join(u'、'));
     const QString news = QStringLiteral("正在查询今日委托，没有这笔委托才会再次提交…");
     const auto sendAgain = [host = &window, order, ways, again, news] {
         show(*host, std::make_unique<SearchAlert>(

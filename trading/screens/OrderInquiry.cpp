@@ -18,9 +18,10 @@ std::optional<QList<TZEntrustsTodayModel>> entrustsIn(const QVariant &data)
     if (data.typeId() != QMetaType::QVariantList)
         return std::nullopt;
     const auto entrusts = fromArray<TZEntrustsTodayModel>(data);
-    const bool isWhole = std::none_of(entrusts.begin(), entrusts.end(), [](const auto &entrust) {
-        return Service::whetherAnEmptyString(entrust.id);
-    });
+    const bool isWhole = entrusts.size() == data.toList().size() &&
+                         std::none_of(entrusts.begin(), entrusts.end(), [](const auto &entrust) {
+                             return Service::whetherAnEmptyString(entrust.id);
+                         });
     return isWhole ? std::optional(entrusts) : std::nullopt;
 }
 } // namespace

@@ -15,6 +15,8 @@ const QString sharesKey = QStringLiteral("entrustShares");
 const QString sentKey = QStringLiteral("sentAt");
 const QString quotedKey = QStringLiteral("quotedAt");
 const QString earlierKey = QStringLiteral("earlier");
+const QString acceptedKey = QStringLiteral("accepted");
+const QString possibleKey = QStringLiteral("possible");
 
 /// The service writes "12.30" for a typed "12.3".
 bool isSamePrice(const QString &one, const QString &other)
@@ -79,7 +81,9 @@ QVariantMap OrderIntent::toMap() const
             {sharesKey, shares},
             {sentKey, sentAt},
             {quotedKey, quotedAt},
-            {earlierKey, earlier}};
+            {earlierKey, earlier},
+            {acceptedKey, accepted},
+            {possibleKey, possible}};
 }
 
 OrderIntent OrderIntent::fromMap(const QVariantMap &map)
@@ -91,5 +95,7 @@ OrderIntent OrderIntent::fromMap(const QVariantMap &map)
             textForm(map.value(sharesKey)),
             integerValue(map.value(sentKey)),
             integerValue(map.value(quotedKey)),
-            map.value(earlierKey).toStringList()};
+            map.value(earlierKey).toStringList(),
+            boolValue(map.value(acceptedKey)),
+            map.value(possibleKey).toStringList()};
 }

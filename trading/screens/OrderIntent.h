@@ -15,10 +15,15 @@ struct OrderIntent {
 
     /// Milliseconds since 1970 on this device.
     qint64 sentAt = 0;
-    /// The `serviceTime` of the latest quote before that told it; 0 when none did.
+    /// The service's clock in the latest quote before: the `serviceTime` of the latest that told it, else
+    /// when the latest was answered; 0 when nothing tells.
     qint64 quotedAt = 0;
     /// The identifiers of entrusts of the same kind that stood before.
     QStringList earlier;
+    /// The service said that it accepted the order, but not which entrust it is.
+    bool accepted = false;
+    /// The identifiers of entrusts that were told as those that it may have become.
+    QStringList possible;
 
     /// The clocks of the service that give quotes and entrusts their times differ by no more, in
     /// milliseconds.

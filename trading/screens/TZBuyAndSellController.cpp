@@ -1,5 +1,6 @@
 #include "trading/screens/TZBuyAndSellController.h"
 
+#include "core/net/ToolPolicy.h"
 #include "core/platform/NotificationCenter.h"
 #include "core/platform/Platform.h"
 #include "core/platform/SettingsStore.h"
@@ -152,12 +153,13 @@ void TZBuyAndSellController::startQuoteTimer()
 void TZBuyAndSellController::fetchQuote()
 {
     const int number = ++askedQuotes;
-    const auto answered = [this, number](const Operation &, const QVariantMap &answer) {
+    const auto answered = [this, number](const Operation &operation, const QVariantMap &answer) {
         const bool good = boolValue(answer.value(QStringLiteral("success")));
         quoteFailed = !good;
         if (number <= shownQuote || !good)
             return;
         shownQuote = number;
+        answeredAt = std::max(answeredAt, operation->answeredAt);
         showQuote(answer.value(dataKey).toMap());
     };
     const auto failed = [this](const Operation &, const RequestError &) { quoteFailed = true; };
@@ -228,7 +230,8 @@ void TZBuyAndSellController::editQuantity(const QString &edited)
 
 void TZBuyAndSellController::selectPrice(const QString &price)
 {
-    setPrice(price);
+    // The service may write it in groups, which nobody could type.
+    setPrice(QString(price).remove(u','));
     const double yuan = doubleValue(price);
     if (isBuyType() && yuan != 0)
         countAffordable(yuan);
@@ -322,7 +325,14 @@ bool TZBuyAndSellController::isLimitKnown() const
 
 OrderIntent TZBuyAndSellController::entry() const
 {
-    return {side, stock.stockCode, stock.stockName, priceField, quantityField, 0, quotedAt, {}};
+    OrderIntent order;
+    order.side = side;
+    order.stockCode = stock.stockCode;
+    order.stockName = stock.stockName;
+    order.price = priceField;
+    order.shares = quantityField;
+    order.quotedAt = quotedAt > 0 ? quotedAt : answeredAt;
+    return order;
 }
 
 bool TZBuyAndSellController::isInDoubt(const OrderIntent &order) const
@@ -422,7 +432,7 @@ void TZBuyAndSellController::setOrderOnItsWay(bool onItsWay)
 
 void TZBuyAndSellController::askForTradePwd(const SentOrder &sent, bool hadPassword)
 {
-    if (hadPassword && Service::whetherAnEmptyString(sent.answer.value(QStringLiteral("message"))))
+    if (hadPassword && Service::whetherAnEmptyString(ToolPolicy::message(sent.answer)))
         Service::showErrorWithMsg(QStringLiteral("交易密码不正确，请重试"));
     wantsPassword = sent.order;
     showTradePwdPrompt();

@@ -151,8 +151,9 @@ private:
 
     QString latestPrice;
     double previousClose = 0;
-    /// On the service's clock, as the latest quote says that tells it.
+    /// On the service's clock, as the latest quote says that tells it, and as its answers are dated.
     qint64 quotedAt = 0;
+    qint64 answeredAt = 0;
     QList<TZHandicapModel> buyLevels;
     QList<TZHandicapModel> sellLevels;
     TZHandicapView buyView;

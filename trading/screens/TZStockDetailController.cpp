@@ -64,7 +64,9 @@ QString TZStockDetailController::notice() const
         return QStringLiteral("加载失败");
     if (!(shownChart == Intraday ? intradayChart.isEmpty() : candleChart.isEmpty()))
         return {};
-    return shownChart == Intraday ? QStringLiteral("今日暂无成交") : QStringLiteral("暂无历史行情");
+    if (shownChart == Candles)
+        return QStringLiteral("暂无历史行情");
+    return knowsMinutes ? QStringLiteral("今日暂无成交") : QStringLiteral("暂无分时数据");
 }
 
 void TZStockDetailController::viewDidLoad()
@@ -131,7 +133,9 @@ void TZStockDetailController::showDetail(const QVariantMap &data)
     detailMinute = std::max(detailMinute, integerValue(data.value(QStringLiteral("time"))) / minute);
     quotesSinceDetail = 0;
     takeQuote(data);
-    intradayChart.setDay(Series::minutes(data.value(QStringLiteral("minutes"))), quote.measures());
+    const QVariant minutes = data.value(QStringLiteral("minutes"));
+    knowsMinutes = minutes.typeId() == QMetaType::QVariantList;
+    intradayChart.setDay(Series::minutes(minutes), quote.measures());
     candleChart.setCandles(Series::candles(data.value(QStringLiteral("candles"))));
     setDetailState(DetailState::Ready);
 }

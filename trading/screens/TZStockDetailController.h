@@ -113,6 +113,8 @@ private:
     RowListModel<StockFigure> holdingRows;
     MVNoNetView noNetPanel{*this};
     DetailState detailState = DetailState::Reading;
+    /// Whether the detail told of the running day at all.
+    bool knowsMinutes = false;
 
     Timer quoteTimer;
     /// Quotes are counted as they are asked for; what answers later than a newer one is dropped.

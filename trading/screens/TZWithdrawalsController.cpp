@@ -22,7 +22,8 @@ WithdrawalRow WithdrawalRow::of(const TZCallBackPageModel &entrust)
             entrust.entrustPrice,
             entrust.entrustShares,
             entrust.businessShares,
-            EntrustStatus::of(entrust.status).text};
+            EntrustStatus::of(entrust.status).text,
+            !Service::whetherAnEmptyString(entrust.entrustNo)};
 }
 
 QString WithdrawalRow::sentence() const
@@ -88,6 +89,8 @@ void TZWithdrawalsController::withdrawalsBtnDidClick(int row)
     if (row < 0 || row >= entrusts.size() || !isInFront())
         return;
     const TZCallBackPageModel &tapped = entrusts.at(row);
+    if (Service::whetherAnEmptyString(tapped.entrustNo))
+        return;
     if (pending.isActive() && tapped.entrustNo != callBackPageModel.entrustNo)
         Service::showErrorWithMsg(
             QStringLiteral("上一笔撤单没有提交：%1")

@@ -14,6 +14,8 @@ struct WithdrawalRow {
     Q_PROPERTY(QString shares MEMBER shares)
     Q_PROPERTY(QString dealt MEMBER dealt)
     Q_PROPERTY(QString status MEMBER status)
+    /// False without the number by which it is cancelled.
+    Q_PROPERTY(bool cancellable MEMBER cancellable)
     /// The row as one sentence.
     Q_PROPERTY(QString sentence READ sentence)
 public:
@@ -24,6 +26,7 @@ public:
     QString shares;
     QString dealt;
     QString status;
+    bool cancellable = false;
 
     static WithdrawalRow of(const TZCallBackPageModel &entrust);
     QString sentence() const;

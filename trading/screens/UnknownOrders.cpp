@@ -42,6 +42,23 @@ struct Record {
     {
         return unknown.removeIf([&](const OrderIntent &each) { return each.isSameIntent(order); }) > 0;
     }
+    /// Null when it is not there.
+    OrderIntent *find(const OrderIntent &order)
+    {
+        const auto found = std::find_if(unknown.begin(), unknown.end(),
+                                        [&](const OrderIntent &each) { return each.isSameIntent(order); });
+        return found == unknown.end() ? nullptr : &*found;
+    }
+    /// Only what is certain ends the question what became of the order.
+    void note(const FoundOrder &found)
+    {
+        if (found.certain) {
+            know(found.entrust.id);
+            crossOut(found.order);
+        } else if (OrderIntent *const order = find(found.order); order && !found.toldBefore) {
+            order->possible.append(found.entrust.id);
+        }
+    }
 };
 
 Record stored()
@@ -89,6 +106,8 @@ void writeDown(OrderIntent &order)
     for (const OrderIntent &each : std::as_const(record.unknown))
         order.sentAt = std::max(order.sentAt, each.sentAt + 1);
     order.earlier = record.known + likeOnesReadBefore(order);
+    for (const OrderIntent &each : std::as_const(record.unknown))
+        order.earlier += each.possible;
     record.unknown.append(order);
     store(record);
 }
@@ -139,8 +158,19 @@ bool isUnknown(const OrderIntent &order)
                        [&order](const OrderIntent &each) { return each.isSameIntent(order); });
 }
 
+void noteAccepted(const OrderIntent &order)
+{
+    Record record = stored();
+    if (OrderIntent *const accepted = record.find(order)) {
+        accepted->accepted = true;
+        store(record);
+    }
+}
+
 void conclude(const SentOrder &sent)
 {
+    if (sent.outcome == OrderOutcome::PlacedUnnamed)
+        noteAccepted(sent.order);
     if (sent.outcome == OrderOutcome::Placed || sent.outcome == OrderOutcome::NotPlaced)
         crossOut(sent.order, identifier(sent.answer));
     if (sent.outcome == OrderOutcome::Placed || sent.outcome == OrderOutcome::PlacedUnnamed) {
@@ -198,21 +228,24 @@ QList<FoundOrder> UnknownOrders::settle(const QList<OrderIntent> &sought,
         const auto like = [&](const OrderIntent &order) { return order.isLike(entrust); };
         if (record.known.contains(entrust.id) || std::none_of(sought.begin(), sought.end(), like))
             continue;
-        record.know(entrust.id);
-        if (std::none_of(sought.begin(), sought.end(), mayBe))
+        if (std::none_of(sought.begin(), sought.end(), mayBe)) {
+            record.know(entrust.id);
             continue;
+        }
         // What an order may have become may also have come of one before it: those are left the others.
         const auto missed = std::find_if(missing.rbegin(), missing.rend(), mayBe);
         const bool tooMany = missed == missing.rend();
         const OrderIntent order = tooMany ? *std::find_if(sought.rbegin(), sought.rend(), mayBe) : *missed;
         const bool timed = order.quotedAt > 0 && OrderIntent::serviceTime(entrust.createdAt) > 0;
-        found.append({order, entrust, timed});
+        const OrderIntent *const written = record.find(order);
+        found.append({order, entrust, timed, written && written->possible.contains(entrust.id)});
         if (tooMany)
             doubt(found, order);
         else
             missing.erase(std::next(missed).base());
-        record.crossOut(order);
     }
+    for (const FoundOrder &each : std::as_const(found))
+        record.note(each);
     const qint64 now = Platform::current().runLoop.now();
     for (const OrderIntent &order : std::as_const(missing)) {
         if (now - order.sentAt > longEnough)

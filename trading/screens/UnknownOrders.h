@@ -3,12 +3,14 @@
 #include "core/net/Callbacks.h"
 #include "trading/screens/OrderIntent.h"
 
-/// An entrust that an unknown order became.
+/// An entrust that an unknown order became, or may have become.
 struct FoundOrder {
     OrderIntent order;
     TZEntrustsTodayModel entrust;
     /// The service's clock says that the entrust came after, and there is no other that it may be.
     bool certain = false;
+    /// An earlier search has told it as one that the order may have become.
+    bool toldBefore = false;
 };
 
 /// What became of a submission.
@@ -50,9 +52,10 @@ public:
     /// Those that sending `order` would repeat.
     static QList<OrderIntent> like(const OrderIntent &order);
 
-    /// Compares unknown orders with all of today's entrusts, crosses out those that were found, and says what
-    /// they became. What may come of any of them, but is more than there are of them, is told too. One that
-    /// is missing long after it was sent never arrived, and is crossed out as well.
+    /// Compares unknown orders with all of today's entrusts, crosses out those that were certainly found, and
+    /// says what they became. What may come of any of them, but is not certain or more than there are of
+    /// them, is told too. One that is missing long after it was sent never arrived, and is crossed out as
+    /// well.
     static QList<FoundOrder> settle(const QList<OrderIntent> &sought,
                                     const QList<TZEntrustsTodayModel> &entrusts);
 };

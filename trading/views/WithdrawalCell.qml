@@ -13,6 +13,7 @@ Item {
     required property string shares
     required property string dealt
     required property string status
+    required property bool cancellable
     required property string sentence
 
     signal cancelled
@@ -83,6 +84,7 @@ Item {
         small: true
         deep: true
         text: "撤单"
+        visible: cell.cancellable
         onClicked: cell.cancelled()
     }
     Hairline {
