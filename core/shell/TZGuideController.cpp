@@ -36,3 +36,8 @@ void TZGuideController::removeGuideView()
     if (TZGuideControllerDelegate *const told = std::exchange(delegate, nullptr))
         told->clickRemoveGuideViewBtn();
 }
+
+QString TZGuideController::pageText() const
+{
+    return QStringLiteral("第%1页，共%2页").arg(current + 1).arg(pages().size());
+}

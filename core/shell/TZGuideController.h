@@ -20,6 +20,8 @@ class TZGuideController : public KRBaseController {
     /// The page that is shown, from 0; values outside the pages are drawn to the nearest.
     Q_PROPERTY(int page READ page WRITE setPage NOTIFY pageChanged)
     Q_PROPERTY(bool lastPage READ isLastPage NOTIFY pageChanged)
+    /// "第2页，共4页", for those who do not see the dots.
+    Q_PROPERTY(QString pageText READ pageText NOTIFY pageChanged)
     /// In points; a screen of 480 has pictures of its own.
     Q_PROPERTY(int screenHeight MEMBER height NOTIFY screenHeightChanged)
 public:
@@ -29,6 +31,7 @@ public:
     int page() const { return current; }
     void setPage(int page);
     bool isLastPage() const;
+    QString pageText() const;
 
     Q_INVOKABLE void toBeforePage() { setPage(current - 1); }
     Q_INVOKABLE void toNextPage() { setPage(current + 1); }

@@ -159,6 +159,12 @@ TEST_F(TZSelectStockControllerTest, TheKeyboardMovesInsideTheListAndPicks)
     search->moveCurrentRow(50);
     EXPECT_EQ(search->currentRow(), 4);
     search->moveCurrentRow(-1);
+    EXPECT_TRUE(search->sentence().contains("300600 ")) << search->sentence().toStdString();
+    EXPECT_TRUE(search->sentence().endsWith("，第4条，共5条"));
+    search->setText(QStringLiteral("nothing"));
+    EXPECT_EQ(search->sentence(), search->notice());
+    search->setText(QStringLiteral("600"));
+    search->moveCurrentRow(3);
     search->pickCurrentRow();
     EXPECT_EQ(opener->chosen, QStringList{QStringLiteral("300600")});
 }

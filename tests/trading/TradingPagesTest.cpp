@@ -85,7 +85,8 @@ TEST_F(TradingPageTest, ItReadsItsPageWhenItAppearsAndPullsAQuarterOfASecondLate
     EXPECT_EQ(page->profitText(), "持仓盈亏       -750.50");
     EXPECT_EQ(page->profitTrend(), -1);
     EXPECT_FALSE(page->noData());
-    EXPECT_EQ(page->holdings()->at(0).sentence, "海天传媒 600001 9.5 10.00 1500 1200 -750.50 5.26%");
+    EXPECT_EQ(page->holdings()->at(0).sentence,
+              "海天传媒 600001，成本9.5，现价10.00，持仓1500，可用1200，盈亏-750.50，5.26%");
     EXPECT_EQ(page->holdings()->at(0).trend, -1);
 }
 
@@ -489,10 +490,12 @@ TEST_F(WithdrawalsTest, ACancellationIsAskedForUntilItIsConfirmed)
         runLoop.advance(3s);
     }
     EXPECT_TRUE(overlays.isWaiting());
+    EXPECT_EQ(screen->outcome(), "");
     http.answer(statusPath, succeeded(true));
     list({});
     EXPECT_FALSE(overlays.isWaiting());
     EXPECT_TRUE(screen->noData());
+    EXPECT_EQ(screen->outcome(), "撤单成功，还有0笔可撤委托");
     const int asked = http.countOf(statusPath);
     runLoop.advance(1min);
     EXPECT_EQ(http.countOf(statusPath), asked);

@@ -3,8 +3,7 @@
 #include "core/util/Amount.h"
 #include "core/util/Service.h"
 #include "core/util/Text.h"
-
-#include <QStringList>
+#include "trading/screens/TradeTexts.h"
 
 namespace {
 QString percent(const QString &rate)
@@ -31,8 +30,11 @@ HoldingRow HoldingRow::of(const TZZorvanePageStocksModel &holding)
                    percent(holding.profitRate),
                    signOf(holding.profitMoney),
                    {}};
-    row.sentence =
-        QStringList{row.name, row.code, row.cost, row.price, row.shares, row.available, row.profit, row.rate}
-            .join(QLatin1Char(' '));
+    row.sentence = TradeTexts::sentence(row.name + u' ' + row.code, {{QStringLiteral("成本"), row.cost},
+                                                                     {QStringLiteral("现价"), row.price},
+                                                                     {QStringLiteral("持仓"), row.shares},
+                                                                     {QStringLiteral("可用"), row.available},
+                                                                     {QStringLiteral("盈亏"), row.profit},
+                                                                     {QString(), row.rate}});
     return row;
 }

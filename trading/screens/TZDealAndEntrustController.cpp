@@ -17,6 +17,7 @@ TodayRow TodayRow::of(const TZEntrustsTodayModel &entrust)
             entrust.entrustPrice,
             entrust.entrustShares,
             status.text,
+            QStringLiteral("委托"),
             status.tone == EntrustStatus::Dealt,
             status.tone == EntrustStatus::Waiting};
 }
@@ -30,13 +31,16 @@ TodayRow TodayRow::of(const TZDetailsTodayModel &deal)
             deal.businessPrice,
             deal.businessShares,
             deal.businessMoney,
+            QStringLiteral("成交"),
             false,
             false};
 }
 
 QString TodayRow::sentence() const
 {
-    return QStringList{stock, side, time, price, shares, result}.join(QLatin1Char(' '));
+    return TradeTexts::sentence(
+        stock + u' ' + side,
+        {{QString(), time}, {QStringLiteral("价格"), price}, {sharesLabel, shares}, {QString(), result}});
 }
 
 // Kept on purpose: the first page of the entrusts, unlike that of the deals, is asked for without its number.

@@ -29,6 +29,8 @@ public:
     QString price;
     QString shares;
     QString result;
+    /// What the shares are called.
+    QString sharesLabel;
     bool dealt = false;
     bool waiting = false;
 

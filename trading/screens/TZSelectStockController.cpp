@@ -137,6 +137,7 @@ void TZSelectStockController::refresh()
     shownRows.setRows(std::move(shown));
     setCurrentRow(condition.isEmpty() || stocks.isEmpty() ? -1 : 0);
     Q_EMIT shownChanged();
+    Q_EMIT sentenceChanged();
 }
 
 bool TZSelectStockController::hasText() const
@@ -227,6 +228,15 @@ void TZSelectStockController::setCurrentRow(int row)
         return;
     selected = row;
     Q_EMIT currentRowChanged();
+    Q_EMIT sentenceChanged();
+}
+
+QString TZSelectStockController::sentence() const
+{
+    if (selected < 0)
+        return notice();
+    return QStringLiteral("%1，第%2条，共%3条")
+        .arg(shownRows.at(selected).sentence, QString::number(selected + 1), QString::number(stocks.size()));
 }
 
 void TZSelectStockController::pickCurrentRow()

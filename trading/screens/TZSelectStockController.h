@@ -43,6 +43,8 @@ class TZSelectStockController : public KRBaseController, public MVNoNetViewDeleg
     Q_PROPERTY(QString footnote READ footnote NOTIFY shownChanged)
     /// The row that Enter picks; -1 for none.
     Q_PROPERTY(int currentRow READ currentRow NOTIFY currentRowChanged)
+    /// The row that Enter picks and how many there are, or the notice: what one hears while typing.
+    Q_PROPERTY(QString sentence READ sentence NOTIFY sentenceChanged)
 public:
     /// The settings key of the stocks picked before, the latest first: a list of dictionaries with "c", "n",
     /// "s".
@@ -64,6 +66,7 @@ public:
     QString retryHint() const;
     QString footnote() const;
     int currentRow() const { return selected; }
+    QString sentence() const;
 
     Q_INVOKABLE void clearRecent();
     /// Up or down by `step` rows, staying inside the list.
@@ -83,6 +86,7 @@ Q_SIGNALS:
     void textChanged();
     void shownChanged();
     void currentRowChanged();
+    void sentenceChanged();
 
 private:
     /// Whether there is a list to search in, and if not, why.

@@ -28,7 +28,10 @@ WithdrawalRow WithdrawalRow::of(const TZCallBackPageModel &entrust)
 
 QString WithdrawalRow::sentence() const
 {
-    return QStringList{stock, side, price, shares, dealt, status}.join(QLatin1Char(' '));
+    return TradeTexts::sentence(stock + u' ' + side, {{QStringLiteral("价格"), price},
+                                                      {QStringLiteral("委托"), shares},
+                                                      {QStringLiteral("成交"), dealt},
+                                                      {QString(), status}});
 }
 
 void TZWithdrawalsController::viewDidLoad()
@@ -82,6 +85,8 @@ void TZWithdrawalsController::showEntrusts(const QVariant &data)
     for (const TZCallBackPageModel &entrust : std::as_const(entrusts))
         rows.append(WithdrawalRow::of(entrust));
     shownRows.setRows(rows);
+    if (std::exchange(cancelled, false))
+        sayOutcome(QStringLiteral("撤单成功，还有%1笔可撤委托").arg(rows.size()));
 }
 
 void TZWithdrawalsController::withdrawalsBtnDidClick(int row)
@@ -96,7 +101,14 @@ void TZWithdrawalsController::withdrawalsBtnDidClick(int row)
             QStringLiteral("上一笔撤单没有提交：%1")
                 .arg(TradeTexts::stock(callBackPageModel.stockName, callBackPageModel.stockCode)));
     callBackPageModel = tapped;
+    sayOutcome({});
     pending.startOnce(500ms, [this] { withdrawals(); });
+}
+
+void TZWithdrawalsController::sayOutcome(const QString &text)
+{
+    if (std::exchange(spokenOutcome, text) != text)
+        Q_EMIT outcomeChanged();
 }
 
 void TZWithdrawalsController::withdrawals()
@@ -130,8 +142,10 @@ void TZWithdrawalsController::watchCancellation()
 void TZWithdrawalsController::queryWithDrawStatus()
 {
     const auto answered = [this, asked = watchedOrder](const Operation &, const QVariantMap &answer) {
-        if (timer.isActive() && asked == watchedOrder && boolValue(answer.value(dataKey)))
+        if (timer.isActive() && asked == watchedOrder && boolValue(answer.value(dataKey))) {
+            cancelled = true;
             cancellationEnded();
+        }
     };
     TZTradeTool::postQueryWithDrawStatusWithParam({{QStringLiteral("id"), watchedOrder}},
                                                   Success{this, answered}, {});

@@ -38,9 +38,13 @@ class TZWithdrawalsController : public TZBaseTableViewController {
     Q_OBJECT
     /// Rows of WithdrawalRow.
     Q_PROPERTY(GadgetListModel *rows READ rows CONSTANT)
+    /// What came of the latest cancellation, for those who do not see that its row is gone; "" for nothing
+    /// yet.
+    Q_PROPERTY(QString outcome READ outcome NOTIFY outcomeChanged)
 public:
     RowListModel<WithdrawalRow> *rows() { return &shownRows; }
     const QList<TZCallBackPageModel> &withdrawalsArray() const { return entrusts; }
+    QString outcome() const { return spokenOutcome; }
     QString orderId() const { return watchedOrder; }
 
     /// Half a second after the last tap one request is sent; at once when the screen is left before.
@@ -50,6 +54,9 @@ public:
     void viewWillAppear() override;
     void viewWillDisappear() override;
     void viewDidDisappear() override;
+
+Q_SIGNALS:
+    void outcomeChanged();
 
 protected:
     void refreshData() override;
@@ -61,6 +68,7 @@ private:
     void queryWithDrawStatus();
     void cancellationEnded();
     void readAgain();
+    void sayOutcome(const QString &text);
 
     QList<TZCallBackPageModel> entrusts;
     TZCallBackPageModel callBackPageModel;
@@ -68,6 +76,8 @@ private:
     RowListModel<WithdrawalRow> shownRows;
     Timer pending;
     Timer timer;
+    QString spokenOutcome;
+    bool cancelled = false;
     bool shown = false;
     /// Something may have happened to the entrusts while the screen was covered.
     bool outdated = false;

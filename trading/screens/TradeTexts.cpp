@@ -24,3 +24,13 @@ QString TradeTexts::time(const QString &stamp)
     stamp.toDouble(&isNumber);
     return isNumber ? Service::formatDateStamp(stamp) : stamp;
 }
+
+QString TradeTexts::sentence(const QString &of, const QList<std::pair<QString, QString>> &figures)
+{
+    QString whole = of;
+    for (const auto &[label, value] : figures) {
+        if (!Service::whetherAnEmptyString(value))
+            whole += u'，' + label + value;
+    }
+    return whole;
+}

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QList>
 #include <QString>
+#include <utility>
 
 /// How fields of entrusts and deals are written.
 namespace TradeTexts {
@@ -13,5 +15,9 @@ QString side(const QString &type);
 /// Milliseconds since 1970 as "yyyy-MM-dd HH:mm" in the device's time zone; what is not a number stays as it
 /// is.
 QString time(const QString &stamp);
+
+/// One sentence for those who do not see the columns: "of，label value，…" without the figures that are
+/// blank.
+QString sentence(const QString &of, const QList<std::pair<QString, QString>> &figures);
 
 } // namespace TradeTexts

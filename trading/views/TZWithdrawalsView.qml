@@ -18,6 +18,7 @@ PageFrame {
         model: page.screen.rows
         noDataText: "暂无可撤委托"
         Accessible.name: page.screen.title
+        Accessible.description: page.screen.outcome
 
         delegate: WithdrawalCell {
             width: ListView.view.width

@@ -40,7 +40,6 @@ Item {
                 text: cell.side
                 font: Theme.bodyBold
                 color: cell.isSell ? Theme.fall : Theme.rise
-                Accessible.ignored: true
             }
             PlainText {
                 anchors.baseline: sideText.baseline
@@ -49,7 +48,6 @@ Item {
                 font: Theme.body
                 color: Theme.deep.textPrimary
                 elide: Text.ElideRight
-                Accessible.ignored: true
             }
             PlainText {
                 id: statusText
@@ -57,7 +55,6 @@ Item {
                 text: cell.status
                 font: Theme.caption
                 color: Theme.deep.textSecondary
-                Accessible.ignored: true
             }
         }
         Flow {
@@ -85,6 +82,7 @@ Item {
         deep: true
         text: "撤单"
         visible: cell.cancellable
+        Accessible.description: cell.sentence
         onClicked: cell.cancelled()
     }
     Hairline {
@@ -104,13 +102,11 @@ Item {
             text: figure.label
             font: Theme.caption
             color: Theme.deep.textSecondary
-            Accessible.ignored: true
         }
         PlainText {
             text: figure.value
             font: Theme.caption
             color: Theme.deep.textPrimary
-            Accessible.ignored: true
         }
     }
 }
