@@ -14,6 +14,4 @@ PlainText {
     verticalAlignment: Text.AlignVCenter
     minimumPixelSize: Theme.smallestFigure
     elide: Text.ElideRight
-    Accessible.role: Accessible.StaticText
-    Accessible.name: text
 }

@@ -45,6 +45,5 @@ Rectangle {
         wrapMode: Text.Wrap
         elide: Text.ElideRight
         maximumLineCount: 4
-        Accessible.ignored: true
     }
 }

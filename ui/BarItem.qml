@@ -19,7 +19,7 @@ Tappable {
     leftPadding: Theme.spacingSmall
     rightPadding: Theme.spacingSmall
     ringInset: 4
-    opacity: enabled ? 1 : Theme.disabledOpacity
+    opacity: available ? 1 : Theme.disabledOpacity
     Accessible.name: text !== "" ? text : names[image] ?? image
     contentItem: Row {
         spacing: Theme.spacingTiny

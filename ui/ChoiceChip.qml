@@ -14,16 +14,17 @@ Tappable {
     ringInset: 2
     Accessible.checkable: true
     Accessible.checked: selected
+    Accessible.onToggleAction: chip.press()
     background: Rectangle {
         radius: Theme.radius
         color: chip.selected ? chip.fill : chip.pressed ? chip.tones.surfacePressed : Theme.transparent
         border.width: chip.selected ? 0 : Theme.hairlineWidth
-        border.color: chip.enabled ? chip.tones.placeholder : chip.tones.disabled
+        border.color: chip.available ? chip.tones.placeholder : chip.tones.disabled
     }
     contentItem: PlainText {
         text: chip.text
         font: Theme.label
-        color: !chip.enabled ? chip.tones.disabled : chip.selected ? Theme.textOnAccent : chip.tones.textPrimary
+        color: !chip.available ? chip.tones.disabled : chip.selected ? Theme.textOnAccent : chip.tones.textPrimary
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight

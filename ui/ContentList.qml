@@ -1,4 +1,5 @@
 import QtQuick
+import Zorvane.Ui
 
 /// A list between two ordinary items that scroll with it, `headerContent` and `footerContent`: the components for this of
 /// ListView cannot be made in documents with bound components. The arrow keys go from row to row where rows can be
@@ -8,10 +9,9 @@ ListView {
 
     property Item headerContent
     property Item footerContent
+    readonly property real footerHeight: bottom.height
     readonly property bool scrolls: contentHeight > height
     readonly property Item focused: Window.activeFocusItem
-    /// Whether a key was used while the list itself has the focus.
-    property bool byKeyboard: false
 
     function scrollBy(distance: real) {
         const end = Math.max(originY, originY + contentHeight - height)
@@ -30,7 +30,7 @@ ListView {
         if (!row)
             return null
         const first = row instanceof Tappable ? row : row.nextItemInFocusChain(true)
-        return first instanceof Tappable && first.leads && holds(row, first) ? first : null
+        return first instanceof Tappable && holds(row, first) ? first : null
     }
 
     function focusedRow(): int {
@@ -46,15 +46,14 @@ ListView {
         positionViewAtIndex(row, ListView.Contain)
         const stop = stopIn(itemAtIndex(row))
         if (stop)
-            stop.takeKeyboard()
+            stop.forceActiveFocus(Qt.TabFocusReason)
         return stop !== null
     }
 
     function step(by: int) {
         const from = focusedRow()
-        // What has the keyboard without showing it, as when the page comes, is shown first.
-        const shown = (focused as Tappable)?.showsFocus ?? false
-        if (!focusRow(from < 0 ? Math.max(indexAt(0, contentY), 0) : shown ? from + by : from))
+        // What has had the keyboard without showing it is shown first.
+        if (!focusRow(from < 0 ? Math.max(indexAt(0, contentY), 0) : LastInput.isFirstKey() ? from : from + by))
             scrollBy(by * Theme.rowHeight)
     }
 
@@ -76,19 +75,18 @@ ListView {
     header: ListSlot {
         content: (ListView.view as ContentList)?.headerContent ?? null
     }
-    footer: ListSlot {
-        content: (ListView.view as ContentList)?.footerContent ?? null
+    // Room for the footer. It is no child of what scrolls: there it would come before the rows for Tab and for readers.
+    footer: Item {
+        implicitHeight: (ListView.view as ContentList)?.footerHeight ?? 0
     }
     Accessible.role: Accessible.List
     onFocusedChanged: {
-        byKeyboard = false
-        if (!focused || focused === list || !holds(contentItem, focused))
+        if (!focused || focused === list || !holds(list, focused))
             return
         const top = focused.mapToItem(contentItem, 0, 0).y
         contentY = Math.max(Math.min(contentY, top), top + focused.height - height)
     }
 
-    Keys.onReleased: byKeyboard = focused === list
     Keys.onDownPressed: step(1)
     Keys.onUpPressed: step(-1)
     Keys.onPressed: event => {
@@ -106,11 +104,17 @@ ListView {
             event.accepted = false
     }
 
+    ListSlot {
+        id: bottom
+        parent: list
+        y: list.footerItem ? list.footerItem.y - list.contentY : 0
+        content: list.footerContent
+    }
     Rectangle {
         parent: list
         anchors.fill: parent
         z: 1
-        visible: list.byKeyboard && list.scrolls
+        visible: list.focused === list && LastInput.byKeyboard && list.scrolls
         color: Theme.transparent
         border.width: Theme.focusRingWidth
         border.color: Theme.deep.focusRing

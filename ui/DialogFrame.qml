@@ -8,6 +8,8 @@ FocusScope {
 
     required property KRDialog dialog
     required property string name
+    /// What is said besides its name.
+    property string description
     property var keyboard: Qt.inputMethod
     readonly property real keyboardTop: height - keyboard.keyboardRectangle.height
     /// How far the card stands above its place in the middle, so that an on-screen keyboard does not cover it.
@@ -18,14 +20,17 @@ FocusScope {
     property alias footer: footerSlot.data
     readonly property alias scroll: body
 
+    function leave(event: KeyEvent) {
+        if (!event.isAutoRepeat)
+            dialog.cancel()
+    }
+
     focus: true
     opacity: 0
     onShownChanged: opacity = shown ? 1 : 0
     Component.onCompleted: opacity = shown ? 1 : 0
-    Accessible.role: Accessible.Dialog
-    Accessible.name: name
-    Keys.onEscapePressed: frame.dialog.cancel()
-    Keys.onBackPressed: frame.dialog.cancel()
+    Keys.onEscapePressed: event => leave(event)
+    Keys.onBackPressed: event => leave(event)
     Keys.onUpPressed: body.scrollBy(-Theme.rowHeight)
     Keys.onDownPressed: body.scrollBy(Theme.rowHeight)
 
@@ -44,6 +49,9 @@ FocusScope {
     }
     Rectangle {
         id: card
+        Accessible.role: Accessible.Dialog
+        Accessible.name: frame.name
+        Accessible.description: frame.description
         width: Math.min(320, parent.width - 2 * Theme.spacingHuge)
         height: body.height + footerSlot.height
         x: Math.round((parent.width - width) / 2)

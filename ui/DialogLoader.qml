@@ -7,6 +7,8 @@ ViewHost {
 
     required property KRDialog dialog
     required property bool leaving
+    /// Whether nothing covers it. The shield holds also when something does.
+    property bool inFront: true
 
     signal gone
 
@@ -20,6 +22,11 @@ ViewHost {
         to: 0
         duration: Theme.motion
         onFinished: host.gone()
+    }
+    Binding {
+        target: host.view
+        property: "enabled"
+        value: host.inFront
     }
     PointerShield {
         z: 1

@@ -1,9 +1,10 @@
 import QtQuick
 
 /// A name with its value; with `chevron` it leads somewhere and can be tapped. Children are laid at the right end.
-Tappable {
+Item {
     id: row
 
+    property bool deep: false
     property string label
     property string value
     property string picture
@@ -13,22 +14,34 @@ Tappable {
     property color valueColour: tones.textSecondary
     default property alias trailing: trailingSlot.data
 
+    readonly property string text: value === "" ? label : label + " " + value
+    readonly property Tones tones: Theme.tones(deep)
+
+    signal clicked
+
     implicitWidth: parent ? parent.width : 0
     implicitHeight: Theme.rowHeight
-    leads: chevron
-    hoverEnabled: false
-    ringInset: 2
-    text: value === "" ? label : label + " " + value
-    activeFocusOnTab: chevron || activeFocus
-    focusPolicy: chevron ? Qt.TabFocus : Qt.NoFocus
-    Accessible.role: chevron ? Accessible.Button : Accessible.StaticText
-    background: Rectangle {
-        color: row.chevron && row.pressed ? row.tones.surfacePressed : row.tones.surface
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
+    Accessible.ignored: chevron
+
+    Rectangle {
+        anchors.fill: parent
+        color: door.pressed ? row.tones.surfacePressed : row.tones.surface
         Hairline {
             anchors { left: parent.left; right: parent.right; bottom: parent.bottom; leftMargin: Theme.margin }
             visible: row.line
             deep: row.deep
         }
+    }
+    Tappable {
+        id: door
+        anchors.fill: parent
+        visible: row.chevron
+        deep: row.deep
+        ringInset: 2
+        text: row.text
+        onClicked: row.clicked()
     }
     Item {
         anchors.fill: parent
@@ -46,9 +59,8 @@ Tappable {
             width: Math.min(implicitWidth, row.value === "" ? arrow.x - x : row.width * 0.6)
             text: row.label
             font: Theme.body
-            color: row.enabled ? row.labelColour : row.tones.disabled
+            color: row.labelColour
             elide: Text.ElideRight
-            Accessible.ignored: true
         }
         AmountText {
             anchors { left: labelText.right; right: trailingSlot.left; verticalCenter: parent.verticalCenter }
@@ -56,12 +68,11 @@ Tappable {
             anchors.rightMargin: trailingSlot.width > 0 ? Theme.spacingSmall : row.chevron ? Theme.spacingTiny : 0
             text: row.value
             font: Theme.body
-            color: row.enabled ? row.valueColour : row.tones.disabled
+            color: row.valueColour
             horizontalAlignment: Text.AlignRight
             verticalAlignment: Text.AlignVCenter
             height: row.height
             elide: Text.ElideRight
-            Accessible.ignored: true
         }
         Row {
             id: trailingSlot

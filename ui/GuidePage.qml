@@ -33,7 +33,6 @@ Item {
             minimumPixelSize: Theme.title.pixelSize
             color: Theme.navigationText
             horizontalAlignment: Text.AlignHCenter
-            Accessible.ignored: true
         }
         PlainText {
             width: parent.width
@@ -43,7 +42,6 @@ Item {
             minimumPixelSize: Theme.smallestText
             color: Theme.deepLight.textSecondary
             horizontalAlignment: Text.AlignHCenter
-            Accessible.ignored: true
         }
     }
 }

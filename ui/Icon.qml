@@ -12,5 +12,4 @@ Image {
     sourceSize.height: size
     fillMode: Image.PreserveAspectFit
     source: Theme.image(name)
-    Accessible.ignored: true
 }

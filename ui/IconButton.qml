@@ -9,7 +9,7 @@ Tappable {
 
     implicitWidth: Theme.touchTarget
     implicitHeight: Theme.touchTarget
-    opacity: !enabled ? Theme.disabledOpacity : pressed ? 0.6 : 1
+    opacity: !available ? Theme.disabledOpacity : pressed ? 0.6 : 1
     ringInset: 4
     contentItem: Item {
         Icon {

@@ -33,7 +33,6 @@ Tappable {
             font: Theme.title
             color: Theme.navigationText
             elide: Text.ElideRight
-            Accessible.ignored: true
         }
         PlainText {
             width: parent.width
@@ -41,7 +40,6 @@ Tappable {
             font: Theme.caption
             color: row.tones.textSecondary
             elide: Text.ElideRight
-            Accessible.ignored: true
         }
     }
 }

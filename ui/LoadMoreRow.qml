@@ -7,7 +7,7 @@ Tappable {
     property bool loading: false
 
     height: visible ? Theme.rowHeight : 0
-    enabled: !loading
+    available: !loading
     ringInset: 2
     text: loading ? "加载中..." : "加载更多"
     contentItem: PlainText {

@@ -27,7 +27,6 @@ Item {
             color: Theme.tones(panel.deep).textSecondary
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
-            Accessible.ignored: true
         }
     }
 }

@@ -23,7 +23,7 @@ Item {
             name: panel.deep ? "no_net_deep" : "no_net"
             size: 72
         }
-        PlainText {
+        SpokenText {
             width: parent.width
             text: panel.text
             font: Theme.body
@@ -31,7 +31,7 @@ Item {
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
         }
-        PlainText {
+        SpokenText {
             width: parent.width
             text: panel.hint
             font: Theme.label

@@ -13,6 +13,8 @@ FocusScope {
     property bool ready: true
     property bool closed: false
     property bool sliding: false
+    /// The screen that can be used: none while the stack is not ready.
+    property ScreenSlot front
 
     /// Lets go of the screens' views before the stack itself goes.
     function close() {
@@ -32,9 +34,9 @@ FocusScope {
             moving = moving || slot.sliding
         }
         sliding = moving
-        guard.front = top
-        if (top && ready)
-            top.focus = true
+        front = ready ? top : null
+        if (front)
+            front.focus = true
     }
 
     clip: true
@@ -42,10 +44,6 @@ FocusScope {
     onReadyChanged: order()
     Component.onCompleted: navigation.animated = true
 
-    FocusGuard {
-        id: guard
-        scope: stack
-    }
     Repeater {
         id: screens
         model: stack.closed ? null : stack.navigation
@@ -57,6 +55,7 @@ FocusScope {
             width: stack.width
             height: stack.height
             animated: stack.visible
+            enabled: stack.front === slot
             onLeavingChanged: stack.order()
             onSlidingChanged: stack.order()
             onGone: stack.navigation.transitionFinished(controller)

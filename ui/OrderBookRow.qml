@@ -43,7 +43,6 @@ Tappable {
             text: row.title
             font: Theme.caption
             color: row.tones.textSecondary
-            Accessible.ignored: true
         }
         AmountText {
             anchors { left: parent.left; leftMargin: Theme.scaled(40); verticalCenter: parent.verticalCenter }
@@ -54,7 +53,6 @@ Tappable {
             trend: row.trend
             stale: row.stale
             horizontalAlignment: Text.AlignRight
-            Accessible.ignored: true
         }
         AmountText {
             anchors { right: parent.right; rightMargin: Theme.spacingSmall; verticalCenter: parent.verticalCenter }
@@ -64,7 +62,6 @@ Tappable {
             font: Theme.label
             deep: row.deep
             horizontalAlignment: Text.AlignRight
-            Accessible.ignored: true
         }
     }
 }

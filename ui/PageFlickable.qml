@@ -1,5 +1,5 @@
 import QtQuick
-import QtQuick.Templates as T
+import Zorvane.Ui
 
 /// What a page scrolls that may be higher than the window. Keeps in sight what the keyboard reaches.
 Flickable {
@@ -20,5 +20,5 @@ Flickable {
     boundsBehavior: Flickable.StopAtBounds
     clip: true
     // What was tapped is in sight, and does not jump away under the finger.
-    onFocusedChanged: if ((focused as T.Control)?.focusReason !== Qt.MouseFocusReason) reveal(focused)
+    onFocusedChanged: if (LastInput.byKeyboard) reveal(focused)
 }

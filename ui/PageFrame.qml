@@ -12,15 +12,20 @@ FocusScope {
     property color colour: deep ? Theme.pageBlue
                                 : controller instanceof TZBaseTableViewController ? Theme.pageGray
                                                                                   : Theme.pageGrayPlain
+    /// What F5 refreshes.
+    property TZBaseTableViewController refreshed: controller as TZBaseTableViewController
     /// What stands in the place of the title.
     property alias titleItem: bar.titleSlot
     default property alias content: body.data
 
     focus: true
-    Accessible.role: Accessible.Pane
-    Accessible.name: controller.title
-    Keys.onEscapePressed: event => event.accepted = page.goBack()
-    Keys.onBackPressed: event => event.accepted = page.goBack()
+    Keys.onEscapePressed: event => event.accepted = event.isAutoRepeat || page.goBack()
+    Keys.onBackPressed: event => event.accepted = event.isAutoRepeat || page.goBack()
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_F5 && refreshed !== null
+        if (event.accepted && !event.isAutoRepeat)
+            refreshed.beginRefreshing()
+    }
 
     readonly property bool leftLeads: leaves(controller.leftItemImage) || controller.leftItemTitle !== ""
     /// Whether there is a way back that is open now.
@@ -69,13 +74,20 @@ FocusScope {
     TapHandler {
         onTapped: page.controller.scrollViewWillBeginDragging()
     }
-    NavigationBar {
-        id: bar
-        width: parent.width
-        controller: page.controller
-    }
+    // The scope itself would count as focused besides what has the focus in it.
     Item {
-        id: body
-        anchors { left: parent.left; right: parent.right; top: bar.bottom; bottom: parent.bottom }
+        anchors.fill: parent
+        Accessible.role: Accessible.Pane
+        Accessible.name: page.controller.title
+
+        NavigationBar {
+            id: bar
+            width: parent.width
+            controller: page.controller
+        }
+        Item {
+            id: body
+            anchors { left: parent.left; right: parent.right; top: bar.bottom; bottom: parent.bottom }
+        }
     }
 }

@@ -5,14 +5,14 @@ Tappable {
     id: control
 
     property color fill: Theme.accent
+    property font font: Theme.title
 
     implicitHeight: Theme.buttonHeight
-    font: Theme.title
     leftPadding: Theme.spacingLarge
     rightPadding: Theme.spacingLarge
     background: Rectangle {
         radius: Theme.radius
-        color: !control.enabled ? control.tones.disabled : control.pressed ? Qt.darker(control.fill, 1.2) : control.fill
+        color: !control.available ? control.tones.disabled : control.pressed ? Qt.darker(control.fill, 1.2) : control.fill
     }
     contentItem: PlainText {
         text: control.text

@@ -1,7 +1,7 @@
 import QtQuick
 import Zorvane.Ui
 
-/// The list of a list screen: pull down to refresh (F5 does it too), pull up or tap the last row to load more, the panel
+/// The list of a list screen: pull down to refresh (F5 on its page does it too), pull up or tap the last row to load more, the panel
 /// of an empty list.
 ContentList {
     id: list
@@ -23,10 +23,6 @@ ContentList {
             controller.beginRefreshing()
         else if (canLoadMore && count > 0 && pulledUp > pullDistance)
             controller.beginLoadingMore()
-    }
-    Keys.onReleased: event => {
-        if (event.key === Qt.Key_F5)
-            controller.beginRefreshing()
     }
     footerContent: LoadMoreRow {
         visible: list.canLoadMore && list.count > 0

@@ -17,12 +17,12 @@ Tappable {
         radius: Theme.radius
         color: control.pressed ? control.tones.surfacePressed : Theme.transparent
         border.width: Theme.hairlineWidth
-        border.color: control.enabled ? control.stroke : control.tones.disabled
+        border.color: control.available ? control.stroke : control.tones.disabled
     }
     contentItem: PlainText {
         text: control.text
         font: control.small ? Theme.label : Theme.title
-        color: control.enabled ? control.stroke : control.tones.textSecondary
+        color: control.available ? control.stroke : control.tones.textSecondary
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight

@@ -21,7 +21,6 @@ Item {
         font: Theme.label
         color: Theme.tones(header.deep).textSecondary
         elide: Text.ElideRight
-        Accessible.ignored: true
     }
     // A trend is not read as well on the page itself.
     Rectangle {
@@ -39,6 +38,5 @@ Item {
         font: Theme.label
         color: header.trailingTrend === 0 ? Theme.tones(header.deep).textSecondary
                                           : Theme.trend(header.trailingTrend, header.deep)
-        Accessible.ignored: true
     }
 }

@@ -7,11 +7,14 @@ Row {
     id: segments
 
     required property list<string> titles
+    /// Of the group, for those who do not see it.
+    required property string name
     property int currentIndex: 0
 
     signal selected(int index)
 
     Accessible.role: Accessible.PageTabList
+    Accessible.name: name
 
     Repeater {
         model: segments.titles

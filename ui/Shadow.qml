@@ -7,5 +7,4 @@ BorderImage {
     z: -1
     border { left: 16; right: 16; top: 16; bottom: 16 }
     source: Theme.image("shadow")
-    Accessible.ignored: true
 }

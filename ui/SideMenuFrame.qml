@@ -16,6 +16,11 @@ FocusScope {
         content.close()
     }
 
+    function leave(event: KeyEvent) {
+        if (!event.isAutoRepeat)
+            sideMenu.hideMenu()
+    }
+
     focus: true
 
     Behavior on progress {
@@ -27,24 +32,20 @@ FocusScope {
         anchors.fill: parent
         color: Theme.menuBackground
     }
-    FocusGuard {
-        id: guard
-        scope: frame
-        front: content
-    }
     Connections {
         target: frame.sideMenu
         function onOpenChanged() {
-            guard.front = frame.sideMenu.open ? menu : content
-            guard.front.focus = true
+            const front = frame.sideMenu.open ? menu : content
+            front.focus = true
         }
     }
     FocusScope {
         id: menu
         anchors.fill: parent
         visible: frame.progress > 0
-        Keys.onEscapePressed: frame.sideMenu.hideMenu()
-        Keys.onBackPressed: frame.sideMenu.hideMenu()
+        enabled: frame.sideMenu.open
+        Keys.onEscapePressed: event => frame.leave(event)
+        Keys.onBackPressed: event => frame.leave(event)
         ScreenLoader {
             width: frame.openShift
             height: parent.height
@@ -70,6 +71,7 @@ FocusScope {
             id: content
             anchors.fill: parent
             focus: true
+            enabled: !frame.sideMenu.open
             navigation: frame.sideMenu.content
         }
         Item {

@@ -22,7 +22,6 @@ Column {
         color: Theme.tones(tile.deep).textSecondary
         horizontalAlignment: tile.alignment
         elide: Text.ElideRight
-        Accessible.ignored: true
     }
     AmountText {
         width: tile.width
@@ -32,6 +31,5 @@ Column {
         trend: tile.trend
         stale: tile.stale
         horizontalAlignment: tile.alignment
-        Accessible.ignored: true
     }
 }

@@ -17,7 +17,10 @@ FocusScope {
     Accessible.name: "引导页"
     Keys.onRightPressed: controller.toNextPage()
     Keys.onLeftPressed: controller.toBeforePage()
-    Keys.onEscapePressed: controller.removeGuideView()
+    Keys.onEscapePressed: event => {
+        if (!event.isAutoRepeat)
+            controller.removeGuideView()
+    }
 
     Binding {
         target: guide.controller
@@ -80,6 +83,8 @@ FocusScope {
         anchors.margins: Theme.spacingHuge
         focus: true
         text: guide.controller.lastPage ? "立即体验" : "下一页"
+        Accessible.description: [guide.headlines[guide.controller.page], guide.lines[guide.controller.page],
+                                 guide.controller.pageText].join("，")
         onClicked: guide.controller.lastPage ? guide.controller.removeGuideView() : guide.controller.toNextPage()
     }
 }

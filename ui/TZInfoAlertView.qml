@@ -9,6 +9,7 @@ DialogFrame {
     readonly property TZInfoAlertDialog info: dialog as TZInfoAlertDialog
 
     name: info.titleText
+    description: info.ensureText
 
     Item {
         width: parent.width
@@ -19,7 +20,7 @@ DialogFrame {
             anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.spacingLarge }
             anchors.topMargin: Theme.spacingHuge
             spacing: Theme.spacingSmall
-            PlainText {
+            SpokenText {
                 width: parent.width
                 text: alert.info.titleText
                 font: Theme.title
@@ -27,7 +28,7 @@ DialogFrame {
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.Wrap
             }
-            PlainText {
+            SpokenText {
                 width: parent.width
                 visible: text !== ""
                 text: alert.info.ensureText
@@ -63,6 +64,8 @@ DialogFrame {
                 width: parent.width - x
                 focus: true
                 text: alert.info.rightTitle
+                // Read with the focus when the dialog comes.
+                Accessible.description: alert.info.ensureText
                 onClicked: alert.info.rightBtnClick()
             }
         }

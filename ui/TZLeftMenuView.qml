@@ -13,6 +13,8 @@ FocusScope {
     Column {
         anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter }
         spacing: Theme.spacingSmall
+        Accessible.role: Accessible.Pane
+        Accessible.name: "菜单"
 
         Repeater {
             model: menu.controller.rows

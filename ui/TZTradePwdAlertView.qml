@@ -16,7 +16,7 @@ DialogFrame {
         width: parent.width
         height: Theme.rowHeight
 
-        PlainText {
+        SpokenText {
             id: title
             anchors.centerIn: parent
             text: "请输入交易密码"

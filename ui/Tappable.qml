@@ -1,41 +1,29 @@
 import QtQuick
-import QtQuick.Templates as T
+import Zorvane.Ui
 
-/// What every tappable block is made of: a name, a focus ring, the pointer, Space and Enter, and the press action of
-/// assistive technology.
-T.AbstractButton {
+/// What every tappable block is made of: a name, a focus ring, and the press action of assistive technology.
+TapArea {
     id: control
 
+    property string text
+    /// Whether it can be pressed. What lies under another page or a dialog cannot be either, and keeps its looks.
+    property bool available: true
     property bool deep: false
-    /// Whether a press does something: rows of texts are made of this block too.
-    property bool leads: true
     property real ringRadius: Theme.radius
     /// Inwards for controls that fill the width of the page.
     property real ringInset: -2
     readonly property Tones tones: Theme.tones(deep)
-    readonly property bool showsFocus: activeFocus
-                                       && (focusReason === Qt.TabFocusReason || focusReason === Qt.BacktabFocusReason)
+    readonly property bool showsFocus: activeFocus && LastInput.byKeyboard
 
-    /// Takes the focus and shows it, also when it has it already.
-    function takeKeyboard() {
-        forceActiveFocus(Qt.TabFocusReason)
-        focusReason = Qt.TabFocusReason
-    }
-
-    function press() {
-        if (enabled)
-            clicked()
-    }
-
-    implicitWidth: Math.max(Theme.touchTarget, implicitContentWidth + leftPadding + rightPadding)
-    implicitHeight: Math.max(Theme.touchTarget, implicitContentHeight + topPadding + bottomPadding)
-    activeFocusOnTab: true
-    focusPolicy: Qt.TabFocus
+    implicitWidth: Math.max(Theme.touchTarget, contentItem ? contentItem.implicitWidth + leftPadding + rightPadding : 0)
+    implicitHeight: Math.max(Theme.touchTarget, contentItem ? contentItem.implicitHeight : 0)
+    enabled: available
+    activeFocusOnTab: enabled
     Accessible.role: Accessible.Button
     Accessible.name: text
+    Accessible.description: available ? "" : "不可用"
+    Accessible.focusable: enabled
     Accessible.onPressAction: control.press()
-    Keys.onReturnPressed: control.press()
-    Keys.onEnterPressed: control.press()
 
     Rectangle {
         anchors.fill: parent

@@ -4,6 +4,7 @@ import QtQuick
 Tappable {
     id: control
 
+    property font font: Theme.body
     property color textColour: deep ? control.tones.accent : Theme.link
 
     leftPadding: Theme.spacingSmall
@@ -11,11 +12,10 @@ Tappable {
     contentItem: PlainText {
         text: control.text
         font: control.font
-        color: control.enabled ? control.textColour : control.tones.disabled
+        color: control.available ? control.textColour : control.tones.disabled
         opacity: control.pressed ? Theme.disabledOpacity : 1
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight
     }
-    font: Theme.body
 }

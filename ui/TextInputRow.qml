@@ -9,13 +9,14 @@ FocusScope {
     property string text
     property string placeholder
     property string label
+    /// What is said besides its placeholder.
+    property string description
     property string icon
     property bool deep: false
     property bool line: true
     property bool clearButton: true
     property alias inputMethodHints: field.inputMethodHints
     property alias maximumLength: field.maximumLength
-    property alias echoMode: field.echoMode
     property alias readOnly: field.readOnly
     property alias field: field
     /// Whether an input method is still making up what was typed.
@@ -57,7 +58,6 @@ FocusScope {
         text: row.label
         font: Theme.body
         color: row.tones.textPrimary
-        Accessible.ignored: true
     }
     T.TextField {
         id: field
@@ -66,7 +66,7 @@ FocusScope {
         focus: true
         activeFocusOnTab: true
         font: Theme.body
-        color: enabled ? row.tones.textPrimary : row.tones.disabled
+        color: row.tones.textPrimary
         placeholderTextColor: row.tones.placeholder
         selectionColor: Theme.accent
         selectedTextColor: Theme.textOnAccent
@@ -77,12 +77,15 @@ FocusScope {
         clip: true
         Accessible.role: Accessible.EditableText
         Accessible.name: row.placeholder
-        Accessible.passwordEdit: echoMode !== TextInput.Normal
+        Accessible.description: row.description
         onTextEdited: {
             // A paste may bring line breaks, which one line does not show.
             row.edited(text.replace(/[\r\n]/g, ""))
             row.showText()
         }
+        // A key that is held submits once.
+        Keys.onReturnPressed: event => event.accepted = event.isAutoRepeat
+        Keys.onEnterPressed: event => event.accepted = event.isAutoRepeat
         onAccepted: row.accepted()
 
         PlainText {
@@ -95,7 +98,6 @@ FocusScope {
             color: row.tones.placeholder
             verticalAlignment: Text.AlignVCenter
             elide: Text.ElideRight
-            Accessible.ignored: true
         }
     }
     IconButton {
@@ -104,7 +106,6 @@ FocusScope {
         width: visible ? Theme.touchTarget : 0
         visible: row.clearButton && field.activeFocus && field.length > 0 && !field.readOnly
         activeFocusOnTab: false
-        focusPolicy: Qt.NoFocus
         image: "field_clear"
         size: 18
         text: "清除"

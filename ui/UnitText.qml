@@ -17,7 +17,6 @@ Row {
         text: whole.value.figure
         font: whole.font
         color: whole.color
-        Accessible.ignored: true
     }
     PlainText {
         id: unit
@@ -25,6 +24,5 @@ Row {
         text: whole.value.unit
         font: Theme.unit
         color: whole.color
-        Accessible.ignored: true
     }
 }

@@ -11,8 +11,9 @@ FocusScope {
 
     signal back
 
-    Accessible.role: Accessible.Indicator
+    Accessible.role: Accessible.ProgressBar
     Accessible.name: status
+    Accessible.description: wayOut ? backButton.text : ""
     Keys.onPressed: event => {
         event.accepted = true
         if (event.key === Qt.Key_Tab && wayOut)
@@ -58,7 +59,6 @@ FocusScope {
                 text: indicator.status
                 font: Theme.label
                 color: Theme.textOnAccent
-                Accessible.ignored: true
             }
             SecondaryButton {
                 id: backButton

@@ -13,6 +13,10 @@ FocusScope {
     /// The row of the presented stack that covers what is under it, -1 while the root is seen.
     property int cover: -1
     property bool sliding: false
+    /// All that can be used; what it covers can be neither pressed nor reached.
+    property Item front
+    /// Known from the start, so that the first key counts.
+    readonly property bool byKeyboard: LastInput.byKeyboard
 
     function endEditing(field: Item) {
         if (field instanceof TextInput || field instanceof DigitField)
@@ -62,8 +66,7 @@ FocusScope {
     }
 
     function focusTop() {
-        const front = indicator.visible ? indicator : covered()
-        guard.front = front
+        front = indicator.visible ? indicator : covered()
         front.focus = true
     }
 
@@ -73,10 +76,6 @@ FocusScope {
         focusTop()
     }
 
-    FocusGuard {
-        id: guard
-        scope: main
-    }
     Connections {
         target: main.window
         function onEditingEnded() {
@@ -87,6 +86,7 @@ FocusScope {
         id: rootView
         anchors.fill: parent
         visible: main.cover < 0
+        enabled: main.front === rootView
         root: main.window.root
     }
     Repeater {
@@ -100,6 +100,8 @@ FocusScope {
         }
 
         PresentedStack {
+            id: stack
+
             required property int index
             required property KRNavigationController item
 
@@ -107,6 +109,7 @@ FocusScope {
             height: main.height
             navigation: item
             visible: index >= main.cover
+            enabled: main.front === stack
             onCoversChanged: main.lookAtStacks()
             onTravellingChanged: main.lookAtStacks()
             onLeavingChanged: main.focusTop()
@@ -124,11 +127,14 @@ FocusScope {
         onCountChanged: main.focusTop()
 
         DialogLoader {
+            id: dialogView
+
             required property KRDialog item
 
             width: main.width
             height: main.height
             dialog: item
+            inFront: main.front === dialogView
             onLeavingChanged: main.focusTop()
             onGone: main.window.transitionFinished(item)
         }
@@ -136,7 +142,8 @@ FocusScope {
     WaitingIndicator {
         id: indicator
         anchors.fill: parent
-        visible: main.overlays.waiting
+        // The status first: it is read when the focus comes.
+        visible: main.overlays.waiting && status === main.overlays.waitingStatus
         status: main.overlays.waitingStatus
         onVisibleChanged: main.focusTop()
         wayOut: main.overlays.waitingLong && main.canGoBack()

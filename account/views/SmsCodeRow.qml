@@ -21,7 +21,7 @@ TextInputRow {
         small: true
         deep: true
         text: row.controller.smsCell.title
-        enabled: row.controller.smsCell.enabled
+        available: row.controller.smsCell.enabled
         onClicked: {
             // The button is disabled from here on and would take the focus with it.
             row.field.focus = true

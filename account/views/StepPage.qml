@@ -40,15 +40,13 @@ PageFrame {
                 Accessible.role: Accessible.Heading
                 Accessible.name: text
             }
-            PlainText {
+            SpokenText {
                 width: parent.width
                 visible: text !== ""
                 text: page.caption
                 font: Theme.body
                 color: Theme.deep.textSecondary
                 wrapMode: Text.Wrap
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
             }
         }
     }

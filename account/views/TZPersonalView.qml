@@ -12,11 +12,9 @@ PageFrame {
 
     colour: Theme.pageGray
 
-    Flickable {
+    PageFlickable {
         anchors.fill: parent
         contentHeight: rows.height
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
 
         Column {
             id: rows

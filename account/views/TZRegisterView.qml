@@ -37,14 +37,12 @@ StepPage {
     Row {
         anchors.horizontalCenter: parent.horizontalCenter
 
-        PlainText {
+        SpokenText {
             height: Theme.touchTarget
             text: "注册即表示您同意"
             font: Theme.label
             color: Theme.deep.textSecondary
             verticalAlignment: Text.AlignVCenter
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
         }
         TextButton {
             deep: true

@@ -2,7 +2,7 @@ import QtQuick
 import Zorvane.Ui
 
 /// A figure of the balance sheet. The names end in one line, whatever blanks they begin with.
-Tappable {
+Item {
     id: row
 
     required property string title
@@ -12,20 +12,25 @@ Tappable {
     signal infoClicked
 
     implicitHeight: Theme.rowHeight
-    leads: hasInfo
-    ringInset: 2
-    text: title + " " + value
-    activeFocusOnTab: hasInfo
-    focusPolicy: hasInfo ? Qt.TabFocus : Qt.NoFocus
-    Accessible.role: hasInfo ? Accessible.Button : Accessible.StaticText
-    onClicked: if (hasInfo) infoClicked()
-    background: Rectangle {
-        color: row.hasInfo && row.pressed ? row.tones.surfacePressed : row.tones.surface
+    Accessible.role: Accessible.StaticText
+    Accessible.name: title + " " + value
+    Accessible.ignored: hasInfo
+
+    Rectangle {
+        anchors.fill: parent
+        color: door.pressed ? Theme.surfacePressed : Theme.surface
         Hairline {
             anchors { left: parent.left; right: parent.right; bottom: parent.bottom; leftMargin: Theme.margin }
         }
     }
-
+    Tappable {
+        id: door
+        anchors.fill: parent
+        visible: row.hasInfo
+        ringInset: 2
+        text: row.title + " " + row.value
+        onClicked: row.infoClicked()
+    }
     Item {
         anchors.fill: parent
 
@@ -39,8 +44,7 @@ Tappable {
             anchors { right: parent.left; rightMargin: -Theme.margin - widest.advanceWidth; verticalCenter: parent.verticalCenter }
             text: row.title
             font: Theme.body
-            color: row.tones.textPrimary
-            Accessible.ignored: true
+            color: Theme.textPrimary
         }
         Icon {
             id: info
@@ -56,7 +60,6 @@ Tappable {
             font: Theme.bodyBold
             horizontalAlignment: Text.AlignRight
             elide: Text.ElideRight
-            Accessible.ignored: true
         }
     }
 }

@@ -39,7 +39,6 @@ Tappable {
                 minimumPixelSize: Theme.body.pixelSize
                 color: title.tones.textPrimary
                 elide: Text.ElideRight
-                Accessible.ignored: true
             }
             PlainText {
                 width: parent.width
@@ -47,7 +46,6 @@ Tappable {
                 font: Theme.body
                 color: title.tones.textSecondary
                 elide: Text.ElideRight
-                Accessible.ignored: true
             }
         }
         Icon {

@@ -39,7 +39,6 @@ Item {
         font: Theme.body
         color: Theme.deep.textPrimary
         elide: Text.ElideRight
-        Accessible.ignored: true
     }
     PlainText {
         id: deed
@@ -51,6 +50,5 @@ Item {
         minimumPixelSize: Theme.smallestText
         color: Theme.deep.textPrimary
         elide: Text.ElideRight
-        Accessible.ignored: true
     }
 }

@@ -7,6 +7,7 @@ import Zorvane.Ui
 Rectangle {
     id: ticker
 
+    required property string name
     property alias model: list.model
     property alias currentIndex: list.currentIndex
     readonly property int rowHeight: Theme.scaled(44)
@@ -27,6 +28,7 @@ Rectangle {
         highlightRangeMode: ListView.ApplyRange
         highlightMoveDuration: Theme.motion
         Accessible.role: Accessible.List
+        Accessible.name: ticker.name
         delegate: BoardcastCell {
             width: ListView.view.width
             height: ticker.rowHeight

@@ -25,7 +25,6 @@ Rectangle {
         text: row.title
         font: Theme.body
         color: Theme.textPrimary
-        Accessible.ignored: true
     }
     Row {
         anchors { right: parent.right; rightMargin: Theme.spacing; verticalCenter: parent.verticalCenter }

@@ -34,7 +34,6 @@ Tappable {
                 font: Theme.title
                 color: card.tones.textPrimary
                 horizontalAlignment: Text.AlignHCenter
-                Accessible.ignored: true
             }
             PlainText {
                 width: parent.width
@@ -43,7 +42,6 @@ Tappable {
                 color: card.tones.textSecondary
                 horizontalAlignment: Text.AlignHCenter
                 elide: Text.ElideRight
-                Accessible.ignored: true
             }
         }
     }

@@ -24,7 +24,6 @@ Item {
         sourceSize.width: width
         fillMode: Image.PreserveAspectCrop
         source: Theme.image(hero.picture)
-        Accessible.ignored: true
     }
     Column {
         id: column
@@ -53,6 +52,8 @@ Item {
             text: hero.amount
             font: Theme.display
             horizontalAlignment: Text.AlignHCenter
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
     }
 }

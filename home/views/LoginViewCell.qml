@@ -46,7 +46,6 @@ Item {
                         text: cell.header.profitPrefix
                         font: Theme.body
                         color: Theme.profitLabel
-                        Accessible.ignored: true
                     }
                     AmountText {
                         id: profit
@@ -55,17 +54,14 @@ Item {
                         trend: cell.header.profitTrend
                         text: cell.header.profit
                         font: Theme.bodyBold
-                        Accessible.ignored: true
                     }
                 }
-                PlainText {
+                SpokenText {
                     anchors.verticalCenter: parent.verticalCenter
                     visible: text !== ""
                     text: cell.header.rate
                     font: Theme.bodyBold
                     color: Theme.trend(cell.header.rateTrend, true)
-                    Accessible.role: Accessible.StaticText
-                    Accessible.name: text
                 }
             }
         }
@@ -117,12 +113,10 @@ Item {
             name: "home_custody"
             size: 16
         }
-        PlainText {
+        SpokenText {
             text: cell.home.custodyText
             font: Theme.label
             color: Theme.deep.textSecondary
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
         }
     }
 }

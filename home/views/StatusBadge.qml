@@ -29,7 +29,6 @@ Tappable {
             text: badge.text
             font: Theme.badge
             color: Theme.textOnAccent
-            Accessible.ignored: true
         }
     }
 }

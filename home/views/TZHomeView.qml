@@ -14,11 +14,14 @@ PageFrame {
     RefreshableList {
         id: signedIn
         anchors { left: parent.left; right: parent.right; top: parent.top; bottom: entries.top; bottomMargin: Theme.spacing }
+        // Not bound to being visible, which it is not while another page covers this one.
+        focus: page.home.face === TZHomeViewController.SignedIn
         visible: page.home.face === TZHomeViewController.SignedIn
-        focus: visible
         controller: page.home
         deep: true
         model: visible ? 1 : 0
+        Accessible.role: Accessible.Pane
+        Accessible.name: page.home.header.assetTitle.figure
         delegate: LoginViewCell {
             width: ListView.view.width
             height: Math.max(implicitHeight, ListView.view.height)
@@ -28,7 +31,7 @@ PageFrame {
     ViewHost {
         anchors.fill: signedIn
         visible: page.home.face === TZHomeViewController.SignedOut
-        focus: visible
+        focus: page.home.face === TZHomeViewController.SignedOut
         onVisibleChanged: if (visible && !view) show(Qt.resolvedUrl("UnloginView.qml"), { home: page.home })
         Component.onCompleted: visibleChanged()
     }

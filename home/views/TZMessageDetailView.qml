@@ -18,6 +18,8 @@ PageFrame {
         focus: true
         model: 0
         Accessible.role: Accessible.Pane
+        Accessible.name: page.message.messageTitle
+        Accessible.description: page.message.content
 
         headerContent: Item {
             height: card.height + 2 * Theme.margin
@@ -59,21 +61,19 @@ PageFrame {
                                 Accessible.role: Accessible.Heading
                                 Accessible.name: text
                             }
-                            PlainText {
+                            SpokenText {
                                 width: parent.width
                                 text: page.message.time
                                 textFormat: Text.PlainText
                                 font: Theme.label
                                 color: Theme.textSecondary
-                                Accessible.role: Accessible.StaticText
-                                Accessible.name: text
                             }
                         }
                     }
                     Hairline {
                         width: parent.width
                     }
-                    PlainText {
+                    SpokenText {
                         width: parent.width
                         text: page.message.content
                         textFormat: Text.PlainText
@@ -81,8 +81,6 @@ PageFrame {
                         color: Theme.textPrimary
                         lineHeight: 1.5
                         wrapMode: Text.Wrap
-                        Accessible.role: Accessible.StaticText
-                        Accessible.name: text
                     }
                 }
             }

@@ -15,6 +15,7 @@ PageFrame {
         focus: true
         topMargin: Theme.spacing
         model: page.more.moreRows
+        Accessible.name: page.more.title
         delegate: FormRow {
             required property int index
             required property string title

@@ -16,6 +16,7 @@ PageFrame {
         focus: true
         controller: page.account
         model: page.account.assetRows
+        Accessible.name: page.account.title
         headerContent: Column {
             AccountTitle {
                 width: parent.width

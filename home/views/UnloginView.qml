@@ -16,6 +16,7 @@ Item {
     }
     BoardcastTicker {
         id: ticker
+        name: face.home.overviewTitle.figure
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: Theme.margin; bottomMargin: 0 }
         height: Math.min(implicitHeight, parent.height - 136)
         model: face.home.boardcastArr

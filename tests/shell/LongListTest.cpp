@@ -127,7 +127,7 @@ TEST_F(LongListTest, OnlyWhatIsVisibleIsMadeAndSpokenOf)
         scrollTo(end * part);
         EXPECT_GT(rowsMade(), 8);
         EXPECT_LT(rowsMade(), fewRows) << part;
-        const int nodes = nodesUnder(QAccessible::queryAccessibleInterface(view.rootObject()));
+        const int nodes = nodesUnder(QAccessible::queryAccessibleInterface(&view));
         EXPECT_GT(nodes, 8) << part;
         EXPECT_LT(nodes, fewNodes) << part;
     }
@@ -153,7 +153,7 @@ TEST_F(LongListTest, ASwipeTurnsThePageAndTheTitleFollows)
 {
     passUntil([this] { return view.isExposed(); });
     view.grabWindow();
-    QAccessibleInterface *const spoken = QAccessible::queryAccessibleInterface(view.rootObject());
+    QAccessibleInterface *const spoken = QAccessible::queryAccessibleInterface(&view);
     EXPECT_EQ(selectedTab(spoken), "当日委托");
     drag(350, 40);
     passUntil([this] { return screen->currentPage() == 1; });

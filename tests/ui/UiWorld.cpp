@@ -5,8 +5,10 @@
 #include "core/shell/TZPlainPageController.h"
 
 #include <QAccessible>
+#include <QKeyEvent>
 #include <QMetaEnum>
 #include <QQmlEngine>
+#include <QQuickWindow>
 
 namespace {
 std::unique_ptr<KRBaseController> page(const QString &title)
@@ -143,6 +145,12 @@ void UiWorld::pressSpoken(QObject *item) const
     QAccessibleInterface *const told = QAccessible::queryAccessibleInterface(item);
     if (told && told->actionInterface())
         told->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+}
+
+void UiWorld::repeatKey(QQuickItem *item, int key) const
+{
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+    QCoreApplication::sendEvent(item->window(), &event);
 }
 
 void UiWorld::display(int palette, int trendColours, int textSize)

@@ -7,6 +7,8 @@
 #include "core/shell/TZTradePwdAlertView.h"
 #include "tests/support/TestPlatform.h"
 
+#include <QQuickItem>
+
 /// A list screen that counts what it is asked for.
 class CountingList : public TZBaseTableViewController {
     Q_OBJECT
@@ -64,6 +66,8 @@ public:
     Q_INVOKABLE QString heard(QObject *item);
     /// Has assistive technology press an item.
     Q_INVOKABLE void pressSpoken(QObject *item) const;
+    /// The key is held: it comes once more.
+    Q_INVOKABLE void repeatKey(QQuickItem *item, int key) const;
     /// The places of DisplaySettings' choices.
     Q_INVOKABLE void display(int palette, int trendColours, int textSize);
 

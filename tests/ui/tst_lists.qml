@@ -9,6 +9,7 @@ Item {
 
     property var screen: world.makeList()
     property bool rowsLead: false
+    readonly property bool byKeyboard: LastInput.byKeyboard
 
     RefreshableList {
         id: list
@@ -88,7 +89,7 @@ Item {
             compare(root.screen.refreshes, 0)
         }
 
-        function test_theKeyboardScrollsAndRefreshes() {
+        function test_theKeyboardScrolls() {
             list.forceActiveFocus()
             const start = list.contentY
             keyClick(Qt.Key_Down)
@@ -97,8 +98,6 @@ Item {
             compare(Math.round(list.contentY - list.originY), Math.round(list.contentHeight - list.height))
             keyClick(Qt.Key_Home)
             compare(list.contentY, list.originY)
-            keyClick(Qt.Key_F5)
-            compare(root.screen.refreshes, 1)
         }
 
         function test_theArrowKeysGoFromRowToRowWhereRowsLeadSomewhere() {
@@ -122,6 +121,20 @@ Item {
             keyClick(Qt.Key_Home)
             keyClick(Qt.Key_Up)
             compare(at(), "row 0")
+        }
+
+        function test_f5RefreshesWhereverTheFocusIsOnThePage() {
+            search.field.forceActiveFocus()
+            keyClick(Qt.Key_F5)
+            world.repeatKey(root, Qt.Key_F5)
+            compare(root.screen.refreshes, 1)
+        }
+
+        function test_whatStandsBelowTheRowsIsReadAfterThem() {
+            const heard = world.heard(list)
+            const order = ["header", "row 0", "row 1", "加载更多"].map(name => heard.indexOf(name + "|"))
+            verify(order[0] >= 0)
+            compare(order, Array.from(order).sort((one, other) => one - other))
         }
 
         function test_coveringAListEndsWhatIsEditedOnIt() {

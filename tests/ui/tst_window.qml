@@ -17,8 +17,6 @@ Item {
     // Something behind the dialogs that Tab could reach.
     PrimaryButton {
         id: behind
-        parent: content
-        z: -1
         width: 390
         height: 600
         text: "behind"
@@ -55,6 +53,7 @@ Item {
             world.wait(false)
             behind.taps = 0
             behind.presents = false
+            tryVerify(() => find(content, item => item instanceof DialogLoader && item.leaving) === null)
         }
 
         function find(area, wanted) {
@@ -68,7 +67,16 @@ Item {
 
         function holdsFocus(text) {
             const item = content.Window.activeFocusItem
-            return item !== null && item.text === text
+            return item !== null && item.text === text && item.showsFocus
+        }
+
+        // Part of what the dialogs and pages cover.
+        function initTestCase() {
+            behind.parent = find(content, item => item instanceof RootLoader)
+        }
+
+        function init() {
+            keyClick(Qt.Key_Shift)
         }
 
         function test_tabStaysInADialog() {
@@ -98,6 +106,40 @@ Item {
             tryCompare(dialog.scroll, "contentY", end)
             keyClick(Qt.Key_Return)
             compare(world.answers(), "right ")
+        }
+
+        function test_aDialogSaysWhatItAsks() {
+            world.showQuestion()
+            tryVerify(() => holdsFocus("确定"))
+            compare(world.spoken(content.Window.activeFocusItem).description, "确定？")
+            const heard = world.heard(content.Window.window)
+            verify(heard.includes("提示|确定？|"), heard)
+            keyClick(Qt.Key_Escape)
+        }
+
+        function test_whatADialogCoversIsNeitherPressedNorLosesItsPlace() {
+            behind.forceActiveFocus()
+            world.showQuestion()
+            tryVerify(() => holdsFocus("确定"))
+            const colour = behind.background.color
+            world.pressSpoken(behind)
+            compare(behind.taps, 0)
+            verify(!world.spoken(behind).focusable)
+            verify(Qt.colorEqual(behind.background.color, colour))
+            keyClick(Qt.Key_Tab)
+            keyClick(Qt.Key_Escape)
+            verify(behind.activeFocus && behind.showsFocus)
+            world.pressSpoken(behind)
+            compare(behind.taps, 1)
+        }
+
+        function test_aHeldEnterDoesNotAnswerTheQuestionItBroughtUp() {
+            world.showQuestion()
+            tryVerify(() => holdsFocus("确定"))
+            world.repeatKey(content, Qt.Key_Return)
+            world.repeatKey(content, Qt.Key_Escape)
+            compare(world.window.dialogs.count, 1)
+            keyClick(Qt.Key_Escape)
         }
 
         function test_aTapBesideADialogReachesNothing() {

@@ -47,7 +47,6 @@ Row {
                         text: action.title
                         font: Theme.label
                         color: action.tones.textPrimary
-                        Accessible.ignored: true
                     }
                 }
             }

@@ -26,7 +26,6 @@ Rectangle {
             text: panel.title
             font: Theme.unit
             color: Theme.deep.textSecondary
-            Accessible.ignored: true
         }
         Repeater {
             model: panel.model
@@ -46,7 +45,6 @@ Rectangle {
                     text: line.label
                     font: Theme.unit
                     color: Theme.deep.textSecondary
-                    Accessible.ignored: true
                 }
                 AmountText {
                     anchors { left: name.right; right: parent.right; leftMargin: Theme.spacingTiny }
@@ -55,7 +53,6 @@ Rectangle {
                     font: Theme.unit
                     trend: line.trend
                     horizontalAlignment: Text.AlignRight
-                    Accessible.ignored: true
                 }
             }
         }

@@ -46,7 +46,6 @@ Tappable {
                 font: Theme.body
                 color: Theme.deep.textPrimary
                 elide: Text.ElideRight
-                Accessible.ignored: true
             }
             PlainText {
                 width: parent.width
@@ -54,7 +53,6 @@ Tappable {
                 font: Theme.caption
                 color: Theme.deep.textSecondary
                 elide: Text.ElideRight
-                Accessible.ignored: true
             }
         }
         Pair {
@@ -93,7 +91,6 @@ Tappable {
             font: Theme.body
             trend: pair.trend
             horizontalAlignment: Text.AlignRight
-            Accessible.ignored: true
         }
         AmountText {
             width: parent.width
@@ -103,7 +100,6 @@ Tappable {
             font: Theme.caption
             color: pair.trend === 0 ? Theme.deep.textSecondary : Theme.trend(pair.trend, true)
             horizontalAlignment: Text.AlignRight
-            Accessible.ignored: true
         }
     }
 }

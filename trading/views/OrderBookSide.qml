@@ -21,7 +21,7 @@ Column {
 
     function moveTo(row: int) {
         const level = levels.itemAt(row) as OrderBookRow
-        if (level && level.enabled)
+        if (level && level.available)
             level.forceActiveFocus(Qt.TabFocusReason)
     }
 
@@ -48,7 +48,8 @@ Column {
             height: side.rowHeight + (parted ? partition.height : 0)
             buySide: side.buySide
             stale: side.stale
-            enabled: selectable
+            available: selectable
+            Accessible.ignored: !selectable
             activeFocusOnTab: index === side.current
             onActiveFocusChanged: if (activeFocus) side.current = index
             onClicked: side.handicapView.selectHandicap(index)

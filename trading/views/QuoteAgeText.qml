@@ -10,4 +10,6 @@ AmountText {
     text: age.text
     font: Theme.caption
     color: Theme.warning
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
 }

@@ -29,6 +29,8 @@ Column {
             font: Theme.display
             trend: head.detail.trend
             stale: head.detail.quoteAge.stale
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
         Column {
             id: beside
@@ -43,8 +45,10 @@ Column {
                 font: Theme.bodyBold
                 trend: head.detail.trend
                 stale: head.detail.quoteAge.stale
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
             }
-            PlainText {
+            SpokenText {
                 text: head.detail.stockCode
                 visible: !age.visible
                 font: Theme.caption
@@ -67,7 +71,7 @@ Column {
             border.width: Theme.hairlineWidth
             border.color: tag.color
 
-            PlainText {
+            SpokenText {
                 id: tag
                 anchors.centerIn: parent
                 text: head.detail.tag
@@ -103,7 +107,6 @@ Column {
                     text: cell.label
                     font: Theme.label
                     color: Theme.deep.textSecondary
-                    Accessible.ignored: true
                 }
                 AmountText {
                     id: figure
@@ -114,7 +117,6 @@ Column {
                     trend: cell.trend
                     stale: head.detail.quoteAge.stale
                     horizontalAlignment: Text.AlignRight
-                    Accessible.ignored: true
                 }
             }
         }

@@ -1,25 +1,27 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Zorvane.Ui
 import Zorvane.Trading
 
-/// A chart with its texts and its cross-hair, which follows the mouse, a finger that holds or the arrow keys. A drag moves
-/// a draggable chart through time; the wheel, two fingers, and plus and minus zoom it.
-T.Control {
+/// A chart with its texts and its cross-hair, which follows the mouse, a finger that holds, the arrow keys, and by greater
+/// steps PageUp, PageDown, Home and End. A drag moves a draggable chart through time; the wheel, two fingers, and plus and
+/// minus zoom it.
+Item {
     id: view
 
     required property StockChart chart
     property bool stale: false
     readonly property real zoomStep: 1.25
+    /// Steps that lead to the end of any chart.
+    readonly property int farAway: 100000
     /// In the order of ChartTone.
     readonly property var colours: [
         Theme.deep.textSecondary, Theme.deep.hairline, Theme.deep.rise, Theme.deep.fall, Theme.deep.flat,
         Theme.deep.accent, Theme.chartAverage, Theme.chartMa5, Theme.chartMa10, Theme.chartMa20, Theme.chartCost
     ]
 
-    focusPolicy: chart.empty ? Qt.NoFocus : Qt.TabFocus
+    activeFocusOnTab: !chart.empty || activeFocus
     Accessible.role: Accessible.Chart
     Accessible.name: chart.sentence
     Accessible.description: chart.readOutSentence
@@ -29,6 +31,17 @@ T.Control {
     Keys.onRightPressed: chart.step(1)
     Keys.onEscapePressed: event => event.accepted = chart.pointAway()
     Keys.onPressed: event => {
+        const leaps = {
+            [Qt.Key_PageUp]: -10,
+            [Qt.Key_PageDown]: 10,
+            [Qt.Key_Home]: -farAway,
+            [Qt.Key_End]: farAway
+        }
+        if (event.key in leaps) {
+            event.accepted = true
+            chart.step(leaps[event.key])
+            return
+        }
         const closer = event.key === Qt.Key_Plus || event.key === Qt.Key_Equal
         event.accepted = chart.draggable && (closer || event.key === Qt.Key_Minus)
         if (event.accepted)
@@ -63,7 +76,6 @@ T.Control {
                 verticalAlignment: Text.AlignVCenter
                 font: Theme.unit
                 color: view.stale ? Theme.deep.textSecondary : view.colours[tone]
-                Accessible.ignored: true
             }
         }
     }
@@ -80,7 +92,7 @@ T.Control {
             y: Math.round(place.y - height / 2)
             font: Theme.unit
             color: view.colours[tone]
-            Accessible.ignored: true
+
 
             // Curves pass behind it.
             Rectangle {
@@ -130,7 +142,7 @@ T.Control {
     }
     Rectangle {
         anchors { fill: parent; margins: -Theme.spacingTiny }
-        visible: view.visualFocus
+        visible: view.activeFocus && LastInput.byKeyboard
         radius: Theme.radius
         color: Theme.transparent
         border.width: Theme.focusRingWidth
@@ -208,7 +220,6 @@ T.Control {
             anchors.centerIn: parent
             font: Theme.unit
             color: Theme.deep.page
-            Accessible.ignored: true
         }
     }
 }

@@ -53,6 +53,8 @@ PageFrame {
                     text: page.screen.currentPriceText
                     font: Theme.caption
                     color: Theme.deep.textSecondary
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
                 }
             }
             // Large text leaves no room for it in the field.
@@ -109,6 +111,8 @@ PageFrame {
                 font: Theme.label
                 color: Theme.deep.textSecondary
                 verticalAlignment: Text.AlignVCenter
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text.trim()
                 Accessible.ignored: text === ""
             }
         }

@@ -12,8 +12,10 @@ PageFrame {
     required controller
     readonly property TZDealAndEntrustController screen: controller as TZDealAndEntrustController
 
+    refreshed: screen.currentPage === 0 ? screen.entrustTableView : screen.dealTableView
     titleItem: SegmentedTitle {
         titles: page.screen.pageTitles
+        name: page.screen.title
         currentIndex: page.screen.currentPage
         onSelected: index => page.screen.titleBtnClick(TZDealAndEntrustController.EntrustTag + index)
     }

@@ -34,6 +34,7 @@ PageFrame {
             icon: "search"
             text: page.screen.text
             placeholder: page.screen.placeholder
+            description: page.screen.sentence
             inputMethodHints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
             onEdited: value => page.screen.text = value
             onAccepted: page.screen.pickCurrentRow()
@@ -71,14 +72,13 @@ PageFrame {
             onClicked: page.screen.pick(index)
             onDetailAsked: page.screen.openDetail(index)
         }
-        footerContent: PlainText {
+        footerContent: SpokenText {
             height: text === "" ? 0 : Theme.rowHeight
             text: page.screen.footnote
             font: Theme.label
             color: Theme.textSecondary
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
-            Accessible.ignored: text === ""
         }
     }
     MVNoDataView {
@@ -115,7 +115,6 @@ PageFrame {
                 font: pieces.style
                 elide: Text.ElideRight
                 color: index === 1 ? Theme.link : pieces.colour
-                Accessible.ignored: true
             }
         }
     }
@@ -134,7 +133,6 @@ PageFrame {
         implicitHeight: Theme.rowHeight
         ringInset: 2
         activeFocusOnTab: false
-        focusPolicy: Qt.NoFocus
         text: sentence
         Accessible.role: Accessible.ListItem
         Accessible.selected: current
@@ -190,6 +188,7 @@ PageFrame {
                     // The keyboard reaches that of the row which the arrow keys have chosen.
                     activeFocusOnTab: row.current
                     text: "行情"
+                    Accessible.description: row.sentence
                     font: Theme.label
                     onClicked: row.detailAsked()
                 }

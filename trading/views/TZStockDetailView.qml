@@ -61,6 +61,7 @@ PageFrame {
                 visible: !page.detail.canRetry
                 spacing: Theme.spacingSmall
                 Accessible.role: Accessible.PageTabList
+                Accessible.name: page.detail.title
 
                 Repeater {
                     model: page.detail.chartTitles
@@ -89,7 +90,7 @@ PageFrame {
                     chart: page.detail.chart
                     stale: page.detail.quoteAge.stale
                 }
-                PlainText {
+                SpokenText {
                     anchors.centerIn: parent
                     visible: text !== "" && !page.detail.canRetry
                     text: page.detail.notice
@@ -141,7 +142,7 @@ PageFrame {
             deep: true
             fill: Theme.sell
             text: "卖出"
-            enabled: page.detail.canSell
+            available: page.detail.canSell
             onClicked: page.detail.sell()
         }
     }

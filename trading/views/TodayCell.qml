@@ -36,7 +36,6 @@ Tappable {
         text: cell.side
         font: Theme.bodyBold
         color: cell.isSell ? Theme.fall : Theme.rise
-        Accessible.ignored: true
     }
     PlainText {
         anchors { left: sideText.right; leftMargin: Theme.spacingSmall; right: resultText.left }
@@ -45,7 +44,6 @@ Tappable {
         font: Theme.body
         color: cell.tones.textPrimary
         elide: Text.ElideRight
-        Accessible.ignored: true
     }
     PlainText {
         id: resultText
@@ -53,14 +51,12 @@ Tappable {
         text: cell.result
         font: Theme.body
         color: cell.dealt ? Theme.dealt : cell.waiting ? Theme.pendingEntrust : cell.tones.textPrimary
-        Accessible.ignored: true
     }
     PlainText {
         anchors { left: sideText.left; bottom: parent.bottom; bottomMargin: Theme.spacing }
         text: cell.time
         font: Theme.caption
         color: cell.tones.textSecondary
-        Accessible.ignored: true
     }
     Row {
         anchors { right: resultText.right; bottom: parent.bottom; bottomMargin: Theme.spacing }
@@ -70,19 +66,16 @@ Tappable {
             text: cell.price
             font: Theme.label
             color: cell.tones.textPrimary
-            Accessible.ignored: true
         }
         PlainText {
             text: "×"
             font: Theme.label
             color: cell.tones.textSecondary
-            Accessible.ignored: true
         }
         PlainText {
             text: cell.shares
             font: Theme.label
             color: cell.tones.textPrimary
-            Accessible.ignored: true
         }
     }
 }
