@@ -15,6 +15,12 @@ constexpr auto longestDelay = 60s;
 constexpr std::chrono::milliseconds silence = 75s;
 constexpr qint64 longestLine = 1 << 20;
 constexpr int ok = 200;
+constexpr int notFound = 404;
+
+int statusOf(const QNetworkReply *reply)
+{
+    return reply ? reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() : 0;
+}
 } // namespace
 
 QtPushService::QtPushService(const QString &apiBaseUrl, DeveloperTrust developerTrust)
@@ -49,6 +55,8 @@ void QtPushService::open()
     request.setRawHeader("alias", alias);
     request.setTransferTimeout(static_cast<int>(silence.count()));
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
+    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
+    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     stream = network.get(request);
     connect(stream, &QNetworkReply::readyRead, this, &QtPushService::readLines);
     connect(stream, &QNetworkReply::finished, this, &QtPushService::reopenLater);
@@ -67,7 +75,7 @@ void QtPushService::close()
 
 void QtPushService::readLines()
 {
-    if (stream->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() != ok) {
+    if (statusOf(stream) != ok) {
         stream->readAll();
         return;
     }
@@ -84,7 +92,11 @@ void QtPushService::readLines()
 
 void QtPushService::reopenLater()
 {
+    // A service without such a stream is not asked for it again.
+    const bool exists = statusOf(stream) != notFound;
     close();
+    if (!exists)
+        return;
     reopening.startOnce(delay, [this] { open(); });
     delay = std::min<std::chrono::seconds>(delay * 2, longestDelay);
 }

@@ -139,6 +139,18 @@ TEST_F(PushStreamTest, ALostStreamIsOpenedAgainAfterGrowingDelaysUntilAMessageCo
     EXPECT_TRUE(opened(++openings)) << "after a message the first delay holds again";
 }
 
+TEST_F(PushStreamTest, AServiceWithoutAStreamIsAskedOnceForEachAlias)
+{
+    status = "404 Not Found\r\nSet-Cookie: a=b";
+    setAlias(QStringLiteral("t0ken"));
+    ASSERT_TRUE(opened(1));
+    streams.last()->disconnectFromHost();
+    EXPECT_FALSE(wait([this] { return runLoop.activeTimers() > 0; }, 200ms));
+    setAlias(QStringLiteral("other"));
+    ASSERT_TRUE(opened(2));
+    EXPECT_EQ(server.requests.last().header("Cookie"), "");
+}
+
 TEST_F(PushStreamTest, ALineWithoutAnEndEndsTheStream)
 {
     setAlias(QStringLiteral("t0ken"));
