@@ -83,8 +83,10 @@ FocusScope {
         anchors.margins: Theme.spacingHuge
         focus: true
         text: guide.controller.lastPage ? "立即体验" : "下一页"
-        Accessible.description: [guide.headlines[guide.controller.page], guide.lines[guide.controller.page],
-                                 guide.controller.pageText].join("，")
+        Accessible.description: {
+            const page = guide.controller.page;
+            return `${guide.headlines[page]}，${guide.lines[page]}，${guide.controller.pageText}`;
+        }
         onClicked: guide.controller.lastPage ? guide.controller.removeGuideView() : guide.controller.toNextPage()
     }
 }
