@@ -58,7 +58,7 @@ public:
     QString file = directory.filePath(QStringLiteral("stock.sqlite"));
     QList<TZStockInfoModel> stocks = makeStocks();
     QEventLoop loop;
-    StockTable table{file, [this] { loop.quit(); }};
+    StockTable table{file, [this](bool) { loop.quit(); }};
 };
 
 void execute(sqlite3 *handle, const char *sql)

@@ -169,6 +169,31 @@ TEST_F(OrderEntryTest, ATappedLevelFillsThePriceAndCountsWhatItPaysFor)
     EXPECT_EQ(screen->totalCount(), 810);
 }
 
+TEST_F(OrderEntryTest, TheKeyboardReachesEveryLevelThatHasAPriceAndNoOther)
+{
+    openWithEntry();
+    TZHandicapView *const sells = screen->sellHandicapView();
+    EXPECT_EQ(sells->keyRow(), -1);
+    http.answer(quotePath, quote("12.30"));
+    EXPECT_EQ(sells->rows()->at(sells->keyRow()).title, "卖1");
+    EXPECT_EQ(screen->buyHandicapView()->keyRow(), 0);
+
+    // Seven levels: 卖10 to 卖8, in the middle of the rows, have no price.
+    QVariantMap data = quote("12.30").value("data").toMap();
+    data["sellPankou"] = data["sellPankou"].toList().mid(0, 7);
+    runLoop.advance(3s);
+    http.answer(quotePath, succeeded(data));
+    EXPECT_EQ(sells->rowBeyond(4, 1), 8);
+    EXPECT_EQ(sells->rowBeyond(8, -1), 4);
+    EXPECT_EQ(sells->rowBeyond(0, -1), -1);
+    EXPECT_EQ(sells->rowBeyond(9, 1), -1);
+    sells->setKeyRow(9);
+    data["sellPankou"] = QVariantList{data["sellPankou"].toList().at(0)};
+    runLoop.advance(3s);
+    http.answer(quotePath, succeeded(data));
+    EXPECT_EQ(sells->keyRow(), 4) << "the level that the keyboard left is gone, the side is not";
+}
+
 TEST_F(OrderEntryTest, ALevelWithoutAPriceIsNotPicked)
 {
     openWithEntry();

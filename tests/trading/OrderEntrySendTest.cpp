@@ -98,6 +98,27 @@ TEST_F(OrderEntryTest, LeavingInTheHalfSecondSendsNothing)
     EXPECT_EQ(http.countOf(buyPath), 0);
 }
 
+TEST_F(OrderEntryTest, EditingEndsWhenAnOrderGoesAndWhenThePasswordIsAskedFor)
+{
+    openWithEntry();
+    int ended = 0;
+    QObject::connect(&window, &KRWindow::editingEnded, screen, [&ended] { ++ended; });
+    const auto hasEnded = [&ended] { return std::exchange(ended, 0) > 0; };
+    screen->submit();
+    EXPECT_FALSE(hasEnded()) << "the entry may still be edited";
+    runLoop.advance(500ms);
+    EXPECT_TRUE(hasEnded());
+    QVariantMap answer = refused("");
+    answer.insert("code", "12000");
+    http.answer(buyPath, answer);
+    EXPECT_TRUE(hasEnded());
+    prompt()->cancel();
+    settings.setValue(SettingsKeys::needTradePwd, true);
+    ended = 0;
+    screen->submit();
+    EXPECT_TRUE(hasEnded());
+}
+
 TEST_F(OrderEntryTest, TheFirstOrderAsksForThePasswordTheNextDoesNot)
 {
     settings.setValue(SettingsKeys::needTradePwd, true);

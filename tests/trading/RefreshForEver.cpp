@@ -21,7 +21,7 @@ int main(int argc, char **argv)
         std::puts("replacing");
         std::fflush(stdout);
     };
-    table = std::make_unique<StockTable>(file, replace);
+    table = std::make_unique<StockTable>(file, [&replace](bool) { replace(); });
     replace();
     return QCoreApplication::exec();
 }

@@ -25,7 +25,7 @@ TEST(StockTableKillTest, KilledAtAnyMomentTheTableIsWholeOrEmpty)
         ASSERT_TRUE(victim.waitForFinished(20000));
         ASSERT_EQ(victim.exitStatus(), QProcess::CrashExit) << "it was killed at its work";
 
-        StockTable table(file, [] {});
+        StockTable table(file, [](bool) {});
         ASSERT_EQ(table.problem(), QString());
         const QList<TZStockInfoModel> stocks = table.query({});
         std::set<QString> lists;

@@ -253,6 +253,25 @@ TEST_F(StockInfoToolTest, ALockHeldByAnotherProgramNeitherStallsNorLosesAList)
     EXPECT_EQ(codesOf(TZStockInfoTool::queryWithCondition({})), QStringList{QStringLiteral("000600")});
 }
 
+TEST_F(StockInfoToolTest, AnOldListThatCouldNotBeReplacedIsNotTakenForTheNewOne)
+{
+    save({{QStringLiteral("600123"), QStringLiteral("东方钢铁"), QStringLiteral("DFGT")}});
+    const QByteArray path = (application.documentsDirectory() + QStringLiteral("/stock.sqlite")).toUtf8();
+    sqlite3 *other = nullptr;
+    ASSERT_EQ(sqlite3_open(path.constData(), &other), SQLITE_OK);
+    const char *const trigger =
+        "CREATE TRIGGER stays BEFORE DELETE ON t_stock BEGIN SELECT RAISE(ABORT, 'stays'); END";
+    ASSERT_EQ(sqlite3_exec(other, trigger, nullptr, nullptr, nullptr), SQLITE_OK);
+    sqlite3_close(other);
+
+    TZStockInfoTool::getStockInfoWithParam({}, {}, {});
+    http.answer(QStringLiteral("info"), newList({listed(QStringLiteral("000600"), QStringLiteral("南海医药"),
+                                                        QStringLiteral("NHYY"))}));
+    waitUntilSaved();
+    EXPECT_EQ(codesOf(TZStockInfoTool::queryWithCondition({})), QStringList{QStringLiteral("600123")});
+    EXPECT_FALSE(settings.value(SettingsKeys::infoVersion).isValid()) << "the next start asks for it again";
+}
+
 TEST_F(StockInfoToolTest, TheTableIsTheOneThatWasAgreed)
 {
     TZStockInfoTool::queryWithCondition({});

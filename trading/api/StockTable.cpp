@@ -28,27 +28,29 @@ bool hasRows(Database &database)
     return select.isValid() && select.step() == SqlResult::Row;
 }
 
-void insertAll(Database &database, const QList<TZStockInfoModel> &stocks)
+bool insertAll(Database &database, const QList<TZStockInfoModel> &stocks)
 {
     Transaction transaction(database);
+    if (!transaction.isOpen())
+        return false;
     // Another client on the same file may have filled the table since it was emptied.
-    if (!transaction.isOpen() || hasRows(database))
-        return;
+    if (hasRows(database))
+        return true;
     Statement insert(database, insertOne);
     if (!insert.isValid())
-        return;
+        return false;
     for (const TZStockInfoModel &stock : stocks) {
         insert.bind(1, stock.c);
         insert.bind(2, stock.n);
         insert.bind(3, stock.s);
         if (insert.run() != SqlResult::Done)
-            return;
+            return false;
     }
-    transaction.commit();
+    return transaction.commit();
 }
 } // namespace
 
-StockTable::StockTable(const QString &file, std::function<void()> replaced)
+StockTable::StockTable(const QString &file, Replaced replaced)
     : plain(file, noWait), queued(file, queueWait), whenReplaced(std::move(replaced))
 {
     queue.setMaxThreadCount(1);
@@ -96,20 +98,19 @@ void StockTable::startReplacing()
     const QList<TZStockInfoModel> stocks = *std::exchange(next, std::nullopt);
     inserting = true;
     queue.start([this, stocks, emptied] {
-        if (emptied == SqlResult::Done)
-            insertAll(queued, stocks);
+        const bool succeeded = emptied == SqlResult::Done && insertAll(queued, stocks);
         QMetaObject::invokeMethod(
-            &context, [this] { inserted(); }, Qt::QueuedConnection);
+            &context, [this, succeeded] { inserted(succeeded); }, Qt::QueuedConnection);
     });
 }
 
-void StockTable::inserted()
+void StockTable::inserted(bool succeeded)
 {
     inserting = false;
     if (next)
         startReplacing();
     else
-        whenReplaced();
+        whenReplaced(succeeded);
 }
 
 QList<TZStockInfoModel> StockTable::query(const QString &condition)

@@ -14,9 +14,10 @@
 /// or empty.
 class StockTable {
 public:
-    /// `replaced` runs on the calling thread's event loop after each replacement, whether or not it
-    /// succeeded.
-    StockTable(const QString &file, std::function<void()> replaced);
+    /// Hears whether the table now is the list that came last.
+    using Replaced = std::function<void(bool succeeded)>;
+    /// `replaced` runs on the calling thread's event loop after each replacement.
+    StockTable(const QString &file, Replaced replaced);
     /// Waits for the rows being inserted.
     ~StockTable();
 
@@ -32,12 +33,12 @@ public:
 private:
     void open(const QString &file);
     void startReplacing();
-    void inserted();
+    void inserted(bool succeeded);
 
     Database plain;
     Database queued;
     QString fault;
-    std::function<void()> whenReplaced;
+    Replaced whenReplaced;
     std::optional<QList<TZStockInfoModel>> next;
     bool inserting = false;
     Timer retry;

@@ -24,8 +24,12 @@ StockTable &table()
     if (!opened) {
         const QString file =
             Platform::current().application.documentsDirectory() + QStringLiteral("/stock.sqlite");
-        opened = std::make_unique<StockTable>(
-            file, [] { Platform::current().notifications.post(TZStockInfoTool::stockTableReplaced); });
+        opened = std::make_unique<StockTable>(file, [](bool succeeded) {
+            // The version of a list that is not there would hide it until there is a newer one.
+            if (!succeeded)
+                Platform::current().settings.remove(SettingsKeys::infoVersion);
+            Platform::current().notifications.post(TZStockInfoTool::stockTableReplaced);
+        });
     }
     return *opened;
 }

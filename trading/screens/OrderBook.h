@@ -18,6 +18,8 @@ bool isQuote(const QVariantMap &data);
 QList<TZHandicapModel> buyLevels(const QVariantList &pankou);
 /// Kept on purpose: two blocks of five, each with its highest level first: 卖5 to 卖1, then 卖10 to 卖6.
 QList<TZHandicapModel> sellLevels(const QVariantList &pankou);
+/// The row of 卖1 in it.
+inline constexpr int bestSellRow = 4;
 /// A side for boards that show its best level on top; what is no level (no price above 0) has empty texts.
 QList<TZHandicapModel> bestFirst(const QVariantList &pankou, const QString &side);
 

@@ -11,7 +11,6 @@
 #include "core/util/Text.h"
 #include "trading/api/TZStockInfoModel.h"
 #include "trading/api/TZTradeTool.h"
-#include "trading/screens/OrderBook.h"
 #include "trading/screens/TZSelectStockController.h"
 #include "trading/screens/TradeTexts.h"
 

@@ -6,6 +6,7 @@
 #include "core/shell/TZTradePwdAlertView.h"
 #include "trading/api/TZZorvanePageStocksModel.h"
 #include "trading/screens/HoldingsDelegate.h"
+#include "trading/screens/OrderBook.h"
 #include "trading/screens/OrderDialogs.h"
 #include "trading/screens/OrderEntryRules.h"
 #include "trading/screens/QuoteAge.h"
@@ -157,7 +158,7 @@ private:
     QList<TZHandicapModel> buyLevels;
     QList<TZHandicapModel> sellLevels;
     TZHandicapView buyView;
-    TZHandicapView sellView;
+    TZHandicapView sellView{OrderBook::bestSellRow};
     QuoteAge age;
 
     bool shown = false;

@@ -61,13 +61,44 @@ void TZHandicapView::setLevels(const QList<TZHandicapModel> &levels, const Scale
     for (const TZHandicapModel &level : levels)
         rows.append(rowOf(level, scale));
     shownRows.setRows(std::move(rows));
+    Q_EMIT keyRowChanged();
+}
+
+bool TZHandicapView::isSelectable(int row) const
+{
+    return isPrice(shownLevels.value(row).price);
+}
+
+int TZHandicapView::rowBeyond(int row, int step) const
+{
+    do
+        row += step;
+    while (row >= 0 && row < shownLevels.size() && !isSelectable(row));
+    return row < shownLevels.size() ? row : -1;
+}
+
+int TZHandicapView::keyRow() const
+{
+    for (int distance = 0; distance < shownLevels.size(); ++distance) {
+        for (const int row : {wantedKeyRow - distance, wantedKeyRow + distance}) {
+            if (isSelectable(row))
+                return row;
+        }
+    }
+    return -1;
+}
+
+void TZHandicapView::setKeyRow(int row)
+{
+    wantedKeyRow = row;
+    Q_EMIT keyRowChanged();
 }
 
 void TZHandicapView::selectHandicap(int row)
 {
-    const QString price = shownLevels.value(row).price;
-    if (!isPrice(price))
+    if (!isSelectable(row))
         return;
+    const QString price = shownLevels.at(row).price;
     Q_EMIT aboutToSelect();
     Platform::current().notifications.post(priceSelectNotification,
                                            QVariantMap{{QStringLiteral("price"), price}});

@@ -28,8 +28,13 @@ public:
 class TZHandicapView : public QObject {
     Q_OBJECT
     Q_PROPERTY(GadgetListModel *rows READ rows CONSTANT)
+    /// Below a best level that is not in the first row the next block begins, with the worst.
+    Q_PROPERTY(int bestRow READ bestRow CONSTANT)
+    /// The one row that the keyboard comes to: first the best level, then the one it left, or the nearest to
+    /// it that has a price; -1 when none has.
+    Q_PROPERTY(int keyRow READ keyRow WRITE setKeyRow NOTIFY keyRowChanged)
 public:
-    using QObject::QObject;
+    explicit TZHandicapView(int rowOfBest = 0) : best(rowOfBest), wantedKeyRow(rowOfBest) {}
 
     /// Posted with {"price": text} when a level is tapped.
     static inline const QString priceSelectNotification = QStringLiteral("HandicapPriceSelectNotification");
@@ -49,11 +54,22 @@ public:
 
     Q_INVOKABLE void selectHandicap(int row);
 
+    int bestRow() const { return best; }
+    int keyRow() const;
+    void setKeyRow(int row);
+    /// The next row with a price after `row`, counted by `step`, 1 or -1; -1 when there is none.
+    Q_INVOKABLE int rowBeyond(int row, int step) const;
+
 Q_SIGNALS:
+    void keyRowChanged();
     /// Before the notification: a screen that is no order entry opens one, which then receives the price.
     void aboutToSelect();
 
 private:
+    bool isSelectable(int row) const;
+
+    const int best;
+    int wantedKeyRow;
     QList<TZHandicapModel> shownLevels;
     RowListModel<HandicapRow> shownRows;
 };

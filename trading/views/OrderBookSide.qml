@@ -4,8 +4,8 @@ import QtQuick
 import Zorvane.Ui
 import Zorvane.Trading
 
-/// The ten levels of one side of the order book, under each other. One of them is reached with Tab, first the best one;
-/// from there the arrow keys go on.
+/// The ten levels of one side of the order book, under each other. One of them is reached with Tab; from there the arrow
+/// keys go on to those that have a price.
 Column {
     id: side
 
@@ -14,21 +14,16 @@ Column {
     required property bool stale
     required property real rowHeight
     required property string name
-    /// The row of the best level. Below one that is not the first the next block begins, with the worst.
-    property int best: 0
-    /// The row that Tab reaches.
-    property int current: best
 
-    function moveTo(row: int) {
-        const level = levels.itemAt(row) as OrderBookRow
-        if (level && level.available)
-            level.forceActiveFocus(Qt.TabFocusReason)
+    function move(step: int) {
+        const level = levels.itemAt(handicapView.rowBeyond(handicapView.keyRow, step))
+        level?.forceActiveFocus(Qt.TabFocusReason)
     }
 
     Accessible.role: Accessible.List
     Accessible.name: name
-    Keys.onUpPressed: moveTo(current - 1)
-    Keys.onDownPressed: moveTo(current + 1)
+    Keys.onUpPressed: move(-1)
+    Keys.onDownPressed: move(1)
 
     Repeater {
         id: levels
@@ -37,7 +32,7 @@ Column {
         OrderBookRow {
             required property int index
             required property bool selectable
-            readonly property bool parted: index === side.best && index > 0
+            readonly property bool parted: index === side.handicapView.bestRow && index > 0
 
             required title
             required price
@@ -50,8 +45,8 @@ Column {
             stale: side.stale
             available: selectable
             Accessible.ignored: !selectable
-            activeFocusOnTab: index === side.current
-            onActiveFocusChanged: if (activeFocus) side.current = index
+            activeFocusOnTab: index === side.handicapView.keyRow
+            onActiveFocusChanged: if (activeFocus) side.handicapView.keyRow = index
             onClicked: side.handicapView.selectHandicap(index)
 
             Rectangle {

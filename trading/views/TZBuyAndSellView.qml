@@ -140,7 +140,7 @@ PageFrame {
         id: book
         // Where the sides do not fit, the best levels of both are seen first, and no level by half.
         readonly property real row: Math.max(Theme.scaled(30), page.levelHeight)
-        readonly property real start: Math.max(0, Math.min(sell.best, Math.round((sell.height - height / 2) / row))) * row
+        readonly property real start: Math.max(0, Math.min(sell.handicapView.bestRow, Math.round((sell.height - height / 2) / row))) * row
         anchors { right: parent.right; top: bookTitle.bottom; bottom: scroll.bottom }
         width: page.bookWidth
         contentHeight: sides.height
@@ -158,7 +158,6 @@ PageFrame {
                 buySide: false
                 stale: page.screen.quoteAge.stale
                 name: "卖盘"
-                best: 4
                 rowHeight: book.row
             }
             Hairline {
