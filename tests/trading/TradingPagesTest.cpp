@@ -26,12 +26,10 @@ QVariantMap tradingPage(const QVariant &available, const QVariant &profit = "750
                                  {"stocks", stocks}});
 }
 
-QVariantMap entrust(const QString &id, const QString &entrustNo, const QVariant &type = "1")
+QVariantMap entrust(const QString &id)
 {
-    return {
-        {"id", id},           {"entrustNo", entrustNo}, {"stockCode", "600001"},  {"stockName", "海天传媒"},
-        {"type", type},       {"status", "2"},          {"entrustPrice", "9.99"}, {"entrustShares", "300"},
-        {"businessShares", 0}};
+    return {{"id", id},      {"stockCode", "600001"},  {"stockName", "海天传媒"}, {"type", "1"},
+            {"status", "2"}, {"entrustPrice", "9.99"}, {"entrustShares", "300"}};
 }
 
 QStringList linesOf(TZDealDetailController &detail)
@@ -376,184 +374,6 @@ INSTANTIATE_TEST_SUITE_P(Lists, ReadListTest,
                          testing::Values("zorvanePage", "holding", "callBackPage", "entrustsToday",
                                          "detailsToday"));
 
-class WithdrawalsTest : public TradingFixture {
-protected:
-    WithdrawalsTest()
-    {
-        screen = push<TZWithdrawalsController>();
-        list({entrust("11", "E11"), entrust("12", "E12", "2")});
-    }
-    void list(const QVariantList &entrusts)
-    {
-        http.answer(QStringLiteral("callBackPage"), succeeded(entrusts));
-    }
-    void cancel(int row)
-    {
-        screen->withdrawalsBtnDidClick(row);
-        runLoop.advance(500ms);
-    }
-    static inline const QString cancelPath = QStringLiteral("entrust/createCancel");
-    static inline const QString statusPath = QStringLiteral("entrust/queryWithDrawStatus");
-    TZWithdrawalsController *screen = nullptr;
-};
-
-TEST_F(WithdrawalsTest, TwoTapsSendOneCancellationOfTheLastTapped)
-{
-    EXPECT_EQ(screen->title(), "撤单");
-    EXPECT_EQ(screen->rows()->at(1).side, "卖出");
-    screen->withdrawalsBtnDidClick(0);
-    runLoop.advance(499ms);
-    screen->withdrawalsBtnDidClick(1);
-    screen->withdrawalsBtnDidClick(2);
-    EXPECT_EQ(banners(), QStringList{"上一笔撤单没有提交：海天传媒(600001)"});
-    runLoop.advance(10s);
-    EXPECT_EQ(http.countOf(cancelPath), 1);
-    EXPECT_EQ(http.pending(cancelPath).fields(), (QVariantMap{{"tradeEntrustNo", "E12"}}));
-}
-
-TEST_F(WithdrawalsTest, WhatWasTappedIsCancelledAlsoWhenTheListChangesMeanwhile)
-{
-    screen->withdrawalsBtnDidClick(0);
-    screen->beginRefreshing();
-    list({entrust("12", "E12", "2"), entrust("11", "E11")});
-    screen->withdrawalsBtnDidClick(1);
-    runLoop.advance(500ms);
-    EXPECT_EQ(http.pending(cancelPath).fields(), (QVariantMap{{"tradeEntrustNo", "E11"}}));
-    EXPECT_TRUE(banners().isEmpty()) << "the same one was tapped again";
-}
-
-TEST_F(WithdrawalsTest, WhatHasNoNumberCannotBeCancelled)
-{
-    screen->beginRefreshing();
-    list({entrust("11", ""), QVariant::fromValue(nullptr)});
-    ASSERT_EQ(screen->rows()->count(), 1);
-    EXPECT_FALSE(screen->rows()->at(0).cancellable);
-    screen->withdrawalsBtnDidClick(0);
-    runLoop.advance(10s);
-    EXPECT_EQ(http.countOf(cancelPath), 0);
-}
-
-TEST_F(WithdrawalsTest, LeavingWithinTheHalfSecondSendsAtOnce)
-{
-    screen->withdrawalsBtnDidClick(0);
-    KRNavigationController *const covering = window.present(std::make_unique<KRBaseController>());
-    EXPECT_EQ(http.countOf(cancelPath), 1);
-    EXPECT_FALSE(overlays.isWaiting());
-    http.answer(cancelPath, succeeded());
-    EXPECT_EQ(http.countOf(statusPath), 0);
-    const int reads = http.countOf("callBackPage");
-    covering->dismiss();
-    EXPECT_EQ(http.countOf("callBackPage"), reads + 1) << "it may be through by now";
-
-    screen->withdrawalsBtnDidClick(1);
-    screen->backButtonClicked();
-    screen->withdrawalsBtnDidClick(0);
-    settle();
-    runLoop.advance(1s);
-    EXPECT_EQ(http.countOf(cancelPath), 2);
-    http.fail(cancelPath, HttpFailure::Connection);
-    EXPECT_EQ(banners(), QStringList{"加载失败"});
-}
-
-TEST_F(WithdrawalsTest, AnAnswerThatIsLostOrComesWhileCoveredReadsTheList)
-{
-    const int reads = http.countOf("callBackPage");
-    cancel(0);
-    http.fail(cancelPath, HttpFailure::Offline);
-    EXPECT_EQ(http.countOf("callBackPage"), reads);
-    cancel(0);
-    http.fail(cancelPath, HttpFailure::TimedOut);
-    EXPECT_EQ(http.countOf("callBackPage"), reads + 1);
-    EXPECT_FALSE(overlays.isWaiting()) << "quietly";
-
-    list({entrust("11", "E11"), entrust("", "E13")});
-    int known = reads + 1;
-    for (const int row : {0, 1}) {
-        cancel(row);
-        KRNavigationController *const covering = window.present(std::make_unique<KRBaseController>());
-        http.answer(cancelPath, succeeded());
-        EXPECT_EQ(http.countOf("callBackPage"), known) << "not over another screen";
-        covering->dismiss();
-        EXPECT_EQ(http.countOf("callBackPage"), ++known);
-    }
-}
-
-TEST_F(WithdrawalsTest, ACancellationIsAskedForUntilItIsConfirmed)
-{
-    cancel(0);
-    http.answer(cancelPath, succeeded());
-    EXPECT_TRUE(overlays.isWaiting());
-    for (int asked = 1; asked <= 1200; ++asked) {
-        ASSERT_EQ(http.countOf(statusPath), asked);
-        EXPECT_EQ(http.pending(statusPath).fields(), (QVariantMap{{"id", "11"}}));
-        http.answer(statusPath, succeeded(asked % 2 ? QVariant(false) : QVariant()));
-        runLoop.advance(3s);
-    }
-    EXPECT_TRUE(overlays.isWaiting());
-    EXPECT_EQ(screen->outcome(), "");
-    http.answer(statusPath, succeeded(true));
-    list({});
-    EXPECT_FALSE(overlays.isWaiting());
-    EXPECT_TRUE(screen->noData());
-    EXPECT_EQ(screen->outcome(), "撤单成功，还有0笔可撤委托");
-    const int asked = http.countOf(statusPath);
-    runLoop.advance(1min);
-    EXPECT_EQ(http.countOf(statusPath), asked);
-}
-
-TEST_F(WithdrawalsTest, ASecondCancellationIsWatchedInPlaceOfTheFirst)
-{
-    cancel(0);
-    http.answer(cancelPath, succeeded());
-    FakeTransport::Sent &ofTheFirst = http.pending(statusPath);
-    runLoop.advance(1s);
-    cancel(1);
-    http.answer(cancelPath, succeeded());
-    EXPECT_EQ(screen->orderId(), "12");
-    const int asked = http.countOf(statusPath);
-    http.answer(ofTheFirst, succeeded(true));
-    runLoop.advance(1500ms);
-    EXPECT_EQ(http.countOf(statusPath), asked + 1);
-    EXPECT_EQ(http.last().fields().value("id"), "12");
-}
-
-TEST_F(WithdrawalsTest, ARefusedCancellationIsNotWatched)
-{
-    cancel(0);
-    http.answer(cancelPath, refused("该委托已成交"));
-    EXPECT_EQ(banners(), QStringList{"该委托已成交"});
-    runLoop.advance(1min);
-    EXPECT_EQ(http.countOf(statusPath), 0);
-    EXPECT_FALSE(overlays.isWaiting());
-}
-
-TEST_F(WithdrawalsTest, AnEntrustWithoutIdentifierLeavesNoIndicatorBehind)
-{
-    screen->beginRefreshing();
-    list({entrust("", "E13")});
-    cancel(0);
-    http.answer(cancelPath, succeeded());
-    list({});
-    EXPECT_FALSE(overlays.isWaiting());
-    EXPECT_EQ(http.countOf(statusPath), 0);
-}
-
-TEST_F(WithdrawalsTest, LeavingEndsTheWatchAndComingBackReadsTheListAgain)
-{
-    cancel(0);
-    http.answer(cancelPath, succeeded());
-    KRNavigationController *const covering = window.present(std::make_unique<KRBaseController>());
-    const int asked = http.countOf(statusPath);
-    runLoop.advance(1min);
-    EXPECT_EQ(http.countOf(statusPath), asked);
-    EXPECT_FALSE(overlays.isWaiting());
-    const int reads = http.countOf("callBackPage");
-    covering->dismiss();
-    EXPECT_EQ(http.countOf("callBackPage"), reads + 1);
-    runLoop.advance(1min);
-    EXPECT_EQ(http.countOf(statusPath), asked);
-}
-
 class TodayTest : public TradingFixture {
 protected:
     TodayTest() { screen = push<TZDealAndEntrustController>(); }
@@ -561,7 +381,7 @@ protected:
     {
         QVariantList all;
         for (int i = 0; i < count; ++i)
-            all.append(entrust(QString::number(i), "E"));
+            all.append(entrust(QString::number(i)));
         return all;
     }
     static inline const QString entrustsPath = QStringLiteral("entrustsToday");
@@ -655,7 +475,7 @@ TEST_F(TodayTest, StatesHaveTheirColours)
 {
     QVariantList all;
     for (int status = 0; status < 11; ++status) {
-        QVariantMap each = entrust("1", "E");
+        QVariantMap each = entrust("1");
         each.insert("status", status);
         all.append(each);
     }
