@@ -1,7 +1,7 @@
-#include "tests/e2e/SandboxProcess.h"
+#include "tour/SandboxProcess.h"
 
 #include "core/net/FormBody.h"
-#include "tests/e2e/Hand.h"
+#include "tour/Hand.h"
 
 #include <QCoreApplication>
 #include <QFile>

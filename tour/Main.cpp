@@ -1,5 +1,5 @@
 #include "app/Client.h"
-#include "tests/e2e/Tour.h"
+#include "tour/Tour.h"
 #include "ui/Look.h"
 
 #include <QCommandLineParser>

@@ -1,4 +1,4 @@
-#include "tests/e2e/Hand.h"
+#include "tour/Hand.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>

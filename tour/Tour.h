@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tests/e2e/Hand.h"
-#include "tests/e2e/SandboxProcess.h"
+#include "tour/Hand.h"
+#include "tour/SandboxProcess.h"
 
 #include <QDir>
 #include <functional>

@@ -1,4 +1,4 @@
-#include "tests/e2e/Tour.h"
+#include "tour/Tour.h"
 
 #include <cstdio>
 
