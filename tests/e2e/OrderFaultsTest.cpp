@@ -6,9 +6,9 @@
 #include "core/shell/KRSideMenu.h"
 #include "core/shell/KRWindow.h"
 #include "core/shell/TZInfoAlertView.h"
+#include "tests/support/TestPlatform.h"
 #include "tour/Hand.h"
 #include "tour/SandboxProcess.h"
-#include "tests/support/TestPlatform.h"
 #include "trading/api/TZStockInfoModel.h"
 #include "trading/screens/TZBuyAndSellController.h"
 

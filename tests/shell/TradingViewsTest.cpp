@@ -95,8 +95,8 @@ TEST_F(TradingViewsTest, DealtAndWaitingEntrustsHaveTheirColours)
         entrusts.append(QVariantMap{{"id", status}, {"type", "1"}, {"status", status}});
     http.answer(QStringLiteral("entrustsToday"), succeeded(entrusts));
     pass();
-    for (const auto &[text, colour] : {std::pair("委托中", "#60b6ff"), std::pair("部分成交", "#ff6c70"),
-                                       std::pair("已成交", "#ff6c70")}) {
+    for (const auto &[text, colour] :
+         {std::pair("委托中", "#60b6ff"), std::pair("部分成交", "#ff6c70"), std::pair("已成交", "#ff6c70")}) {
         const QQuickItem *const label = item("text", text);
         EXPECT_EQ(label ? label->property("color").toString() : QString(), colour) << text;
     }
