@@ -1,12 +1,15 @@
 #!/usr/bin/env python3
-"""Trades at random over HTTPS, through several days and restarts, and has the books computed again on the way.
+"""Trades at random over HTTPS, through several days and restarts, and has the books computed again on the way. Then
+lives through the same once more, with the time passing in many steps and more restarts: the log must be the same.
 
 usage: random_run.py zorvane-sandbox [--market-hours] [--seed N] [--steps N]
 """
 import argparse
 import collections
+import itertools
 import os
 import random
+import shutil
 import signal
 import sqlite3
 import sys
@@ -20,21 +23,27 @@ LIMITS = {"60": 10, "00": 10, "30": 20, "68": 20}
 DEMO = "13800138000"
 
 
+def prepare(sandbox):
+    """A demo user and two with nothing but money, all signed in; the clock stands still at a day's opening."""
+    sandbox.freeze()
+    sandbox.console("clock", action="tomorrow")
+    tokens = {1: sandbox.sign_in(DEMO)}
+    for user in (2, 3):
+        tokens[user] = sandbox.sign_in(f"1391234567{user}")
+        sandbox.post("user/set_password", tokens[user], password=PASSWORD)
+        sandbox.console("deposit", user=user, amount="5000000")
+    return tokens
+
+
 class Run:
-    def __init__(self, sandbox, seed):
+    def __init__(self, sandbox, tokens, seed, interrupted):
         self.sandbox = sandbox
+        self.tokens = tokens
+        self.interrupted = interrupted
         self.random = random.Random(seed)
         self.answers = collections.Counter()
         self.refusals = collections.Counter()
-        sandbox.freeze()
-        sandbox.console("clock", action="tomorrow")
-        self.tokens = {1: sandbox.sign_in(DEMO)}
-        for user in (2, 3):
-            token = sandbox.sign_in(f"1391234567{user}")
-            sandbox.post("user/set_password", token, password=PASSWORD)
-            sandbox.console("deposit", user=user, amount="5000000")
-            self.tokens[user] = token
-        self.stocks = [h["stockCode"] for h in sandbox.get("holding", self.tokens[1])["data"]]
+        self.stocks = [h["stockCode"] for h in sandbox.get("holding", tokens[1])["data"]]
 
     def step(self):
         actions = ((60, self.order), (14, self.cancel), (14, self.wait), (4, self.move), (2, self.seal),
@@ -78,7 +87,14 @@ class Run:
                               tradeEntrustNo=self.random.choice(rows)["entrustNo"])
 
     def wait(self):
-        self.sandbox.pass_time(1000 * self.random.choice((1, 2, 5, 30, 300, 3600)))
+        seconds = self.random.choice((1, 2, 5, 30, 300, 3600, 20_000))
+        end = self.sandbox.now() + 1000 * seconds
+        if self.interrupted:
+            for part in range(1, min(seconds, 7)):
+                self.sandbox.to(end - 1000 * (seconds - seconds * part // 7))
+            if seconds > 60:
+                self.sandbox.restart(signal.SIGKILL)
+        self.sandbox.to(end)
 
     def move(self):
         quote = self.quote()
@@ -98,7 +114,11 @@ class Run:
         user = self.anybody()
         rows = self.sandbox.get("callBackPage", self.tokens[user])["data"]
         if rows:
-            self.sandbox.console("reject", user=user, entrustNo=self.random.choice(rows)["entrustNo"])
+            turned_down = self.random.choice(rows)
+            self.sandbox.console("reject", user=user, entrustNo=turned_down["entrustNo"])
+            orders = next(told["orders"] for told in self.sandbox.state()["users"] if told["id"] == str(user))
+            status = next(o["status"] for o in orders if o["id"] == turned_down["id"])
+            assert (int(status) == recompute.REJECTED) == (turned_down["businessShares"] == "0"), status
 
     def next_day(self):
         self.sandbox.console("clock", action="tomorrow")
@@ -144,24 +164,42 @@ def expect_noticed(database):
             raise AssertionError(forgery + " went unnoticed")
 
 
+def play(options, folder, tokens, interrupted):
+    """Answers the log without what tells how the clock was set, the books, and what was answered."""
+    sandbox = Sandbox(options.program, folder, options.seed, options.market_hours)
+    try:
+        run = Run(sandbox, tokens, options.seed, interrupted)
+        for step in range(1, options.steps + 1):
+            run.step()
+            if step % 50 == 0:
+                books = run.compare()
+    finally:
+        sandbox.stop()
+    with sqlite3.connect(sandbox.database) as database:
+        log = database.execute("SELECT time, kind, payload FROM event WHERE kind <> 'ClockSet' ORDER BY seq").fetchall()
+    return log, books, run
+
+
 def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("program")
     parser.add_argument("--market-hours", action="store_true")
     parser.add_argument("--seed", type=int, default=1)
-    parser.add_argument("--steps", type=int, default=600)
+    parser.add_argument("--steps", type=int, default=1000)
     options = parser.parse_args()
     with tempfile.TemporaryDirectory() as folder:
-        sandbox = Sandbox(options.program, folder, options.seed, options.market_hours)
+        once, again = os.path.join(folder, "once"), os.path.join(folder, "again")
+        sandbox = Sandbox(options.program, once, options.seed, options.market_hours)
         try:
-            run = Run(sandbox, options.seed)
-            for step in range(1, options.steps + 1):
-                run.step()
-                if step % 50 == 0:
-                    books = run.compare()
+            tokens = prepare(sandbox)
         finally:
             sandbox.stop()
-        expect_noticed(sandbox.database)
+        shutil.copytree(once, again)
+        log, books, run = play(options, once, tokens, interrupted=False)
+        differ = next((pair for pair in itertools.zip_longest(log, play(options, again, tokens, interrupted=True)[0])
+                       if pair[0] != pair[1]), None)
+        assert differ is None, f"the log depends on how often time was looked at: {differ}"
+        expect_noticed(os.path.join(once, "sandbox.db"))
     days = len({day for *_, day in books.deals})
     print(f"{books.events} events, {len(books.orders)} orders, {len(books.deals)} deals on {days} days; "
           f"{dict(run.answers)}; refusals {dict(run.refusals)}")

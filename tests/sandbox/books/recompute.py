@@ -184,6 +184,8 @@ class Books:
         mine = tuple(now - before for now, before in zip(total, o.fees))
         require(mine == (commission, stampTax, transferFee), f"fees {mine} expected")
         o.fees = total
+        partly = CANCEL_ASKED_PARTLY if o.status in (CANCEL_ASKED, CANCEL_ASKED_PARTLY) else PARTLY
+        require(status == (partly if o.remaining() else FILLED), f"status {status} after a deal")
         o.status = status
         if side == BUY:
             rest = o.price * o.remaining()
@@ -208,6 +210,7 @@ class Books:
         o = self.orders[order]
         require(o.status in OPEN, "the order is closed already")
         require(releasedCash == o.frozen, f"{o.frozen} is to be released")
+        require(status in ((PARTLY_CANCELLED,) if o.filled else (CANCELLED, REJECTED)), f"status {status} at the end")
         self.freeze(user, -o.frozen)
         if o.side == SELL:
             require(releasedShares == o.remaining(), f"{o.remaining()} shares are to be released")

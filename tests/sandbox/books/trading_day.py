@@ -12,6 +12,8 @@ from recompute import cents, fees, half_up, yuan
 from service import Sandbox
 
 PASSWORD = "123456"
+CLOSED = "当前为非交易时间，委托时间为交易日9:15至11:30、13:00至15:00"
+LOTS = "委托数量须为100股的整数倍"
 
 
 class Trader:
@@ -31,7 +33,7 @@ class Trader:
 
     def refused(self, side, stock, price, shares, words):
         answer = self.order(side, stock, price, shares)
-        assert not answer["success"] and words in answer["message"], (words, answer)
+        assert not answer["success"] and answer["message"] == words, (words, answer)
 
     def entrust(self, number):
         return next(e for e in self.sandbox.get("entrustsToday", self.token)["data"] if e["id"] == number)
@@ -70,12 +72,16 @@ class Day:
         sandbox.freeze()
         self.find_trading_day()
         self.demo = Trader(sandbox, sandbox.sign_in("13800138000"))
-        token = sandbox.sign_in("13912345678")
-        sandbox.post("user/set_password", token, password=PASSWORD)
-        self.rich = Trader(sandbox, token)
+        self.rich = self.newcomer("13912345678")
+        self.poor = self.newcomer("13912345679")
         sandbox.console("deposit", user=2, amount="60000000")
         held = {h["stockCode"][:2]: h["stockCode"] for h in sandbox.get("holding", self.demo.token)["data"]}
         self.main, self.sealed, self.chinext, self.star = (held[board] for board in ("60", "00", "30", "68"))
+
+    def newcomer(self, cell):
+        token = self.sandbox.sign_in(cell)
+        self.sandbox.post("user/set_password", token, password=PASSWORD)
+        return Trader(self.sandbox, token)
 
     def find_trading_day(self):
         """Goes on to 9:10 of the next day that is neither in a weekend nor a holiday."""
@@ -105,6 +111,8 @@ class Day:
         self.opening_auction()
         self.before_continuous_trading()
         self.refusals()
+        self.odd_remainder()
+        self.the_last_cent()
         self.the_book()
         self.cancels()
         self.sealed_board()
@@ -113,7 +121,7 @@ class Day:
         self.next_day()
 
     def before_the_auction(self):
-        self.demo.refused("Buy", self.main, self.quote(self.main)["previousClose"], 100, "非交易时间")
+        self.demo.refused("Buy", self.main, "x", 150, CLOSED)
         assert self.quote(self.main)["match"] == "", "no price before the first trade"
         stocks = {row["c"]: row["n"] for row in self.sandbox.get("info")["data"]}
         treated = {next(c for c, n in stocks.items() if n.startswith("ST") and c[:2] == board)
@@ -173,29 +181,55 @@ class Day:
         assert self.price(self.star, "match") == price + 9
 
     def refusals(self):
+        """Each names its rule, of several broken ones the first, and leaves no trace."""
         self.at("10:00")
         quote = self.quote(self.main)
         last, upper, lower = quote["match"], cents(quote["upperLimit"]), cents(quote["lowerLimit"])
+        suspended = next(stock["c"] for stock in self.sandbox.get("info")["data"]
+                         if self.quote(stock["c"])["suspended"] == "1")
+        limits = f"委托价格超出涨跌停范围（{yuan(lower)}至{yuan(upper)}元）"
+        odd = "不足100股的余额须一次性卖出，零股为37股"
         before = self.demo.money(), self.sandbox.get("entrustsToday", self.demo.token)["data"]
         for side, stock, price, shares, words in (
-                ("Buy", "999999", last, 100, "证券代码不存在"), ("Buy", self.main, last, 150, "100股的整数倍"),
-                ("Buy", self.main, last, 1_000_100, "不得超过1000000股"),
-                ("Buy", self.chinext, "20.00", 300_100, "不得超过300000股"),
-                ("Buy", self.star, "20.00", 100_001, "不得超过100000股"),
-                ("Buy", self.star, "20.00", 199, "不得少于200股"),
-                ("Buy", self.main, last + "5", 100, "0.01元的整数倍"),
-                ("Buy", self.main, yuan(upper + 1), 100, "涨跌停范围"),
-                ("Sell", self.main, yuan(lower - 1), 100, "涨跌停范围"),
-                ("Buy", self.main, last, 900_000, "可用资金不足"), ("Sell", self.main, last, 5_000, "可卖股份不足"),
-                ("Sell", self.main, last, 2_100, "T+1"), ("Sell", self.chinext, "20.00", 36, "零股为37股"),
-                ("Sell", self.main, last, 50, "100股的整数倍"), ("Buy", self.main, "x", 100, "委托价格不正确"),
-                ("Buy", self.main, last, 0, "委托数量不正确")):
+                ("Buy", "999999", "x", 150, "证券代码不存在"), ("Buy", suspended, "x", 150, "该股票已停牌，不能交易"),
+                ("Buy", self.main, "x", 1_000_150, "单笔委托数量不得超过1000000股"),
+                ("Buy", self.chinext, "x", 300_150, "单笔委托数量不得超过300000股"),
+                ("Buy", self.star, "x", 100_001, "单笔委托数量不得超过100000股"),
+                ("Buy", self.star, "x", 199, "单笔委托数量不得少于200股，以1股递增"),
+                ("Buy", self.main, "x", 150, LOTS), ("Sell", self.main, "x", 50, LOTS),
+                ("Sell", self.chinext, "x", 36, odd), ("Sell", self.chinext, "x", 1250, odd),
+                ("Buy", self.main, "0.001", 900_000, "委托价格须为0.01元的整数倍"),
+                ("Buy", self.main, yuan(upper + 1), 900_000, limits),
+                ("Sell", self.main, yuan(lower - 1), 5_000, limits),
+                ("Sell", self.main, last, 5_000, "可卖股份不足，当前可卖2000股"),
+                ("Sell", self.main, last, 2_100, "当日买入的股票下一交易日才能卖出（T+1），当前可卖2000股"),
+                ("Buy", self.main, "x", "", "请输入委托数量"), ("Buy", self.main, "", 150, "请输入委托价格"),
+                *(("Buy", self.main, "x", shares, "委托数量不正确")
+                  for shares in ("0", "-100", "1e2", "１００", "100.0", "9" * 20)),
+                *(("Buy", self.main, price, 900_000, "委托价格不正确") for price in ("0", "0.00", "-1", "x", "1,000"))):
             self.demo.refused(side, stock, price, shares, words)
         assert before == (self.demo.money(), self.sandbox.get("entrustsToday", self.demo.token)["data"])
         caged = self.demo.place("Buy", self.main, upper, 100)
         assert self.demo.status(caged) == recompute.REJECTED and "有效申报价格范围" in self.demo.entrust(caged)["errorMsg"]
-        odd = self.demo.place("Sell", self.chinext, self.level(self.chinext, "buy", 2)[0], 1237)
-        assert self.demo.status(odd) != recompute.REJECTED, "the odd remainder goes together with the lots"
+
+    def odd_remainder(self):
+        alone = self.demo.place("Sell", self.chinext, self.price(self.chinext, "upperLimit"), 137)
+        assert self.demo.holding(self.chinext)["availableShares"] == "1100"
+        self.demo.refused("Sell", self.chinext, "20.00", 37, LOTS)
+        self.demo.cancel(alone)
+        self.at("10:00:01")
+        whole = self.demo.place("Sell", self.chinext, self.level(self.chinext, "buy", 2)[0], 1237)
+        assert self.demo.status(whole) != recompute.REJECTED
+
+    def the_last_cent(self):
+        price = self.price(self.main, "lowerLimit")
+        need = price * 1000 + sum(fees(recompute.BUY, price * 1000))
+        self.sandbox.console("deposit", user=3, amount=yuan(need - 1))
+        self.poor.refused("Buy", self.main, yuan(price), 1000,
+                          f"可用资金不足，本次委托需冻结{yuan(need)}元（含费用），可用{yuan(need - 1)}元")
+        self.sandbox.console("deposit", user=3, amount="0.01")
+        self.poor.place("Buy", self.main, price, 1000)
+        assert self.poor.money() == (0, need)
 
     def the_book(self):
         levels = [self.level(self.main, "sell", line) for line in range(3)]
@@ -204,7 +238,8 @@ class Day:
         deals = self.rich.deals(taken)
         assert [(p, s) for p, s, _ in deals] == levels[:2], "best first, each at its price"
         assert self.rich.status(taken) == recompute.PARTLY
-        assert self.level(self.main, "sell") == levels[2], "what was taken stays taken"
+        self.sandbox.restart()
+        assert self.level(self.main, "sell") == levels[2], "what was taken stays taken, over a restart too"
         money = sum(p * s for p, s, _ in deals)
         assert tuple(map(sum, zip(*(f for *_, f in deals)))) == fees(recompute.BUY, money), "fees of the whole order"
 
@@ -262,7 +297,7 @@ class Day:
         expired = self.demo.entrust(self.expiring)
         assert int(expired["status"]) == recompute.CANCELLED and expired["errorMsg"], "day orders expire"
         assert self.demo.money()[1] == 0 and self.rich.money()[1] == 0
-        self.demo.refused("Buy", self.main, yuan(close), 100, "非交易时间")
+        self.demo.refused("Buy", self.main, yuan(close), 100, CLOSED)
         self.at("23:59:59")
         assert self.demo.holding(self.main)["availableShares"] == "2000", "T+1"
 

@@ -3,6 +3,7 @@
 #include "TradingFixture.h"
 
 #include <sys/wait.h>
+#include <thread>
 
 namespace sandbox {
 namespace {
@@ -44,37 +45,6 @@ protected:
         pass(10 * kSecond);
     }
 };
-
-TEST_F(BooksFixture, TheDemoAccountIsReadyToTrade)
-{
-    EXPECT_EQ(brokerage().usableMoney(kUser), 200'000'00);
-    const auto holdings = brokerage().holdings(kUser);
-    ASSERT_EQ(holdings.size(), 4u);
-    int odd = 0;
-    for (const Holding &held : holdings) {
-        EXPECT_EQ(held.availableShares, held.shares);
-        odd += held.shares % 100 != 0;
-    }
-    EXPECT_EQ(odd, 1);
-    brokerage().createDemoAccount(kUser);
-    EXPECT_EQ(brokerage().holdings(kUser).size(), 4u) << "only once";
-}
-
-TEST_F(BooksFixture, ASaleTakesItsPartOfTheCostAndLeavesTheCostPerShare)
-{
-    const std::string code = stock(Board::ShenzhenMain).code;
-    const UserId user = 2;
-    openAccount(1'000'000, user);
-    brokerage().grantShares(user, code, 1000, 1'000'000); // ten yuan each
-    const Order sale = place(Side::Sell, code, quote(code).bids[5].price, 400, user);
-    ASSERT_EQ(sale.filled, 400);
-    const Holding held = holding(code, user);
-    EXPECT_EQ(held.cost, 600'000);
-    EXPECT_EQ(held.costPerShare, "10.000");
-    const Cents income = sale.filledMoney - sale.commission - sale.stampTax - sale.transferFee;
-    EXPECT_EQ(held.accumulatedSellIncome, income);
-    EXPECT_EQ(held.profitCostPerShare, ratioText(1'000'000 - income, 60'000, 3));
-}
 
 TEST_F(BooksFixture, TheClockIsRememberedOverARestart)
 {
@@ -147,6 +117,34 @@ TEST_F(BooksFixture, AKilledProcessLosesNothingItAnswered)
         EXPECT_TRUE(brokerage().order(kUser, last).has_value()) << last;
         expectSoundBooks();
     }
+}
+
+TEST_F(BooksFixture, ManyThreadsLoseNoOrder)
+{
+    const std::string code = stock(Board::ShanghaiMain).code;
+    const std::string price = yuanText(quote(code).asks[2].price);
+    constexpr UserId kUsers[] = {2, 3, 4, 5};
+    std::vector<std::thread> crowd;
+    for (const UserId user : kUsers) {
+        openAccount(100'000'000, user);
+        crowd.emplace_back([&, user] {
+            for (int i = 0; i < 40; ++i) {
+                brokerage().placeOrder({user, Side::Buy, code, price, "200"});
+                for (const Order &order : brokerage().openOrders(user))
+                    brokerage().cancelOrder(user, entrustNo(order.id));
+                brokerage().accountSummary(user);
+                brokerage().tick();
+                brokerage().stepClock(200);
+            }
+        });
+    }
+    for (std::thread &thread : crowd)
+        thread.join();
+    std::size_t taken = 0;
+    for (const UserId user : kUsers)
+        for (int page = 0; !brokerage().ordersToday(user, page).empty(); ++page)
+            taken += brokerage().ordersToday(user, page).size();
+    EXPECT_EQ(taken, 160u);
 }
 
 } // namespace

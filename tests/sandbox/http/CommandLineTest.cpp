@@ -1,6 +1,5 @@
 #include "RunningSandbox.h"
 
-#include <array>
 #include <csignal>
 #include <fcntl.h>
 #include <fstream>
@@ -10,6 +9,12 @@
 
 namespace sandbox::test {
 namespace {
+
+std::string contents(const std::filesystem::path &file)
+{
+    std::ifstream stream(file);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
 
 /// The program as a process of its own; its output is collected in files.
 class Process {
@@ -47,8 +52,8 @@ public:
     }
     void signal(int number) { ::kill(m_pid, number); }
 
-    [[nodiscard]] std::string printed() const { return read(out()); }
-    [[nodiscard]] std::string complained() const { return read(err()); }
+    [[nodiscard]] std::string printed() const { return contents(out()); }
+    [[nodiscard]] std::string complained() const { return contents(err()); }
     /// Waits for the line that says that it is ready.
     std::string ready()
     {
@@ -62,11 +67,6 @@ public:
     }
 
 private:
-    static std::string read(const std::filesystem::path &file)
-    {
-        std::ifstream stream(file);
-        return {std::istreambuf_iterator<char>(stream), {}};
-    }
     [[nodiscard]] std::filesystem::path out() const { return m_folder.path() / "out"; }
     [[nodiscard]] std::filesystem::path err() const { return m_folder.path() / "err"; }
 
@@ -105,46 +105,28 @@ TEST(CommandLine, WrongOptionsEndWithOneLineAndStatusTwo)
     }
 }
 
-TEST(CommandLine, HelpNamesEveryOption)
+TEST(CommandLine, ADamagedDatabaseIsNamedAtTheStartAndLeftAlone)
 {
-    Process process({"--help"});
-    EXPECT_EQ(process.wait(), 0);
-    for (const char *option :
-         {"--host", "--port", "--data-dir", "--seed", "--market-hours", "--ready-file", "--quiet"})
-        EXPECT_NE(process.printed().find(option), std::string::npos) << option;
-}
+    for (const int begin : {0, 4096 * 3}) {
+        const TemporaryFolder folder;
+        const std::filesystem::path file = folder.path() / "sandbox.db";
+        const std::vector<std::string> arguments{"--data-dir", folder.path().string(), "--port", "0",
+                                                 "--quiet"};
+        Process sound(arguments);
+        static_cast<void>(sound.ready());
+        sound.signal(SIGTERM);
+        EXPECT_EQ(sound.wait(), 0);
+        std::fstream(file, std::ios::in | std::ios::out | std::ios::binary).seekp(begin)
+            << std::string(4096 * 8, '\xa5');
+        const std::string damaged = contents(file);
 
-TEST(CommandLine, AFileThatIsNoDatabaseIsNamedAndLeftAlone)
-{
-    const TemporaryFolder folder;
-    const std::string content(8192, 'x');
-    std::ofstream(folder.path() / "sandbox.db") << content;
-    Process process({"--data-dir", folder.path().string(), "--port", "0"});
-    EXPECT_EQ(process.wait(), 2);
-    EXPECT_NE(process.complained().find("sandbox.db"), std::string::npos) << process.complained();
-    std::ifstream stream(folder.path() / "sandbox.db");
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(stream), {}), content);
-}
-
-TEST(CommandLine, ADatabaseThatIsDamagedInItsMiddleIsNamedAtTheStart)
-{
-    const TemporaryFolder folder;
-    const std::vector<std::string> arguments{"--data-dir", folder.path().string(), "--port", "0", "--quiet"};
-    {
         Process process(arguments);
-        static_cast<void>(process.ready());
-        process.signal(SIGTERM);
-        EXPECT_EQ(process.wait(), 0);
+        EXPECT_EQ(process.wait(), 2);
+        const std::string text = process.complained();
+        EXPECT_NE(text.find("sandbox.db"), std::string::npos) << text;
+        EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 1) << text;
+        EXPECT_TRUE(contents(file) == damaged);
     }
-    std::fstream file(folder.path() / "sandbox.db", std::ios::in | std::ios::out | std::ios::binary);
-    file.seekp(4096 * 3);
-    file << std::string(4096 * 8, '\xa5');
-    file.close();
-    Process process(arguments);
-    EXPECT_EQ(process.wait(), 2);
-    const std::string text = process.complained();
-    EXPECT_NE(text.find("sandbox.db"), std::string::npos) << text;
-    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 1) << text;
 }
 
 TEST(CommandLine, AnUsedPortAndAnUsedFolderAreToldApart)
@@ -171,8 +153,7 @@ TEST(CommandLine, StartsAnswersAndEndsOnASignalWhileAClientIsConnected)
     const std::string expected = "ready https://127.0.0.1:" + std::to_string(portOf(ready)) + "/ ca " +
                                  (folder.path() / "new/data/ca.pem").string();
     EXPECT_EQ(ready, expected);
-    std::ifstream stream(readyFile);
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(stream), {}), expected + "\n");
+    EXPECT_EQ(contents(readyFile), expected + "\n");
 
     Client client(portOf(ready), folder.path() / "new/data/ca.pem");
     EXPECT_TRUE(succeeded(client.get("loanOverview")));

@@ -7,94 +7,71 @@ namespace sandbox::test {
 namespace {
 
 struct Route {
-    const char *method;
-    const char *path;
+    std::string method;
+    std::string path;
     bool needsUser;
-    Fields fields; ///< what a well-meant call carries
+    std::string fields; ///< what a well-meant call carries
 };
 
-const std::vector<Route> &routes()
-{
-    static const std::vector<Route> table{
-        {"POST", "user/start", false, {{"cell", "13912345678"}}},
-        {"POST", "user/verify", false, {{"bizCode", "1001"}, {"userInput", "123456"}, {"inviteCode", ""}}},
-        {"POST", "user/set_nick", true, {{"nick", "小雨"}}},
-        {"POST", "user/set_real_name", true, {{"realName", "李小雨"}, {"idCard", "110101199003071234"}}},
-        {"POST",
-         "user/bind_card",
-         true,
-         {{"province", "浙江"},
-          {"city", "杭州"},
-          {"cardNo", "6222021234567890"},
-          {"cell", "13912345678"},
-          {"channelCode", "CMB"}}},
-        {"POST", "user/verify_bind", true, {{"orderId", "1"}, {"code", "123456"}, {"cell", "13912345678"}}},
-        {"POST", "user/set_password", true, {{"password", "123456"}}},
-        {"POST", "user/update_password_sms", true, {}},
-        {"POST", "user/update_verify", true, {{"bizCode", "1003"}, {"userInput", "123456"}}},
-        {"POST", "user/verify_id_card", true, {{"idCard", "110101199003071234"}}},
-        {"POST", "user/update_password", true, {{"password", "123456"}}},
-        {"GET", "user/can_update_password", true, {}},
-        {"POST", "image/upload", true, {{"kind", "portrait"}}},
-        {"GET", "index/bank_list", false, {}},
-        {"GET", "info", false, {}},
-        {"GET", "timelyInfo/timelyOrderForm", false, {{"stockCode", "000001"}}},
-        {"GET", "stockDetailPage", false, {{"stockCode", "000001"}}},
-        {"GET", "zorvanePage", true, {}},
-        {"GET", "buyPage", true, {}},
-        {"GET", "holding", true, {{"", ""}}},
-        {"GET", "callBackPage", true, {}},
-        {"GET", "entrustsToday", true, {{"page", "0"}}},
-        {"GET", "detailsToday", true, {{"page", "0"}}},
-        {"GET", "warnInfo", true, {}},
-        {"POST",
-         "entrust/createBuy",
-         true,
-         {{"stockCode", "000001"},
-          {"entrustShares", "100"},
-          {"entrustPrice", "1"},
-          {"tradePassword", "123456"}}},
-        {"POST",
-         "entrust/createSell",
-         true,
-         {{"stockCode", "000001"},
-          {"entrustShares", "100"},
-          {"entrustPrice", "1"},
-          {"tradePassword", "123456"}}},
-        {"POST", "entrust/createCancel", true, {{"tradeEntrustNo", "1"}}},
-        {"POST", "entrust/queryEntrustNo", true, {{"id", "1"}}},
-        {"POST", "entrust/queryWithDrawStatus", true, {{"id", "1"}}},
-        {"GET", "trade/recharge", true, {}},
-        {"POST", "trade/recharge", true, {{"amount", "100"}, {"loanId", ""}}},
-        {"POST", "trade/verify_recharge", true, {{"orderId", "1"}}},
-        {"GET", "trade/show_withdraw", true, {}},
-        {"POST", "trade/withdraw", true, {{"amount", "100"}, {"tradePass", "123456"}}},
-        {"GET", "trade/query_order_status", true, {{"orderId", "1"}}},
-        {"GET", "walletRecords", true, {{"page", "1"}}},
-        {"GET", "commissions", true, {{"page", "1"}}},
-        {"GET", "userIndex", true, {}},
-        {"GET", "loanOverview", false, {}},
-        {"GET", "recentLoans", false, {}},
-        {"GET", "safeMoney2Supplement", true, {}},
-        {"GET", "warn", true, {}},
-        {"GET",
-         "msg/list",
-         true,
-         {{"pageIndex", "1"}, {"pageSize", "100"}, {"status", "3"}, {"source", "100"}}},
-        {"PUT", "msg/mark", true, {{"msgId", "1"}}},
-        {"GET", "msg/count", true, {}},
-    };
-    return table;
-}
+const Route routes[] = {
+    {"POST", "user/start", false, "cell=13912345678"},
+    {"POST", "user/verify", false, "bizCode=1001&userInput=123456&inviteCode="},
+    {"POST", "user/set_nick", true, "nick=小雨"},
+    {"POST", "user/set_real_name", true, "realName=李小雨&idCard=110101199003071234"},
+    {"POST", "user/bind_card", true,
+     "province=浙江&city=杭州&cardNo=6222021234567890&cell=13912345678&channelCode=CMB"},
+    {"POST", "user/verify_bind", true, "orderId=1&code=123456&cell=13912345678"},
+    {"POST", "user/set_password", true, "password=123456"},
+    {"POST", "user/update_password_sms", true, ""},
+    {"POST", "user/update_verify", true, "bizCode=1003&userInput=123456"},
+    {"POST", "user/verify_id_card", true, "idCard=110101199003071234"},
+    {"POST", "user/update_password", true, "password=123456"},
+    {"GET", "user/can_update_password", true, ""},
+    {"POST", "image/upload", true, "kind=portrait"},
+    {"GET", "index/bank_list", false, ""},
+    {"GET", "info", false, ""},
+    {"GET", "timelyInfo/timelyOrderForm", false, "stockCode=000001"},
+    {"GET", "stockDetailPage", false, "stockCode=000001"},
+    {"GET", "zorvanePage", true, ""},
+    {"GET", "buyPage", true, ""},
+    {"GET", "holding", true, ""},
+    {"GET", "callBackPage", true, ""},
+    {"GET", "entrustsToday", true, "page=0"},
+    {"GET", "detailsToday", true, "page=0"},
+    {"GET", "warnInfo", true, ""},
+    {"POST", "entrust/createBuy", true,
+     "stockCode=000001&entrustShares=100&entrustPrice=1&tradePassword=123456"},
+    {"POST", "entrust/createSell", true,
+     "stockCode=000001&entrustShares=100&entrustPrice=1&tradePassword=123456"},
+    {"POST", "entrust/createCancel", true, "tradeEntrustNo=1"},
+    {"POST", "entrust/queryEntrustNo", true, "id=1"},
+    {"POST", "entrust/queryWithDrawStatus", true, "id=1"},
+    {"GET", "trade/recharge", true, ""},
+    {"POST", "trade/recharge", true, "amount=100&loanId="},
+    {"POST", "trade/verify_recharge", true, "orderId=1"},
+    {"GET", "trade/show_withdraw", true, ""},
+    {"POST", "trade/withdraw", true, "amount=100&tradePass=123456"},
+    {"GET", "trade/query_order_status", true, "orderId=1"},
+    {"GET", "walletRecords", true, "page=1"},
+    {"GET", "commissions", true, "page=1"},
+    {"GET", "userIndex", true, ""},
+    {"GET", "loanOverview", false, ""},
+    {"GET", "recentLoans", false, ""},
+    {"GET", "safeMoney2Supplement", true, ""},
+    {"GET", "warn", true, ""},
+    {"GET", "msg/list", true, "pageIndex=1&pageSize=100&status=3&source=100"},
+    {"PUT", "msg/mark", true, "msgId=1"},
+    {"GET", "msg/count", true, ""},
+};
 
 httplib::Result send(Client &client, const Route &route, const std::string &fields)
 {
-    const std::string path = std::string("/") + route.path;
+    const std::string path = "/" + route.path;
     const std::string query = fields.empty() ? path : path + "?" + fields;
     constexpr const char *formType = "application/x-www-form-urlencoded";
-    if (route.method == std::string("POST"))
+    if (route.method == "POST")
         return client.raw().Post(path, client.headers(), fields, formType);
-    if (route.method == std::string("PUT"))
+    if (route.method == "PUT")
         return client.raw().Put(query, client.headers(), "", formType);
     return client.raw().Get(query, client.headers());
 }
@@ -128,14 +105,14 @@ std::string RouteTable::token;
 TEST_F(RouteTable, EveryRouteAnswersWithAnEnvelopeAndNoneIsUnknown)
 {
     Client client = signedIn();
-    for (const Route &route : routes()) {
-        const auto result = send(client, route, httplib::detail::params_to_query_str(route.fields));
+    for (const Route &route : routes) {
+        const auto result = send(client, route, route.fields);
         const Json envelope = envelopeOf(result);
         ASSERT_TRUE(envelope.is_object()) << route.path;
         EXPECT_EQ(result->status, 200) << route.path;
         EXPECT_EQ(result->get_header_value("Content-Type"), "application/json; charset=utf-8") << route.path;
         EXPECT_TRUE(envelope.at("success").is_boolean() && envelope.at("message").is_string()) << route.path;
-        const bool list = route.path == std::string("info");
+        const bool list = route.path == "info";
         EXPECT_TRUE(succeeded(envelope) || list || !message(envelope).empty()) << route.path;
     }
     EXPECT_EQ(client.get("sandbox/state").at("data").at("unknown").at("count"), 0);
@@ -145,9 +122,8 @@ TEST(Protocol, ItsDescriptionNamesEveryRoute)
 {
     std::ifstream file(PROTOCOL_DOCUMENT);
     const std::string text(std::istreambuf_iterator<char>(file), {});
-    for (const Route &route : routes())
-        EXPECT_NE(text.find(std::string("`") + route.method + " " + route.path + "`"), std::string::npos)
-            << route.path;
+    for (const Route &route : routes)
+        EXPECT_NE(text.find("`" + route.method + " " + route.path + "`"), std::string::npos) << route.path;
 }
 
 TEST_F(RouteTable, SignedOutCallersAreAskedToSignIn)
@@ -155,11 +131,10 @@ TEST_F(RouteTable, SignedOutCallersAreAskedToSignIn)
     for (const std::string &forged : {std::string(), std::string("stale"), std::string(64, '0')}) {
         Client client = running->client();
         client.token = forged;
-        for (const Route &route : routes()) {
+        for (const Route &route : routes) {
             if (!route.needsUser)
                 continue;
-            const Json envelope =
-                envelopeOf(send(client, route, httplib::detail::params_to_query_str(route.fields)));
+            const Json envelope = envelopeOf(send(client, route, route.fields));
             EXPECT_FALSE(succeeded(envelope)) << route.path;
             EXPECT_EQ(message(envelope), "请先登录") << route.path;
         }
@@ -174,15 +149,12 @@ TEST_F(RouteTable, NoRouteBreaksOnMissingOverlongOrHostileFields)
         "",      "%20%20", longText,      "-1",           "99999999999999999999",
         "1e308", "%00",    "%27%22%3B--", "%F0%9F%98%80", "%EF%BC%91%EF%BC%92",
         "0x10",  "1.005"};
-    for (const Route &route : routes()) {
+    for (const Route &route : routes) {
         EXPECT_TRUE(envelopeOf(send(client, route, "")).is_object()) << route.path;
-        for (const auto &[name, ignored] : route.fields) {
+        for (const auto &[name, ignored] : http::parseForm(route.fields)) {
             for (const std::string &value : values) {
-                Fields others = route.fields;
-                others.erase(name);
-                const std::string fields =
-                    httplib::detail::params_to_query_str(others) + "&" + name + "=" + value;
-                const auto result = send(client, route, fields);
+                // The first of two fields of one name counts.
+                const auto result = send(client, route, name + "=" + value + "&" + route.fields);
                 ASSERT_TRUE(result) << route.path << " " << name;
                 const bool tooLongForAQuery = result->status == 414 && value == longText;
                 EXPECT_TRUE(result->status == 200 || tooLongForAQuery)
@@ -272,13 +244,6 @@ TEST_F(RouteTable, LogLinesCarryNoQueryAndNoSecret)
         EXPECT_EQ(line.find('='), std::string::npos);
     }
     EXPECT_TRUE(seen);
-}
-
-TEST_F(RouteTable, OneConnectionServesManyCalls)
-{
-    Client client = running->client();
-    for (int i = 0; i < 300; ++i)
-        ASSERT_TRUE(succeeded(client.get("timelyInfo/timelyOrderForm?stockCode=000001"))) << i;
 }
 
 TEST(Form, ReadsWhatAClientWrites)
