@@ -185,7 +185,7 @@ def main():
     parser.add_argument("program")
     parser.add_argument("--market-hours", action="store_true")
     parser.add_argument("--seed", type=int, default=1)
-    parser.add_argument("--steps", type=int, default=1000)
+    parser.add_argument("--steps", type=int, default=600)
     options = parser.parse_args()
     with tempfile.TemporaryDirectory() as folder:
         once, again = os.path.join(folder, "once"), os.path.join(folder, "again")
