@@ -7,9 +7,9 @@
 #include "trading/screens/TZBuyAndSellController.h"
 #include "trading/screens/TZSelectStockController.h"
 
-inline const QString buyPath = QStringLiteral("entrust/createBuy");
-inline const QString sellPath = QStringLiteral("entrust/createSell");
-inline const QString quotePath = QStringLiteral("timelyInfo/timelyOrderForm");
+inline const QString buyPath = "entrust/createBuy";
+inline const QString sellPath = "entrust/createSell";
+inline const QString quotePath = "timelyInfo/timelyOrderForm";
 
 inline TZStockInfoModel stock(const QString &code, const QString &name)
 {
@@ -23,6 +23,18 @@ inline QVariantMap quote(const QVariant &match, double best = 12.34)
         levels.append(
             QVariantMap{{"price", QString::number(best + i / 100.0, 'f', 2)}, {"volume", 100 * (i + 1)}});
     return succeeded(QVariantMap{{"match", match}, {"buyPankou", levels}, {"sellPankou", levels}});
+}
+
+inline QVariantMap placed(const QVariant &id)
+{
+    return succeeded(QVariantMap{{"id", id}});
+}
+
+inline QVariantMap refusedAs(const QVariant &code, const QString &message = {})
+{
+    QVariantMap answer = refused(message);
+    answer.insert("code", code);
+    return answer;
 }
 
 class HoldingsList : public QObject, public HoldingsDelegate {
@@ -40,25 +52,31 @@ class OrderEntryTest : public TradingFixture {
 protected:
     OrderEntryTest() { settings.setValue(SettingsKeys::needTradePwd, false); }
 
-    void openBuying(const QString &money = QStringLiteral("10000.00"))
+    void openBuying(const QString &money = "10000.00")
     {
         screen = push<TZBuyAndSellController>(OrderSide::Buy);
-        http.answer(QStringLiteral("buyPage"), succeeded(money));
+        http.answer("buyPage", succeeded(money));
     }
-    void openSelling(const QString &available = QStringLiteral("1237"))
+    void openSelling(const QString &available = "1237")
     {
         TZZorvanePageStocksModel holding;
-        holding.stockCode = QStringLiteral("600001");
-        holding.stockName = QStringLiteral("海天传媒");
+        holding.stockCode = "600001";
+        holding.stockName = "海天传媒";
         holding.availableShares = available;
         screen = push<TZBuyAndSellController>(OrderSide::Sell, holding, &holdings, &holdings);
-        http.answer(QStringLiteral("buyPage"), succeeded("10000.00"));
+        http.answer("buyPage", succeeded("10000.00"));
     }
     void enter(const QString &price, const QString &quantity)
     {
         screen->editPrice(price);
         runLoop.advance(100ms);
         screen->editQuantity(quantity);
+    }
+    /// Answers the quote that is asked for three seconds later.
+    void quoteNext(const QVariantMap &answer)
+    {
+        runLoop.advance(3s);
+        http.answer(quotePath, answer);
     }
     void openWithEntry()
     {
@@ -73,13 +91,6 @@ protected:
         runLoop.advance(500ms);
     }
     QString lastBanner() const { return banners().isEmpty() ? QString() : banners().constLast(); }
-    QStringList titles(TZHandicapView *view) const
-    {
-        QStringList all;
-        for (const HandicapRow &row : view->rows()->rows())
-            all.append(row.title);
-        return all;
-    }
 
     HoldingsList holdings;
     TZBuyAndSellController *screen = nullptr;

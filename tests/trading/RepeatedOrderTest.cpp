@@ -6,9 +6,7 @@ class RepeatedOrderTest : public UnknownOrderTest {};
 
 TEST_F(RepeatedOrderTest, TheFirstOfTwoLostOnesIsFoundWhenOnlyItStands)
 {
-    openWithEntry();
-    quoteAt(0);
-    lose();
+    openAndLose();
     http.fail(entrustsPath, HttpFailure::TimedOut);
     alert()->leftBtnClick();
     quoteAt(500);
@@ -41,9 +39,7 @@ TEST_F(RepeatedOrderTest, TheFirstOfTwoLostOnesIsFoundWhenOnlyItStands)
 
 TEST_F(RepeatedOrderTest, WhenBothStandBothAreNamed)
 {
-    openWithEntry();
-    quoteAt(0);
-    lose();
+    openAndLose();
     findNothing();
     alert()->leftBtnClick();
     submitAgain({});
@@ -64,9 +60,7 @@ TEST_F(RepeatedOrderTest, WhenBothStandBothAreNamed)
 
 TEST_F(RepeatedOrderTest, WhatArrivesLateIsFoundBeforeTheSecondGoesOutOrToldAfterIt)
 {
-    openWithEntry();
-    quoteAt(0);
-    lose();
+    openAndLose();
     findNothing();
     alert()->leftBtnClick();
     submitEntry();
@@ -81,7 +75,7 @@ TEST_F(RepeatedOrderTest, WhatArrivesLateIsFoundBeforeTheSecondGoesOutOrToldAfte
     findNothing({entrust("4", 25)});
     alert()->leftBtnClick();
     submitAgain({entrust("4", 25)});
-    http.answer(buyPath, succeeded(QVariantMap{{"id", "6"}}));
+    http.answer(buyPath, placed("6"));
     EXPECT_EQ(said(), "委托挂单成功");
     alert()->leftBtnClick();
     settle();
@@ -94,8 +88,7 @@ TEST_F(RepeatedOrderTest, WhatArrivesLateIsFoundBeforeTheSecondGoesOutOrToldAfte
 
 TEST_F(RepeatedOrderTest, TheQuestionSendsNothingWhenItsReadingIsClosed)
 {
-    openWithEntry();
-    lose();
+    openAndLose();
     findNothing();
     alert()->leftBtnClick();
     submitEntry();
@@ -112,8 +105,7 @@ TEST_F(RepeatedOrderTest, TheQuestionSendsNothingWhenItsReadingIsClosed)
 
 TEST_F(RepeatedOrderTest, TheSameOrderAsksForOneConfirmationAnotherOneDoesNot)
 {
-    openWithEntry();
-    lose();
+    openAndLose();
     findNothing();
     alert()->leftBtnClick();
 
@@ -135,7 +127,7 @@ TEST_F(RepeatedOrderTest, TheSameOrderAsksForOneConfirmationAnotherOneDoesNot)
     http.answer(buyPath, refused("资金不足"));
     submitAgain({});
     EXPECT_EQ(http.countOf(buyPath), 4) << "a refusal says nothing of the first one";
-    http.answer(buyPath, succeeded(QVariantMap{{"id", "5"}}));
+    http.answer(buyPath, placed("5"));
     EXPECT_EQ(said(), "委托挂单成功");
     alert()->cancel();
 
@@ -149,8 +141,7 @@ TEST_F(RepeatedOrderTest, TheSameOrderAsksForOneConfirmationAnotherOneDoesNot)
 
 TEST_F(RepeatedOrderTest, TheQuestionLeadsToTheSearchToo)
 {
-    openWithEntry();
-    lose();
+    openAndLose();
     alert()->cancel();
     submitEntry();
     EXPECT_EQ(said(), "确认再次提交");
@@ -187,7 +178,7 @@ TEST_F(RepeatedOrderTest, WhatMayBeItEndsNothingAndIsToldOnce)
     runLoop.advance(500ms);
     EXPECT_EQ(http.countOf(buyPath), 2);
 
-    http.answer(buyPath, succeeded(QVariantMap{{"id", "5"}}));
+    http.answer(buyPath, placed("5"));
     alert()->cancel();
     runLoop.advance(30s);
     answerEntrusts({entrust("5"), entrust("4")});

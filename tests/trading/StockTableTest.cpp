@@ -1,290 +1,225 @@
 #include "core/net/KRAFHTTPClient.h"
 #include "core/session/SettingsKeys.h"
 #include "core/util/Service.h"
+#include "tests/support/BrokenAnswers.h"
 #include "tests/trading/StockTableFixture.h"
 
+#include <QDir>
 #include <QFile>
 #include <sqlite3.h>
 
 namespace {
-using StockInfoToolTest = StockTableTest;
+class StockInfoToolTest : public StockTableTest {
+protected:
+    QString version() const { return settings.value(SettingsKeys::infoVersion).toString(); }
+    void setVersion(const QString &version) { settings.setValue(SettingsKeys::infoVersion, version); }
 
-QVariantMap newList(const QVariantList &rows, const QString &version = QStringLiteral("7"))
-{
-    return {{QStringLiteral("success"), false},
-            {QStringLiteral("code"), version},
-            {QStringLiteral("data"), rows}};
-}
+    /// The table as another program sees it.
+    struct Closing {
+        void operator()(sqlite3 *handle) const { sqlite3_close(handle); }
+    };
+    QString file() const { return application.documentsDirectory() + "/stock.sqlite"; }
+    std::unique_ptr<sqlite3, Closing> openOther() const
+    {
+        sqlite3 *handle = nullptr;
+        EXPECT_EQ(sqlite3_open(file().toUtf8().constData(), &handle), SQLITE_OK);
+        return std::unique_ptr<sqlite3, Closing>(handle);
+    }
+    static void run(const std::unique_ptr<sqlite3, Closing> &handle, const char *sql)
+    {
+        EXPECT_EQ(sqlite3_exec(handle.get(), sql, nullptr, nullptr, nullptr), SQLITE_OK);
+    }
 
-QVariantMap listed(const QString &c, const QString &n, const QString &s)
-{
-    return {{QStringLiteral("c"), c}, {QStringLiteral("n"), n}, {QStringLiteral("s"), s}};
-}
+    int calls = 0;
+    const Success counting{&overlays, [this](const Operation &, const QVariantMap &) { ++calls; }};
+};
 } // namespace
 
 TEST_F(StockInfoToolTest, ARefusalBringsTheNewListAndCallsNothing)
 {
-    int calls = 0;
-    QObject owner;
-    TZStockInfoTool::getStockInfoWithParam(
-        {{QStringLiteral("ignored"), 1}},
-        Success(&owner, [&](const Operation &, const QVariantMap &) { ++calls; }),
-        Failure(&owner, [&](const Operation &, const RequestError &) { ++calls; }));
-    EXPECT_EQ(http.last().request.url, QStringLiteral("https://service.test/info"));
+    const Failure failing{&overlays, [this](const Operation &, const RequestError &) { ++calls; }};
+    TZStockInfoTool::getStockInfoWithParam({{"ignored", 1}}, counting, failing);
+    EXPECT_EQ(http.last().request.url, "https://service.test/info");
     EXPECT_FALSE(overlays.isWaiting());
-
-    http.answer(
-        QStringLiteral("info"),
-        newList({listed(QStringLiteral("600123"), QStringLiteral("东方钢铁"), QStringLiteral("DFGT")),
-                 listed(QStringLiteral("000045"), QStringLiteral("南海医药"), QStringLiteral("NHYY"))}));
-    EXPECT_EQ(settings.value(SettingsKeys::infoVersion), QStringLiteral("7"));
+    const QVariant null = QVariant::fromValue(nullptr);
+    http.answer("info", newList(QVariantList{listed("600124", null, ""), listed(null, "西部水泥", "XBSN"),
+                                             QVariantMap(), "600125", QVariantList{1, 2}, null,
+                                             listed(600126, "西部水泥", "XBSN")}));
+    EXPECT_EQ(version(), "7");
     EXPECT_GT(settings.flushes, 0);
     waitUntilSaved();
-    EXPECT_EQ(codesOf(TZStockInfoTool::queryWithCondition({})),
-              (QStringList{QStringLiteral("600123"), QStringLiteral("000045")}));
+    EXPECT_EQ(codes(), (QStringList{"600124", "600126"})) << "a broken row does not cost the others";
     EXPECT_EQ(calls, 0);
     EXPECT_TRUE(banners().isEmpty());
 }
 
 TEST_F(StockInfoToolTest, AnAcceptedAnswerMeansThatNothingIsNewer)
 {
-    save({{QStringLiteral("600123"), QStringLiteral("东方钢铁"), QStringLiteral("DFGT")}});
-    settings.setValue(SettingsKeys::infoVersion, QStringLiteral("6"));
-    int calls = 0;
-    QObject owner;
-    TZStockInfoTool::getStockInfoWithParam(
-        {}, Success(&owner, [&](const Operation &, const QVariantMap &) { ++calls; }), {});
+    save({steel});
+    setVersion("6");
+    TZStockInfoTool::getStockInfoWithParam({}, counting, {});
     EXPECT_EQ(http.last().header("info_version"), "6");
     Service::showWaitingProgressView();
-    QVariantMap answer = newList({listed(QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"))});
-    answer.insert(QStringLiteral("success"), true);
-    http.answer(QStringLiteral("info"), answer);
-
+    QVariantMap answer = newList(medicine);
+    answer.insert("success", true);
+    http.answer("info", answer);
     EXPECT_EQ(calls, 1);
     EXPECT_FALSE(overlays.isWaiting());
     EXPECT_FALSE(TZStockInfoTool::isSaving());
-    EXPECT_EQ(settings.value(SettingsKeys::infoVersion), QStringLiteral("6"));
-    EXPECT_EQ(codesOf(TZStockInfoTool::queryWithCondition({})), QStringList{QStringLiteral("600123")});
+    EXPECT_EQ(version(), "6");
+    EXPECT_EQ(codes(), QStringList{"600123"});
 }
 
 TEST_F(StockInfoToolTest, ANewVersionWithoutAUsableListLeavesTheTable)
 {
-    save({{QStringLiteral("600123"), QStringLiteral("东方钢铁"), QStringLiteral("DFGT")}});
-    const QVariantList noLists{QVariant(), QVariant::fromValue(nullptr),
-                               QVariantMap{{QStringLiteral("c"), 1}}, QStringLiteral("x"), 5};
-    for (const QVariant &data : noLists) {
-        TZStockInfoTool::getStockInfoWithParam({}, {}, {});
-        QVariantMap answer{{QStringLiteral("success"), false}, {QStringLiteral("code"), QStringLiteral("8")}};
-        if (data.isValid())
-            answer.insert(QStringLiteral("data"), data);
-        http.answer(QStringLiteral("info"), answer);
-        EXPECT_FALSE(TZStockInfoTool::isSaving());
-        EXPECT_EQ(settings.value(SettingsKeys::infoVersion), QStringLiteral("8"));
-        EXPECT_EQ(TZStockInfoTool::queryWithCondition({}).size(), 1);
+    save({steel});
+    for (const QVariant &data : {QVariant(), QVariant::fromValue(nullptr), QVariant(QVariantMap{{"c", 1}}),
+                                 QVariant("x"), QVariant(5)}) {
+        fetch(newList(data, "8"));
+        EXPECT_EQ(version(), "8");
+        EXPECT_EQ(codes().size(), 1);
     }
-}
-
-TEST_F(StockInfoToolTest, ARefusalWithoutAVersionKeepsTheStoredOne)
-{
-    save({{QStringLiteral("600123"), QStringLiteral("东方钢铁"), QStringLiteral("DFGT")}});
-    settings.setValue(SettingsKeys::infoVersion, QStringLiteral("6"));
-    TZStockInfoTool::getStockInfoWithParam({}, {}, {});
-    http.answer(QStringLiteral("info"), refused(QStringLiteral("系统维护中")));
-    EXPECT_EQ(settings.value(SettingsKeys::infoVersion), QStringLiteral("6"));
+    fetch(refused("系统维护中"));
+    EXPECT_EQ(version(), "8") << "none has come";
     EXPECT_TRUE(banners().isEmpty());
 }
 
-TEST_F(StockInfoToolTest, ABrokenRowDoesNotCostTheOthers)
+TEST_F(StockInfoToolTest, NoBrokenAnswerCostsTheTableOrItsVersion)
 {
-    const auto row = [](const QVariant &c, const QVariant &n) {
-        return QVariantMap{{QStringLiteral("c"), c}, {QStringLiteral("n"), n}};
-    };
-    const QVariant null = QVariant::fromValue(nullptr);
-    TZStockInfoTool::getStockInfoWithParam({}, {}, {});
-    http.answer(QStringLiteral("info"),
-                newList({row(QStringLiteral("600124"), null), row(null, QStringLiteral("西部水泥")),
-                         QVariantMap(), QStringLiteral("600125"), QVariantList{1, 2}, null,
-                         row(QStringLiteral("600126"), QStringLiteral("西部水泥"))}));
-    waitUntilSaved();
-    EXPECT_EQ(codesOf(TZStockInfoTool::queryWithCondition({})),
-              QStringList({QStringLiteral("600124"), QStringLiteral("600126")}));
+    save({steel});
+    setVersion("6");
+    QList<HttpOutcome> outcomes;
+    for (const UnusableAnswer &answer : unusableAnswers())
+        outcomes.append(answer.outcome);
+    for (const QByteArray &body : misshapenSuccesses())
+        outcomes.append(HttpResponse{200, "application/json", body});
+    for (const HttpOutcome &outcome : outcomes) {
+        const auto *response = std::get_if<HttpResponse>(&outcome);
+        SCOPED_TRACE(response ? response->body.left(80).toStdString() : "no response");
+        int finished = 0;
+        const Operation request = TZStockInfoTool::getStockInfoWithParam({}, {}, {});
+        QObject::connect(request.get(), &RequestOperation::finished, &overlays, [&] { ++finished; });
+        http.answerRaw(http.last(), outcome);
+        waitUntilSaved();
+        EXPECT_EQ(finished, 1);
+        EXPECT_EQ(codes().size(), 1);
+        EXPECT_EQ(version(), "6");
+    }
 }
 
 TEST_F(StockInfoToolTest, AListThatCannotBeInsertedEmptiesTheTableAndIsAskedForAgain)
 {
-    save({{QStringLiteral("600123"), QString(), QStringLiteral("DFGT")}});
+    save({{"600123", QString(), "DFGT"}});
     EXPECT_TRUE(TZStockInfoTool::isTableEmpty());
-    settings.setValue(SettingsKeys::infoVersion, QStringLiteral("6"));
+    setVersion("6");
     TZStockInfoTool::getStockInfoWithParam({}, {}, {});
     EXPECT_EQ(http.last().header("info_version"), "")
         << "the version of a list that is not there would hide it for ever";
 }
 
-TEST_F(StockInfoToolTest, EmptyTextsAndNumbersAreSaved)
-{
-    TZStockInfoTool::getStockInfoWithParam({}, {}, {});
-    http.answer(QStringLiteral("info"),
-                newList({QVariantMap{{QStringLiteral("c"), 600123},
-                                     {QStringLiteral("n"), QStringLiteral("")},
-                                     {QStringLiteral("s"), QStringLiteral("DFGT")}}}));
-    waitUntilSaved();
-    EXPECT_EQ(codesOf(TZStockInfoTool::queryWithCondition(QStringLiteral("dfgt"))),
-              QStringList{QStringLiteral("600123")});
-}
-
 TEST_F(StockInfoToolTest, OfListsThatComeWhileOneIsBeingSavedTheLastOneStays)
 {
-    const auto listOf = [](const QString &prefix, int size) {
-        QList<TZStockInfoModel> stocks;
-        for (int i = 0; i < size; ++i)
-            stocks.append({prefix + QString::number(i), QStringLiteral("某某股份"), QStringLiteral("MMGF")});
-        return stocks;
-    };
-    TZStockInfoTool::saveStockInfo(listOf(QStringLiteral("a"), 6000));
-    TZStockInfoTool::saveStockInfo(listOf(QStringLiteral("b"), 3000));
-    TZStockInfoTool::saveStockInfo(listOf(QStringLiteral("c"), 10));
+    TZStockInfoTool::saveStockInfo(many(6000, "a"));
+    TZStockInfoTool::saveStockInfo(many(3000, "b"));
+    TZStockInfoTool::saveStockInfo(many(2, "c"));
     waitUntilSaved();
-    const QStringList codes = codesOf(TZStockInfoTool::queryWithCondition({}));
-    ASSERT_EQ(codes.size(), 10);
-    EXPECT_EQ(codes.first(), QStringLiteral("c0"));
-    EXPECT_EQ(codes.last(), QStringLiteral("c9"));
+    EXPECT_EQ(codes(), (QStringList{"c000", "c001"}));
 }
 
 TEST_F(StockInfoToolTest, FindsByAnyPartOfCodeNameOrInitials)
 {
-    save({{QStringLiteral("600123"), QStringLiteral("东方钢铁"), QStringLiteral("DFGT")},
-          {QStringLiteral("000600"), QStringLiteral("南海医药"), QStringLiteral("NHYY")},
-          {QStringLiteral("300001"), QStringLiteral("60米传媒"), QStringLiteral("LSMCM")},
-          {QStringLiteral("300002"), QStringLiteral("海天😀"), QStringLiteral("HT")}});
-    struct Case {
-        QString condition;
-        QStringList codes;
-    };
-    const QString all[] = {QStringLiteral("600123"), QStringLiteral("000600"), QStringLiteral("300001"),
-                           QStringLiteral("300002")};
-    const Case cases[] = {
-        {QString(), {all[0], all[1], all[2], all[3]}},
-        {QStringLiteral("60"), {all[0], all[1], all[2]}},
-        {QStringLiteral("海"), {all[1], all[3]}},
-        {QStringLiteral("nhyy"), {all[1]}},
-        {QStringLiteral("😀"), {all[3]}},
-        {QStringLiteral("zzzz"), {}},
-        {QStringLiteral("６０"), {}},
-        {QStringLiteral("%"), {all[0], all[1], all[2], all[3]}},
-        {QStringLiteral("6%3"), {all[0]}},
-        {QStringLiteral("南_医"), {all[1]}},
+    save({steel, medicine, {"300001", "60米传媒", "LSMCM"}, {"300002", "海天😀", "HT"}});
+    const QStringList all{"600123", "000600", "300001", "300002"};
+    const std::pair<QString, QStringList> cases[] = {
+        {"", all},
+        {"60", {"600123", "000600", "300001"}},
+        {"海", {"000600", "300002"}},
+        {"nhyy", {"000600"}},
+        {"😀", {"300002"}},
+        {"zzzz", {}},
+        {"６０", {}},
+        {"%", all},
+        {"6%3", {"600123"}},
+        {"南_医", {"000600"}},
         {QString(10000, u'6'), {}},
-        {QString(10000, u'%'), {all[0], all[1], all[2], all[3]}},
-        {QString(10000, u'海'), {}},
+        {QString(10000, u'%'), all},
+        // A quote finds nothing and changes nothing.
+        {"'", {}},
+        {"60'", {}},
+        {"x'; DELETE FROM t_stock;--", {}},
+        {"3'; DROP TABLE t_stock; SELECT '", {}},
+        {"'; ATTACH 'other.sqlite' AS other;--", {}},
+        {QString(QChar(0)) + u'\'', {}},
+        {QString(QChar(0)), {}},
     };
-    for (const Case &each : cases)
-        EXPECT_EQ(codesOf(TZStockInfoTool::queryWithCondition(each.condition)), each.codes)
-            << each.condition.left(20).toStdString();
-}
-
-TEST_F(StockInfoToolTest, AQuoteFindsNothingAndChangesNothing)
-{
-    save({{QStringLiteral("600123"), QStringLiteral("东方钢铁"), QStringLiteral("DFGT")},
-          {QStringLiteral("000600"), QStringLiteral("南海医药"), QStringLiteral("NHYY")}});
-    const QString conditions[] = {
-        QStringLiteral("'"),
-        QStringLiteral("60'"),
-        QStringLiteral("x'; DELETE FROM t_stock;--"),
-        QStringLiteral("3'; DELETE FROM t_stock;--"),
-        QStringLiteral("3'; DROP TABLE t_stock; SELECT '"),
-        QStringLiteral("'; ATTACH 'other.sqlite' AS other;--"),
-        QString(QChar(0)) + u'\'',
-        QString(QChar(0)),
-    };
-    for (const QString &condition : conditions)
-        EXPECT_TRUE(TZStockInfoTool::queryWithCondition(condition).isEmpty()) << condition.toStdString();
-    EXPECT_EQ(TZStockInfoTool::queryWithCondition({}).size(), 2);
+    for (const auto &[condition, found] : cases)
+        EXPECT_EQ(codesFoundBy(condition), found) << condition.left(20).toStdString();
+    EXPECT_EQ(codes(), all);
 }
 
 TEST_F(StockInfoToolTest, AFileThatIsNoDatabaseLeavesAnEmptySearch)
 {
-    const QString path = application.documentsDirectory() + QStringLiteral("/stock.sqlite");
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    QFile other(file());
+    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
     const QByteArray contents = QByteArray("not a database at all ").repeated(200);
-    file.write(contents);
-    file.close();
+    other.write(contents);
+    other.close();
 
     const QString problem = TZStockInfoTool::tableProblem();
-    EXPECT_TRUE(problem.contains(path) && !problem.contains(u'\n')) << problem.toStdString();
+    EXPECT_TRUE(problem.contains(file()) && !problem.contains(u'\n')) << problem.toStdString();
     EXPECT_TRUE(TZStockInfoTool::isTableEmpty());
-    TZStockInfoTool::saveStockInfo(
-        {{QStringLiteral("600123"), QStringLiteral("东方钢铁"), QStringLiteral("DFGT")}});
+    TZStockInfoTool::saveStockInfo({steel});
     EXPECT_FALSE(TZStockInfoTool::isSaving());
-    EXPECT_TRUE(TZStockInfoTool::queryWithCondition({}).isEmpty());
+    EXPECT_TRUE(codes().isEmpty());
     TZStockInfoTool::close();
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), contents) << "somebody's file is not overwritten";
+    ASSERT_TRUE(other.open(QIODevice::ReadOnly));
+    EXPECT_EQ(other.readAll(), contents) << "somebody's file is not overwritten";
 }
 
 TEST_F(StockInfoToolTest, AFolderThatCannotBeReadLeavesAnEmptySearch)
 {
-    QDir().mkpath(application.documentsDirectory() + QStringLiteral("/stock.sqlite"));
+    QDir().mkpath(file());
     EXPECT_FALSE(TZStockInfoTool::tableProblem().isEmpty());
-    EXPECT_TRUE(TZStockInfoTool::queryWithCondition(QStringLiteral("60")).isEmpty());
+    EXPECT_TRUE(codesFoundBy("60").isEmpty());
 }
 
 TEST_F(StockInfoToolTest, ALockHeldByAnotherProgramNeitherStallsNorLosesAList)
 {
-    save({{QStringLiteral("600123"), QStringLiteral("东方钢铁"), QStringLiteral("DFGT")}});
-    const QByteArray path = (application.documentsDirectory() + QStringLiteral("/stock.sqlite")).toUtf8();
-    sqlite3 *other = nullptr;
-    ASSERT_EQ(sqlite3_open(path.constData(), &other), SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
-
+    save({steel});
+    const auto other = openOther();
+    run(other, "BEGIN IMMEDIATE");
     QElapsedTimer clock;
     clock.start();
-    TZStockInfoTool::saveStockInfo(
-        {{QStringLiteral("000600"), QStringLiteral("南海医药"), QStringLiteral("NHYY")}});
+    TZStockInfoTool::saveStockInfo({medicine});
     runLoop.advance(std::chrono::seconds(2));
-    EXPECT_EQ(codesOf(TZStockInfoTool::queryWithCondition({})), QStringList{QStringLiteral("600123")});
+    EXPECT_EQ(codes(), QStringList{"600123"});
     EXPECT_TRUE(TZStockInfoTool::isSaving());
     EXPECT_LT(clock.elapsed(), 500);
 
-    sqlite3_exec(other, "COMMIT", nullptr, nullptr, nullptr);
-    sqlite3_close(other);
+    run(other, "COMMIT");
     runLoop.advance(std::chrono::seconds(1));
     waitUntilSaved();
-    EXPECT_EQ(codesOf(TZStockInfoTool::queryWithCondition({})), QStringList{QStringLiteral("000600")});
+    EXPECT_EQ(codes(), QStringList{"000600"});
 }
 
 TEST_F(StockInfoToolTest, AnOldListThatCouldNotBeReplacedIsNotTakenForTheNewOne)
 {
-    save({{QStringLiteral("600123"), QStringLiteral("东方钢铁"), QStringLiteral("DFGT")}});
-    const QByteArray path = (application.documentsDirectory() + QStringLiteral("/stock.sqlite")).toUtf8();
-    sqlite3 *other = nullptr;
-    ASSERT_EQ(sqlite3_open(path.constData(), &other), SQLITE_OK);
-    const char *const trigger =
-        "CREATE TRIGGER stays BEFORE DELETE ON t_stock BEGIN SELECT RAISE(ABORT, 'stays'); END";
-    ASSERT_EQ(sqlite3_exec(other, trigger, nullptr, nullptr, nullptr), SQLITE_OK);
-    sqlite3_close(other);
-
-    TZStockInfoTool::getStockInfoWithParam({}, {}, {});
-    http.answer(QStringLiteral("info"), newList({listed(QStringLiteral("000600"), QStringLiteral("南海医药"),
-                                                        QStringLiteral("NHYY"))}));
-    waitUntilSaved();
-    EXPECT_EQ(codesOf(TZStockInfoTool::queryWithCondition({})), QStringList{QStringLiteral("600123")});
-    EXPECT_FALSE(settings.value(SettingsKeys::infoVersion).isValid()) << "the next start asks for it again";
+    save({steel});
+    run(openOther(), "CREATE TRIGGER stays BEFORE DELETE ON t_stock BEGIN SELECT RAISE(ABORT, 'stays'); END");
+    fetch(newList(medicine));
+    EXPECT_EQ(codes(), QStringList{"600123"});
+    EXPECT_EQ(version(), "") << "the next start asks for it again";
 }
 
 TEST_F(StockInfoToolTest, TheTableIsTheOneThatWasAgreed)
 {
-    TZStockInfoTool::queryWithCondition({});
+    codes();
     TZStockInfoTool::close();
-    const QByteArray path = (application.documentsDirectory() + QStringLiteral("/stock.sqlite")).toUtf8();
-    sqlite3 *handle = nullptr;
-    ASSERT_EQ(sqlite3_open(path.constData(), &handle), SQLITE_OK);
     std::string schema;
     const auto collect = [](void *into, int, char **columns, char **) {
         *static_cast<std::string *>(into) += columns[0];
         return 0;
     };
-    sqlite3_exec(handle, "SELECT sql FROM sqlite_master", collect, &schema, nullptr);
-    sqlite3_close(handle);
+    sqlite3_exec(openOther().get(), "SELECT sql FROM sqlite_master", collect, &schema, nullptr);
     EXPECT_EQ(schema, "CREATE TABLE t_stock (c TEXT NOT NULL, n TEXT NOT NULL, s TEXT NOT NULL)");
 }

@@ -4,8 +4,8 @@
 #include "trading/screens/TZBuyAndSellController.h"
 
 namespace {
-const QString detailPath = QStringLiteral("stockDetailPage");
-const QString quotePath = QStringLiteral("timelyInfo/timelyOrderForm");
+const QString detailPath = "stockDetailPage";
+const QString quotePath = "timelyInfo/timelyOrderForm";
 constexpr qint64 halfPastNine = 1'795'224'600'000; // 2026-11-21 in Shanghai
 
 QVariantList side(double first, double step)
@@ -30,28 +30,23 @@ QVariantMap quoteAt(const QString &match, qint64 time = halfPastNine)
 QVariantMap detailAt(const QString &match)
 {
     QVariantMap data = quoteAt(match);
-    data.insert({{"open", "10.05"},
-                 {"high", "10.20"},
-                 {"low", "9.90"},
-                 {"volume", "1234500"},
+    const QVariantMap prices{{"open", "10.05"}, {"high", "10.20"}, {"low", "9.90"}};
+    const QVariantMap minute{{"time", halfPastNine}, {"price", match}, {"average", match}, {"volume", "100"}};
+    QVariantMap day{{"day", "20261121"}, {"close", match}};
+    day.insert(prices);
+    data.insert(prices);
+    data.insert({{"volume", "1234500"},
                  {"turnover", "12345000.00"},
-                 {"minutes", QVariantList{QVariantMap{{"time", QString::number(halfPastNine)},
-                                                      {"price", match},
-                                                      {"average", match},
-                                                      {"volume", "100"}}}},
-                 {"candles", QVariantList{QVariantMap{{"day", "20261121"},
-                                                      {"open", "10.05"},
-                                                      {"high", "10.20"},
-                                                      {"low", "9.90"},
-                                                      {"close", match}}}}});
+                 {"minutes", QVariantList{minute}},
+                 {"candles", QVariantList{day}}});
     return data;
 }
 
 TZZorvanePageStocksModel stock(const QString &shares = {})
 {
     TZZorvanePageStocksModel model;
-    model.stockCode = QStringLiteral("600001");
-    model.stockName = QStringLiteral("海天传媒");
+    model.stockCode = "600001";
+    model.stockName = "海天传媒";
     model.shares = shares;
     model.availableShares = shares;
     return model;
@@ -76,8 +71,8 @@ protected:
 TEST_F(StockDetailTest, ShowsADayAndFollowsItsQuotes)
 {
     TZStockDetailController *const page = open();
-    EXPECT_EQ(page->price(), "--");
-    EXPECT_EQ(page->notice(), "正在获取行情");
+    EXPECT_EQ(page->price() + page->notice(), "--正在获取行情");
+    EXPECT_EQ(http.pending(detailPath).fields().value("stockCode"), "600001");
     http.answer(detailPath, succeeded(detailAt("10.10")));
     EXPECT_EQ(page->notice(), "");
     EXPECT_EQ(page->price(), "10.10");
@@ -135,8 +130,8 @@ TEST_F(StockDetailTest, ChartsThatCouldNotBeHadAreReadAgain)
 {
     TZStockDetailController *const page = open();
     http.fail(detailPath, HttpFailure::TimedOut);
-    EXPECT_TRUE(page->canRetry());
     EXPECT_EQ(page->notice(), "加载失败");
+    EXPECT_TRUE(page->canRetry());
     page->noNet()->clickReloadBtn();
     EXPECT_FALSE(page->canRetry());
     http.answer(detailPath, succeeded(detailAt("10.10")));
@@ -217,7 +212,7 @@ TEST_F(StockDetailTest, TheHoldingIsReadEachTimeThePageAppears)
     };
     const auto answer = [&](const QString &code, const QString &shares, const QVariant &available = "100") {
         const QVariantList stocks{holding("1", "9", "9"), holding(code, shares, available)};
-        http.answer(QStringLiteral("zorvanePage"), succeeded(QVariantMap{{"stocks", stocks}}));
+        http.answer("zorvanePage", succeeded(QVariantMap{{"stocks", stocks}}));
     };
     answer("600001", "500");
     ASSERT_EQ(page->holdingFigures()->count(), 4);
@@ -228,6 +223,10 @@ TEST_F(StockDetailTest, TheHoldingIsReadEachTimeThePageAppears)
     ASSERT_NE(entry, nullptr);
     EXPECT_EQ(entry->totalCount(), 100);
     EXPECT_EQ(entry->stockText(), "海天传媒(600001)");
+    stack().pop();
+    page->buy();
+    EXPECT_EQ(top<TZBuyAndSellController>()->stockText(), "海天传媒(600001)");
+    EXPECT_EQ(top<TZBuyAndSellController>()->zorvanePageStocksModel().availableShares, "");
     stack().pop();
     answer("600001", "500", "<null>");
     EXPECT_EQ(page->holdingFigures()->at(0).value, "500");

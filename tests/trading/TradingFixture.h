@@ -36,6 +36,9 @@ protected:
     }
     template <typename Screen> Screen *top() { return dynamic_cast<Screen *>(stack().top()); }
 
+    /// Covers the screen until what it returns is dismissed.
+    KRNavigationController *cover() { return window.present(std::make_unique<KRBaseController>()); }
+
     template <typename Dialog> Dialog *dialog()
     {
         return window.dialogs()->count() == 0 ? nullptr : dynamic_cast<Dialog *>(window.dialogs()->at(0));

@@ -3,7 +3,7 @@
 #include "tests/trading/OrderEntryFixture.h"
 #include "trading/screens/UnknownOrders.h"
 
-inline const QString entrustsPath = QStringLiteral("entrustsToday");
+inline const QString entrustsPath = "entrustsToday";
 
 /// Milliseconds on the service's clock, which is not the device's.
 inline qint64 seconds(int count)
@@ -45,6 +45,11 @@ protected:
         submitEntry();
         http.answerRaw(http.pending(buyPath), outcome);
     }
+    void openAndLose()
+    {
+        openWithEntry();
+        lose();
+    }
     void loseNext()
     {
         enter("12.34", "800");
@@ -66,6 +71,11 @@ protected:
         answerPage(entrusts);
         if (!entrusts.isEmpty() && http.hasPending(entrustsPath))
             answerPage({});
+    }
+    void leave()
+    {
+        stack().pop();
+        settle();
     }
     void findNothing(const QVariantList &entrusts = {})
     {

@@ -4,9 +4,7 @@
 
 TEST_F(UnknownOrderTest, IsSaidAndLookedForAndFoundWithItsStatus)
 {
-    openWithEntry();
-    quoteAt(0);
-    lose();
+    openAndLose();
     EXPECT_EQ(lastBanner(), "加载失败");
     EXPECT_EQ(said(), "委托结果未知");
     EXPECT_TRUE(says("买入 海天传媒(600001)\n12.34元 × 800股"));
@@ -73,8 +71,7 @@ TEST_F(UnknownOrderTest, OnlyAnOutcomeThatProvesNothingIsUnknown)
 
 TEST_F(UnknownOrderTest, IsLookedForAgainBeforeItIsSaidNotToBeThere)
 {
-    openWithEntry();
-    lose();
+    openAndLose();
     answerPage({with(entrust("3"), "entrustShares", "100")});
     EXPECT_EQ(http.pending(entrustsPath).fields(), (QVariantMap{{"page", "1"}}));
     answerPage({});
@@ -182,7 +179,7 @@ TEST_F(UnknownOrderTest, AnOrderOfTheSameKindThatStoodBeforeIsNotTakenForIt)
     // One that was answered, one that was found, one in the list of today that was read, one older by time.
     openWithEntry();
     submitEntry();
-    http.answer(buyPath, succeeded(QVariantMap{{"id", 1}}));
+    http.answer(buyPath, placed(1));
     alert()->cancel();
     loseNext();
     answerEntrusts({entrust("2"), entrust("1")});
@@ -203,8 +200,7 @@ TEST_F(UnknownOrderTest, AnOrderOfTheSameKindThatStoodBeforeIsNotTakenForIt)
 
 TEST_F(UnknownOrderTest, EntrustsThatCannotBeReadAreSaidAndReadAgainOnDemand)
 {
-    openWithEntry();
-    lose();
+    openAndLose();
     http.fail(entrustsPath, HttpFailure::TimedOut);
     EXPECT_TRUE(says("没有读到今日委托"));
     const QList<QVariantMap> garbage{
@@ -243,8 +239,7 @@ TEST_F(UnknownOrderTest, IsReadQuietlyWhenOrderEntryOpensAfterAKill)
 {
     openWithEntry();
     submitEntry();
-    stack().pop();
-    settle();
+    leave();
     runLoop.advance(1min);
     http.fail(entrustsPath, HttpFailure::TimedOut);
     openBuying();
@@ -274,8 +269,7 @@ TEST_F(UnknownOrderTest, TheQuietReadingDisturbsNobody)
 {
     openWithEntry();
     submitEntry();
-    stack().pop();
-    settle();
+    leave();
     runLoop.advance(1min);
     Service::showWaitingProgressView();
     FakeTransport::Sent &reading = http.pending(entrustsPath);
@@ -296,9 +290,7 @@ TEST_F(UnknownOrderTest, TheQuietReadingDisturbsNobody)
 
 TEST_F(UnknownOrderTest, ARefusedEntrustKeepsTheEntryAndWhatIsLeftOutIsNotSaid)
 {
-    openWithEntry();
-    quoteAt(0);
-    lose();
+    openAndLose();
     answerEntrusts({with(with(entrust("4"), "status", "9"), "errorMsg", "价格超出涨跌停")});
     EXPECT_TRUE(says("废单"));
     EXPECT_TRUE(says("价格超出涨跌停"));
@@ -331,8 +323,7 @@ TEST_F(UnknownOrderTest, IsRememberedBeyondItsScreenUntilItsUserSignsOutOrTheDay
     openWithEntry();
     submitEntry();
     FakeTransport::Sent &lost = http.last();
-    stack().pop();
-    settle();
+    leave();
     EXPECT_TRUE(asks());
     runLoop.advance(24h);
     http.answerRaw(lost, HttpFailure::TimedOut);
@@ -345,8 +336,7 @@ TEST_F(UnknownOrderTest, IsRememberedBeyondItsScreenUntilItsUserSignsOutOrTheDay
     settings.setValue(SettingsKeys::user, QVariantMap{{"api_token", "other"}, {"cell", "13900139000"}});
     EXPECT_FALSE(asks());
     settings.setValue(SettingsKeys::user, user);
-    openWithEntry();
-    lose();
+    openAndLose();
     alert()->cancel();
     stack().pop();
     EXPECT_TRUE(asks());
@@ -371,7 +361,7 @@ TEST_F(UnknownOrderTest, AnOutcomeAfterAMessageLedAwayFromItsScreenIsToldAndReco
     };
     const QString order = "买入 海天传媒(600001)\n12.34元 × 800股";
     const Case cases[] = {
-        {succeeded(QVariantMap{{"id", "1"}}), "委托挂单成功", order, false, 0},
+        {placed("1"), "委托挂单成功", order, false, 0},
         {succeeded(), "", "", false, 1},
         {refused("资金不足"), "委托未成功", order + "\n\n资金不足", true, 0},
         {with(refused(""), "code", "12000"), "委托未成功", order + "\n\n请重新提交", true, 0},
@@ -382,7 +372,7 @@ TEST_F(UnknownOrderTest, AnOutcomeAfterAMessageLedAwayFromItsScreenIsToldAndReco
         openWithEntry();
         screen->submit();
         typePassword("123456");
-        KRNavigationController *const message = window.present(std::make_unique<KRBaseController>());
+        KRNavigationController *const message = cover();
         window.sideMenu()->setContent(
             std::make_unique<KRNavigationController>(std::make_unique<KRBaseController>()));
         message->dismiss();
@@ -403,10 +393,8 @@ TEST_F(UnknownOrderTest, AnOutcomeAfterAMessageLedAwayFromItsScreenIsToldAndReco
 
 TEST_F(UnknownOrderTest, TheFindingIsSaidWhenTheScreenIsGoneAndNotToAnotherUser)
 {
-    openWithEntry();
-    lose();
-    stack().pop();
-    settle();
+    openAndLose();
+    leave();
     answerEntrusts({entrust("4")});
     EXPECT_EQ(said(), "已找到这笔委托");
     EXPECT_EQ(alert()->leftTitle(), "");
