@@ -80,15 +80,6 @@ void Books::record(Millis time, const Event &event)
     std::visit([&](const auto &happened) { apply(time, happened); }, event);
 }
 
-void Books::replay(Database &from)
-{
-    Statement events(from, "SELECT time, kind, payload FROM event ORDER BY seq");
-    Transaction transaction(m_database);
-    while (events.step())
-        record(events.integer(0), readEvent(events.text(1), events.text(2)));
-    transaction.commit();
-}
-
 void Books::apply(Millis time, const AccountOpened &event)
 {
     Statement(m_database, "INSERT INTO account VALUES (?, 0, 0, 0, ?)").bind(event.user, time).run();

@@ -74,9 +74,6 @@ public:
     std::optional<std::int64_t> setting(const std::string &key);
     void setSetting(const std::string &key, std::int64_t value);
 
-    /** Recomputes these books, which must be empty, from another database's events. */
-    void replay(Database &from);
-
 private:
     void apply(Millis time, const AccountOpened &event);
     void apply(Millis time, const CashMoved &event);

@@ -1,9 +1,7 @@
 #include "ledger/Events.h"
 
+#include <iterator>
 #include <nlohmann/json.hpp>
-#include <optional>
-#include <stdexcept>
-#include <utility>
 
 namespace sandbox {
 
@@ -31,16 +29,6 @@ constexpr const char *kKinds[] = {"AccountOpened", "CashMoved",   "SharesGranted
                                   "DayBegan",      "PriceMoved",  "ClockSet"};
 static_assert(std::size(kKinds) == std::variant_size_v<Event>);
 
-template <std::size_t Index = 0> Event readAs(std::size_t wanted, const nlohmann::json &payload)
-{
-    if constexpr (Index < std::variant_size_v<Event>) {
-        if (Index == wanted)
-            return payload.get<std::variant_alternative_t<Index, Event>>();
-        return readAs<Index + 1>(wanted, payload);
-    }
-    throw std::runtime_error("unknown kind of event");
-}
-
 } // namespace
 
 std::string eventKind(const Event &event)
@@ -51,18 +39,6 @@ std::string eventKind(const Event &event)
 std::string eventPayload(const Event &event)
 {
     return std::visit([](const auto &happened) { return nlohmann::json(happened).dump(); }, event);
-}
-
-Event readEvent(std::string_view kind, std::string_view payload)
-{
-    std::size_t index = 0;
-    while (index < std::size(kKinds) && kind != kKinds[index])
-        ++index;
-    try {
-        return readAs(index, nlohmann::json::parse(payload));
-    } catch (const nlohmann::json::exception &error) {
-        throw std::runtime_error("event " + std::string(kind) + ": " + error.what());
-    }
 }
 
 } // namespace sandbox

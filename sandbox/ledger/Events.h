@@ -124,8 +124,5 @@ using Event = std::variant<AccountOpened, CashMoved, SharesGranted, OrderTaken, 
 
 std::string eventKind(const Event &event);
 std::string eventPayload(const Event &event);
-/** The event that was written so. Throws std::runtime_error for an unknown kind or a payload that lacks a
- * member. */
-Event readEvent(std::string_view kind, std::string_view payload);
 
 } // namespace sandbox

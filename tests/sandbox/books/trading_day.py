@@ -74,7 +74,7 @@ class Day:
         self.demo = Trader(sandbox, sandbox.sign_in("13800138000"))
         self.rich = self.newcomer("13912345678")
         self.poor = self.newcomer("13912345679")
-        sandbox.console("deposit", user=2, amount="60000000")
+        sandbox.console("deposit", user=2, amount="600000000")
         held = {h["stockCode"][:2]: h["stockCode"] for h in sandbox.get("holding", self.demo.token)["data"]}
         self.main, self.sealed, self.chinext, self.star = (held[board] for board in ("60", "00", "30", "68"))
 
@@ -119,18 +119,11 @@ class Day:
         self.lunch()
         self.closing_auction()
         self.next_day()
+        self.users_among_themselves()
 
     def before_the_auction(self):
         self.demo.refused("Buy", self.main, "x", 150, CLOSED)
         assert self.quote(self.main)["match"] == "", "no price before the first trade"
-        stocks = {row["c"]: row["n"] for row in self.sandbox.get("info")["data"]}
-        treated = {next(c for c, n in stocks.items() if n.startswith("ST") and c[:2] == board)
-                   for board in ("60", "00", "30", "68")}
-        for stock in {self.main, self.chinext, self.star} | treated:
-            percent = 10 if stock[0] in "0" or stock[:2] == "60" else 20
-            close = self.price(stock, "previousClose")
-            assert self.price(stock, "upperLimit") == half_up(close * (100 + percent), 100), stock
-            assert self.price(stock, "lowerLimit") == half_up(close * (100 - percent), 100), stock
 
     def opening_auction(self):
         self.sandbox.console("seal", stockCode=self.sealed, seal="up")
@@ -148,6 +141,8 @@ class Day:
         eager = [trader.place("Buy", self.main, upper, shares) for trader, shares in wants]
         modest = self.demo.place("Buy", self.main, lower, 100)
 
+        self.at("9:19:59")
+        assert self.rich.cancel(self.rich.place("Buy", self.main, lower, 100))["success"]
         self.at("9:20")
         assert "9:20至9:25" in self.demo.cancel(modest)["message"]
         late = self.demo.place("Buy", self.main, upper, 100)
@@ -242,6 +237,9 @@ class Day:
         assert self.level(self.main, "sell") == levels[2], "what was taken stays taken, over a restart too"
         money = sum(p * s for p, s, _ in deals)
         assert tuple(map(sum, zip(*(f for *_, f in deals)))) == fees(recompute.BUY, money), "fees of the whole order"
+        assert self.rich.cancel(taken)["success"] and self.rich.status(taken) == recompute.CANCEL_ASKED_PARTLY
+        self.at("10:00:02")
+        assert self.rich.status(taken) == recompute.PARTLY_CANCELLED
 
     def cancels(self):
         bid = self.level(self.star, "buy", 9)[0]
@@ -257,20 +255,18 @@ class Day:
         self.sandbox.console("seal", stockCode=self.star, seal="up")
         upper = self.price(self.star, "upperLimit")
         assert self.level(self.star, "sell") == (0, 0) and self.level(self.star, "buy")[0] == upper
-        first, second = (self.rich.place("Buy", self.star, upper, 5_000) for _ in range(2))
-        filled = [int(self.rich.entrust(number)["businessShares"]) for number in (first, second)]
-        assert filled == [0, 0], "the queue is served first"
-        self.at("10:30")
-        filled = [int(self.rich.entrust(number)["businessShares"]) for number in (first, second)]
-        assert filled[0] == 5_000 or filled[1] == 0, "then who came first"
         before, withdrawable = self.demo.money()[0], self.demo.withdrawable()
         sold = self.demo.place("Sell", self.star, upper, 600)
         assert self.demo.status(sold) == recompute.FILLED, "there are buyers enough"
         assert self.demo.money()[0] == before + upper * 600 - sum(fees(recompute.SELL, upper * 600))
         assert self.demo.withdrawable() == withdrawable, "what a sale brought is withdrawn tomorrow"
         self.sandbox.console("seal", stockCode=self.star, seal="none")
+        assert self.level(self.star, "sell") != (0, 0)
 
     def lunch(self):
+        self.at("11:29:59")
+        taken = self.demo.place("Buy", self.main, self.level(self.main, "sell", 2)[0], 100)
+        assert self.demo.status(taken) == recompute.FILLED
         self.at("11:30")
         book = self.quote(self.main) | {"time": ""}
         held = self.demo.place("Buy", self.main, self.level(self.main, "sell", 2)[0], 100)
@@ -285,6 +281,8 @@ class Day:
                              if stock["c"].startswith("60") and 980 < self.price(stock["c"], "previousClose") < 1020
                              and self.level(stock["c"], "sell") != (0, 0))
         self.rich.place("Buy", self.ten_yuan, self.level(self.ten_yuan, "sell", 3)[0], 1000)
+        self.at("14:56:59")
+        assert self.demo.cancel(self.demo.place("Buy", self.main, self.price(self.main, "lowerLimit"), 100))["success"]
         self.at("14:57")
         eager = self.demo.place("Buy", self.main, self.price(self.main, "upperLimit"), 100)
         self.expiring = self.demo.place("Buy", self.main, self.price(self.main, "lowerLimit"), 100)
@@ -320,6 +318,21 @@ class Day:
         self.sandbox.console("price", stockCode=self.ten_yuan, price="10.05")
         assert {p for p, *_ in self.rich.deals(sold)} == {1000} and self.rich.status(sold) == recompute.FILLED
         assert self.rich.money()[0] - before == 9_989_90, "10,000.00 less 5.00, 5.00 and 0.10"
+
+    def users_among_themselves(self):
+        """By price, then time, behind what is displayed, at the price of who was there first."""
+        (ask, displayed), (dearer, _) = (self.level(self.main, "sell", line) for line in range(2))
+        second, third = (trader.place("Sell", self.main, ask, 500) for trader in (self.demo, self.rich))
+        dear = self.demo.place("Sell", self.main, dearer, 400)
+        assert self.level(self.main, "sell") == (ask, displayed + 1000), "the book shows them"
+        self.sandbox.console("deposit", user=3, amount="600000000")
+        taken = self.poor.place("Buy", self.main, ask, displayed + 600)
+        assert self.poor.status(taken) == recompute.FILLED and {p for p, *_ in self.poor.deals(taken)} == {ask}
+        filled = [int(trader.entrust(number)["businessShares"])
+                  for trader, number in ((self.demo, second), (self.rich, third), (self.demo, dear))]
+        assert filled == [500, 100, 0] and self.level(self.main, "sell") == (ask, 400)
+        taken = self.poor.place("Buy", self.main, dearer, 400)
+        assert [(p, s) for p, s, _ in self.poor.deals(taken)] == [(ask, 400)], "the better price first"
 
 
 def main(program):

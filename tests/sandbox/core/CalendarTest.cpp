@@ -1,6 +1,6 @@
 #include "market/Calendar.h"
 
-#include "TradingFixture.h"
+#include "Shanghai.h"
 #include "market/Clock.h"
 
 #include <gtest/gtest.h>
@@ -17,23 +17,6 @@ TEST(Calendar, MarketHoursKnowWeekendsAndHolidays)
     EXPECT_EQ(dayOf(20'370), dayOf(20'361) + 1) << "9 October 2025 is the next trading day";
     EXPECT_EQ(dayOf(20'777 + 1), dayOf(20'777)) << "a Saturday belongs to its Friday";
     EXPECT_EQ(calendar.phase(shanghai(20'778, 10, 0)), Phase::Closed);
-}
-
-TEST(Calendar, PhasesFollowEachOtherThroughTheDay)
-{
-    const Calendar calendar(true);
-    struct Case {
-        int hour, minute;
-        Phase phase;
-    };
-    const Case cases[] = {
-        {9, 14, Phase::Closed},        {9, 15, Phase::OpeningAuction},   {9, 20, Phase::OpeningLocked},
-        {9, 24, Phase::OpeningLocked}, {9, 25, Phase::BeforeContinuous}, {9, 30, Phase::Continuous},
-        {11, 29, Phase::Continuous},   {11, 30, Phase::Lunch},           {13, 0, Phase::Continuous},
-        {14, 56, Phase::Continuous},   {14, 57, Phase::ClosingAuction},  {15, 0, Phase::Closed},
-    };
-    for (const Case &c : cases)
-        EXPECT_EQ(calendar.phase(shanghai(kTuesday, c.hour, c.minute)), c.phase) << c.hour << ":" << c.minute;
 }
 
 TEST(Calendar, EveryMomentIsFoundAgainByItsTime)

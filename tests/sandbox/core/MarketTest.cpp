@@ -1,6 +1,6 @@
 #include "market/Market.h"
 
-#include "TradingFixture.h"
+#include "Shanghai.h"
 
 #include <algorithm>
 #include <functional>
@@ -108,29 +108,6 @@ TEST(Market, DetailAddsUp)
     EXPECT_EQ(detail.candles.back(), detail.today);
     EXPECT_EQ(detail.candles[59].close, detail.quote.previousClose);
     EXPECT_LT(detail.candles[59].day, detail.today.day);
-}
-
-TEST(Market, AHandOnThePriceLastsToTheEndOfItsDayAndTheNextGoesOnFromThere)
-{
-    Market market(kSeed, false);
-    const Stock &stock = market.stocks().all()[10];
-    const Millis noon = shanghai(kTuesday, 12, 0);
-    const int day = market.calendar().dayOf(noon);
-    const int moment = market.calendar().momentOf(day, noon);
-    const Cents before = market.spot(stock, noon - kMomentLength).price;
-    const Cents plainClose = market.prices().frame(stock, day + 1).previousClose;
-    const PriceLimits limits = market.frame(stock, noon).limits;
-
-    market.prices().add({stock.code, day, moment, PriceMove::Kind::SealUp, 0});
-    EXPECT_EQ(market.spot(stock, noon - kMomentLength).price, before) << "the past stays";
-    EXPECT_EQ(market.spot(stock, noon).price, limits.upper);
-    const Quote sealed = market.quote(stock, noon, {});
-    EXPECT_EQ(sealed.asks[0], Level{});
-    EXPECT_EQ(sealed.bids[0].price, limits.upper);
-    EXPECT_EQ(market.prices().frame(stock, day + 1).previousClose, limits.upper);
-
-    market.prices().add({stock.code, day, moment + 100, PriceMove::Kind::Release, 0});
-    EXPECT_EQ(market.prices().frame(stock, day + 1).previousClose, plainClose);
 }
 
 } // namespace

@@ -1,6 +1,5 @@
-#include "tls/Certificates.h"
-
 #include "TemporaryFolder.h"
+#include "tls/Certificates.h"
 
 #include <fstream>
 #include <gtest/gtest.h>

@@ -46,6 +46,11 @@ class CommandLineTest(unittest.TestCase):
                 with open(sandbox.database, "rb") as file:
                     self.assertTrue(file.read() == damaged)
 
+    def test_data_of_another_seed_or_of_other_hours_are_refused(self):
+        self.start().stop()
+        for other in (["--seed", "2"], ["--market-hours"]):
+            self.assertIn("the database was made with", self.complaint(self.data + other))
+
     def test_a_used_port_and_a_used_folder_are_told_apart(self):
         port = self.start().port
         self.assertIn("another sandbox", self.complaint(self.data))

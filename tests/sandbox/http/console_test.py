@@ -33,6 +33,8 @@ class ConsoleTest(WireTest):
         before = self.sandbox.now()
         self.assertIn("frozen", self.submit("clock", action="minute"))
         self.assertEqual(self.sandbox.now(), before + 60_000)
+        self.sandbox.restart()
+        self.assertEqual(self.sandbox.now(), before + 60_000)
         self.submit("deposit", user=1, amount="1234.56")
         self.assertEqual(self.cash(), "201234.56")
         unread = self.data("msg/count")

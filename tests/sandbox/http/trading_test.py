@@ -1,8 +1,12 @@
 """Who may trade: the trade password of a session, and everybody's orders his own."""
+import http.client
 import json
+import signal
+import threading
 import unittest
 
-from wire import NEWCOMER, WireTest
+from wire import DEMO, NEWCOMER, WireTest
+import recompute
 
 
 class TradingTest(WireTest):
@@ -15,7 +19,7 @@ class TradingTest(WireTest):
         self.assertEqual(self.data("callBackPage"), [])
         for password in ({"tradePassword": "123456"}, {}):
             self.assertTrue(json.loads(self.buy(**password).body)["success"])
-        first, self.token = self.token, self.sandbox.sign_in("13800138000")
+        first, self.token = self.token, self.sandbox.sign_in(DEMO)
         self.assertEqual(self.code(), "12000")
         self.token = first
         self.sandbox.restart()
@@ -42,6 +46,42 @@ class TradingTest(WireTest):
                              ("queryWithDrawStatus", {"id": order["id"]}), ("queryEntrustNo", {"id": order["id"]})):
             self.assertFalse(self.sandbox.post("entrust/" + path, stranger, **fields)["success"], path)
         self.assertEqual(len(self.data("callBackPage")), 1)
+
+    def expect_sound_books(self):
+        self.assertEqual(recompute.read(self.sandbox.database).compare(self.sandbox.state()), [])
+
+    def test_a_killed_service_has_lost_nothing_that_it_answered(self):
+        answered = set()
+        for moment in range(10):
+            threading.Timer(0.05 + 0.007 * moment, self.sandbox.process.kill).start()
+            try:
+                while True:
+                    order = json.loads(self.buy(tradePassword="123456").body)["data"]
+                    answered.add(order["id"])
+                    self.post("entrust/createCancel", tradeEntrustNo=order["entrustNo"])
+                    self.sandbox.console("reject", entrustNo=order["entrustNo"])
+            except (OSError, http.client.HTTPException):
+                self.sandbox.restart(signal.SIGKILL)
+            self.assertLessEqual(answered, {order["id"] for order in self.sandbox.state()["users"][0]["orders"]})
+            self.expect_sound_books()
+        self.assertGreater(len(answered), 20)
+
+    def test_many_callers_at_once_lose_no_order(self):
+        def trade(caller):
+            for _ in range(40):
+                order = json.loads(self.buy("match", caller, tradePassword="123456").body)["data"]
+                caller.post("entrust/createCancel", self.token, tradeEntrustNo=order["entrustNo"])
+                caller.console("clock", action="second")
+            caller.hang_up()
+
+        self.sandbox.console("deposit", user=1, amount="10000000")
+        crowd = [threading.Thread(target=trade, args=[self.sandbox.another()]) for _ in range(4)]
+        for caller in crowd:
+            caller.start()
+        for caller in crowd:
+            caller.join()
+        self.assertEqual(len(self.sandbox.state()["users"][0]["orders"]), 160)
+        self.expect_sound_books()
 
 
 if __name__ == "__main__":

@@ -20,6 +20,7 @@ class WireTest(unittest.TestCase):
         self.addCleanup(self.sandbox.stop)
         self.sandbox.freeze()
         self.token = self.sandbox.sign_in(DEMO)
+        self.stock = self.data("holding")[0]["stockCode"]
 
     def get(self, path, **fields):
         return self.sandbox.get(path, self.token, **fields)
@@ -30,10 +31,10 @@ class WireTest(unittest.TestCase):
     def post(self, path, /, **fields):
         return self.sandbox.post(path, self.token, **fields)
 
-    def buy(self, price="lowerLimit", **more):
+    def buy(self, price="lowerLimit", caller=None, **more):
         """Buys a stock that the demo user holds, at one of its quote's prices; at the lowest it rests."""
-        stock = self.data("holding")[0]["stockCode"]
-        quote = self.data("timelyInfo/timelyOrderForm", stockCode=stock)
-        return self.sandbox.request("POST", "entrust/createBuy",
-                                    {"stockCode": stock, "entrustPrice": quote[price], "entrustShares": 100} | more,
-                                    self.token)
+        caller = caller or self.sandbox
+        quote = caller.get("timelyInfo/timelyOrderForm", stockCode=self.stock)["data"]
+        return caller.request("POST", "entrust/createBuy",
+                              {"stockCode": self.stock, "entrustPrice": quote[price], "entrustShares": 100} | more,
+                              self.token)
