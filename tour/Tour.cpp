@@ -49,8 +49,9 @@ bool Tour::walk()
     const QList<Step> all = steps();
     for (int number = 1; number <= all.size(); ++number) {
         const Step &step = all.at(number - 1);
-        const bool done = step.act();
+        const bool acted = step.act();
         Hand::wait([] { return false; }, 300ms);
+        const bool done = acted && !hand.sees(QStringLiteral("重新加载"));
         const QString file = QStringLiteral("%1-%2.png")
                                  .arg(number, 2, 10, QLatin1Char('0'))
                                  .arg(QString(step.name).replace(u' ', u'-').remove(u','));

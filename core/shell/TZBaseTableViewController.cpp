@@ -48,7 +48,7 @@ void TZBaseTableViewController::refreshUntilAnswered(const Operation &operation)
         if (read == latestRead)
             readEnded();
     });
-    guard.startOnce(15s, [this] { readEnded(); });
+    endRefreshingAfter(15s);
 }
 
 void TZBaseTableViewController::readEnded()
@@ -66,7 +66,7 @@ void TZBaseTableViewController::endRefreshing()
 
 void TZBaseTableViewController::endRefreshingAfter(std::chrono::seconds delay)
 {
-    guard.startOnce(delay, [this] { endRefreshing(); });
+    guard.startOnce(delay, [this] { readEnded(); });
 }
 
 void TZBaseTableViewController::setNoData(bool noData)

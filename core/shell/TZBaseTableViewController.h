@@ -50,7 +50,8 @@ protected:
     void endRefreshing();
     /// Ends what is still running then, so that a lost answer never leaves a spinner on.
     void endRefreshingAfter(std::chrono::seconds delay);
-    /// Called with every list that comes, whether it has no rows.
+    /// Called with every list that comes, whether it has no rows. A screen that has something to show whatever
+    /// comes says so once, with false.
     void setNoData(bool noData);
 
 private:

@@ -39,6 +39,7 @@ void TZHomeViewController::viewDidLoad()
     setTitle(QStringLiteral("首页"));
     setTitleImage(QStringLiteral("home_nav"));
     showMessageButton(noMessage);
+    setNoData(false);
     Platform::current().notifications.observe(this, NotificationNames::refreshHome,
                                               [this](const QVariant &) { refreshHomeData(); });
     connect(&amountsSwitch, &AmountsSwitch::changed, this, &TZHomeViewController::showHeader);

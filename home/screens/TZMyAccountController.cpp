@@ -31,6 +31,7 @@ void TZMyAccountController::viewDidLoad()
     changeGrayBgColor();
     setTitle(QStringLiteral("我的账户"));
     createNavLeftItemWithTitle({}, QStringLiteral("home_left"), {}, QStringLiteral("icon_more"));
+    setNoData(false);
     showAssets();
     connect(&amountsSwitch, &AmountsSwitch::changed, this, &TZMyAccountController::showAssets);
     NotificationCenter &notifications = Platform::current().notifications;

@@ -59,6 +59,7 @@ TEST_F(AccountTest, ItShowsTheFiguresAsTheServiceWritesThemAndReadsThemAgainWhen
     EXPECT_TRUE(http.hasPending(QStringLiteral("userIndex")));
     http.answer(QStringLiteral("userIndex"), refused(QString()));
     EXPECT_EQ(values().constFirst(), QStringLiteral("可用余额1000.5"));
+    EXPECT_FALSE(account->failed()) << "the page has always something to show";
 }
 
 TEST_F(AccountTest, ANicknameThatIsSavedAfterItsScreenWasLeftIsShown)

@@ -169,6 +169,7 @@ TEST_F(HomePageTest, SignedInItShowsTheAssetsAndTheUnreadMessages)
     EXPECT_EQ(header.midProfit, QStringLiteral("88.50元"));
     EXPECT_EQ(header.midRate, QStringLiteral("1.234%"));
     EXPECT_TRUE(header.statusTitle.isEmpty());
+    EXPECT_FALSE(home->failed());
     http.answer(count, succeeded(2));
     EXPECT_EQ(home->rightItemImage(), QStringLiteral("message"));
     EXPECT_EQ(home->leftItemImage(), QStringLiteral("home_left"));
@@ -279,6 +280,7 @@ TEST_F(HomePageTest, APullThatIsNeverAnsweredEndsAfterFifteenSeconds)
     home->beginRefreshing();
     http.answer(userIndex, refused(QString()));
     EXPECT_FALSE(home->refreshing()) << "a refusal ends it too";
+    EXPECT_FALSE(home->failed()) << "the page has always something to show";
 }
 
 TEST_F(HomePageTest, EachWayInAsksForASignInFirstAndThenGoesOn)
