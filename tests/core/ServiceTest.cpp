@@ -30,38 +30,28 @@ TEST(Validators, MatchTheWholeText)
     const Case cases[] = {
         {"phone",
          Service::determineThePhoneNumberFormat,
-         {QStringLiteral("13812345678"), QStringLiteral("14512345678"), QStringLiteral("14712345678"),
-          QStringLiteral("15912345678"), QStringLiteral("17012345678"), QStringLiteral("17612345678"),
-          QStringLiteral("17812345678"), QStringLiteral("18012345678")},
-         {QString(), QStringLiteral("1381234567"), QStringLiteral("138123456789"),
-          QStringLiteral("14612345678"), QStringLiteral("17112345678"), QStringLiteral("16612345678"),
-          QStringLiteral("19912345678"), QStringLiteral("23812345678"), QStringLiteral("13812345678\n"),
-          QStringLiteral(" 13812345678"), QStringLiteral("+8613812345678"), QStringLiteral("1381234567８")}},
+         {"13812345678", "14512345678", "14712345678", "15912345678", "17012345678", "17612345678",
+          "17812345678", "18012345678"},
+         {QString(), "1381234567", "138123456789", "14612345678", "17112345678", "16612345678", "19912345678",
+          "23812345678", "13812345678\n", " 13812345678", "+8613812345678", "1381234567８"}},
         {"captcha",
          Service::isRightFormatPhoneCaptcha,
-         {digits(6), QStringLiteral("000000")},
-         {QString(), digits(5), digits(7), QStringLiteral("12345a"), digits(6) + u'\n',
-          QStringLiteral("12 456")}},
+         {digits(6), "000000"},
+         {QString(), digits(5), digits(7), "12345a", digits(6) + u'\n', "12 456"}},
         {"card",
          Service::judgmentBankcardFormat,
          {digits(16), digits(17), digits(19)},
-         {QString(), digits(15), digits(20), QStringLiteral("6222 0212 3456 7890"), digits(16) + u'\n',
-          u'x' + digits(16)}},
+         {QString(), digits(15), digits(20), "6222 0212 3456 7890", digits(16) + u'\n', u'x' + digits(16)}},
         {"branch",
          Service::judgmentBankBranchFormat,
-         {ideographs(2), ideographs(20), QStringLiteral("一龥")},
-         {QString(), ideographs(1), ideographs(21), QStringLiteral("张a"), QStringLiteral("张 三"),
-          ideographs(2) + u'\n'}},
-        {"name",
-         Service::determineNameFormat,
-         {QStringLiteral("张三"), QStringLiteral("欧阳娜娜")},
-         {QStringLiteral("张"), QStringLiteral("阿·凡提"), QStringLiteral("Li"), QString()}},
+         {ideographs(2), ideographs(20), "一龥"},
+         {QString(), ideographs(1), ideographs(21), "张a", "张 三", ideographs(2) + u'\n'}},
+        {"name", Service::determineNameFormat, {"张三", "欧阳娜娜"}, {"张", "阿·凡提", "Li", QString()}},
         {"identity",
          Service::determineIdentityFormat,
          {digits(15), digits(18), digits(17) + u'X', digits(17) + u'x'},
-         {QString(), digits(14), digits(16), digits(17), digits(19), digits(16) + QStringLiteral("X1"),
-          digits(14) + u'X', digits(17) + u'Y', digits(15) + u'\n', digits(18) + u'\n',
-          digits(15) + u'\n' + digits(18)}},
+         {QString(), digits(14), digits(16), digits(17), digits(19), digits(16) + "X1", digits(14) + u'X',
+          digits(17) + u'Y', digits(15) + u'\n', digits(18) + u'\n', digits(15) + u'\n' + digits(18)}},
     };
     for (const Case &c : cases) {
         for (const QString &text : c.right)
@@ -107,32 +97,29 @@ TEST(Masking, HidesWhatIsPersonal)
 
 TEST(Emptiness, HasOneTest)
 {
-    for (const QVariant &empty : {QVariant(), null, QVariant(QString()), QVariant(QStringLiteral(" \t　")),
-                                  QVariant(QStringLiteral("<null>")), QVariant(QStringLiteral("(null)"))})
+    for (const QVariant &empty :
+         {QVariant(), null, QVariant(QString()), QVariant(" \t　"), QVariant("<null>"), QVariant("(null)")})
         EXPECT_TRUE(Service::whetherAnEmptyString(empty));
-    for (const QVariant &full :
-         {QVariant(0), QVariant(false), QVariant(QStringLiteral("\n")), QVariant(QStringLiteral(" (null)")),
-          QVariant(QStringLiteral("null")), QVariant(QVariantMap()), QVariant(QVariantList())})
+    for (const QVariant &full : {QVariant(0), QVariant(false), QVariant("\n"), QVariant(" (null)"),
+                                 QVariant("null"), QVariant(QVariantMap()), QVariant(QVariantList())})
         EXPECT_FALSE(Service::whetherAnEmptyString(full)) << full.toString().toStdString();
 }
 
 TEST(Emptiness, NullsOfDictionariesBecomeTextsThoseOfListsStay)
 {
-    const QString nullText = QStringLiteral("<null>");
-    const QVariantMap dirty{
-        {QStringLiteral("a"), null},
-        {QStringLiteral("b"), nullText},
-        {QStringLiteral("c"), QStringLiteral("(null)")},
-        {QStringLiteral("d"), QVariantList{null, nullText, QVariantMap{{QStringLiteral("e"), null}}}},
-        {QStringLiteral("f"), QVariantMap{{QStringLiteral("g"), null}, {QStringLiteral("h"), 7}}}};
+    const QString nullText = "<null>";
+    const QVariantMap dirty{{"a", null},
+                            {"b", nullText},
+                            {"c", "(null)"},
+                            {"d", QVariantList{null, nullText, QVariantMap{{"e", null}}}},
+                            {"f", QVariantMap{{"g", null}, {"h", 7}}}};
     const QVariantMap before = dirty;
-    const QString empty = QStringLiteral("");
-    const QVariantMap clean{
-        {QStringLiteral("a"), empty},
-        {QStringLiteral("b"), empty},
-        {QStringLiteral("c"), QStringLiteral("(null)")},
-        {QStringLiteral("d"), QVariantList{null, nullText, QVariantMap{{QStringLiteral("e"), empty}}}},
-        {QStringLiteral("f"), QVariantMap{{QStringLiteral("g"), empty}, {QStringLiteral("h"), 7}}}};
+    const QString empty = "";
+    const QVariantMap clean{{"a", empty},
+                            {"b", empty},
+                            {"c", "(null)"},
+                            {"d", QVariantList{null, nullText, QVariantMap{{"e", empty}}}},
+                            {"f", QVariantMap{{"g", empty}, {"h", 7}}}};
     EXPECT_EQ(Service::processDictionaryIsNSNull(dirty).toMap(), clean);
     EXPECT_EQ(dirty, before);
     EXPECT_EQ(Service::processDictionaryIsNSNull(nullText), QVariant(nullText));
@@ -155,62 +142,32 @@ TEST(Numbers, ShowLargeSumsInTenThousands)
     EXPECT_TRUE(Service::isMultipleOfOneThousand(1000));
     for (const qint64 number : {0, -1000, 100, 1500})
         EXPECT_FALSE(Service::isMultipleOfOneThousand(number)) << number;
-    EXPECT_EQ(Service::monthLengthForString(QStringLiteral("12个月")), 2);
+    EXPECT_EQ(Service::monthLengthForString("12个月"), 2);
     EXPECT_EQ(Service::monthLengthForString(QString()), 1);
-    EXPECT_EQ(Service::monthLengthForString(QStringLiteral("12月")), Service::notFound);
-    EXPECT_EQ(Service::getMd5_32Bit_String(QStringLiteral("实盘")),
-              QStringLiteral("ee5a6d372a0f6fff94a98d5142cfe9e6"));
+    EXPECT_EQ(Service::monthLengthForString("12月"), Service::notFound);
+    EXPECT_EQ(Service::getMd5_32Bit_String("实盘"), "ee5a6d372a0f6fff94a98d5142cfe9e6");
 }
 
 TEST(Stamps, AreShownInTheZoneOfTheDevice)
 {
-    const QVariant stamp = QStringLiteral("1700000000999");
-    EXPECT_EQ(Service::formatTimeStamp(stamp), QStringLiteral("06:13:20"));
-    EXPECT_EQ(Service::formatDateStamp(1700000000000LL), QStringLiteral("2023-11-15 06:13"));
-    EXPECT_EQ(Service::formatDayStamp(1700000000000.0), QStringLiteral("2023-11-15"));
+    const QVariant stamp = "1700000000999";
+    EXPECT_EQ(Service::formatTimeStamp(stamp), "06:13:20");
+    EXPECT_EQ(Service::formatDateStamp(1700000000000LL), "2023-11-15 06:13");
+    EXPECT_EQ(Service::formatDayStamp(1700000000000.0), "2023-11-15");
 
     const QByteArray zone = qgetenv("TZ");
     qputenv("TZ", "America/New_York");
     tzset();
-    EXPECT_EQ(Service::formatDateStamp(stamp), QStringLiteral("2023-11-14 17:13"));
+    EXPECT_EQ(Service::formatDateStamp(stamp), "2023-11-14 17:13");
     qputenv("TZ", zone);
     tzset();
 
-    EXPECT_EQ(Service::formatDayStamp(QString()), QStringLiteral("1970-01-01"));
-    EXPECT_EQ(Service::formatDayStamp(1e300), QStringLiteral("9999-12-31"));
+    EXPECT_EQ(Service::formatDayStamp(QString()), "1970-01-01");
+    EXPECT_EQ(Service::formatDayStamp(1e300), "9999-12-31");
     Service::formatDayStamp(-1e300);
 }
 
 class ServiceTest : public PlatformTest {};
-
-TEST_F(ServiceTest, ShowsAnErrorAtOnceAndASuccessHalfASecondLater)
-{
-    Service::showErrorWithMsg(QStringLiteral("first"));
-    Service::showSuccessWithMsg(QStringLiteral("second"));
-    EXPECT_EQ(banners(), QStringList()) << "what was shown goes first";
-    runLoop.advance(499ms);
-    EXPECT_EQ(banners(), QStringList());
-    runLoop.advance(1ms);
-    EXPECT_EQ(banners(), QStringList({QStringLiteral("second")}));
-    EXPECT_TRUE(overlays.banners()->at(0).success);
-    Service::showLoadFailView();
-    EXPECT_EQ(banners(), QStringList({QStringLiteral("加载失败")}));
-    EXPECT_FALSE(overlays.banners()->at(0).success);
-    Service::showNotReachableView();
-    EXPECT_EQ(banners(), QStringList({QStringLiteral("网络异常")}));
-    Service::hideAlertView();
-    EXPECT_EQ(banners(), QStringList());
-}
-
-TEST_F(ServiceTest, HasOneWaitingIndicator)
-{
-    Service::hideWaitingProgressView();
-    Service::showWaitingProgressView();
-    Service::showWaitingProgressView();
-    EXPECT_EQ(overlays.waitingStatus(), QStringLiteral("加载中..."));
-    Service::hideWaitingProgressView();
-    EXPECT_FALSE(overlays.isWaiting());
-}
 
 TEST_F(ServiceTest, KnowsTheNetworkFromTheStore)
 {
@@ -218,7 +175,7 @@ TEST_F(ServiceTest, KnowsTheNetworkFromTheStore)
     EXPECT_EQ(banners(), QStringList());
     settings.setValue(SettingsKeys::networkStatus, false);
     EXPECT_FALSE(Service::isConnectionAvailable());
-    EXPECT_EQ(banners(), QStringList({QStringLiteral("网络异常")}));
+    EXPECT_EQ(banners(), QStringList({"网络异常"}));
     settings.remove(SettingsKeys::networkStatus);
     EXPECT_FALSE(Service::isConnectionAvailable());
 }
@@ -226,22 +183,21 @@ TEST_F(ServiceTest, KnowsTheNetworkFromTheStore)
 TEST_F(ServiceTest, IsSignedInByThePresenceOfATokenAlone)
 {
     EXPECT_FALSE(Service::isLogin());
-    settings.setValue(SettingsKeys::user, QVariantMap{{QStringLiteral("cell"), QStringLiteral("1")}});
+    settings.setValue(SettingsKeys::user, QVariantMap{{"cell", "1"}});
     EXPECT_FALSE(Service::isLogin());
-    settings.setValue(SettingsKeys::user, QVariantMap{{QStringLiteral("api_token"), QStringLiteral("")}});
+    settings.setValue(SettingsKeys::user, QVariantMap{{"api_token", ""}});
     EXPECT_TRUE(Service::isLogin());
-    settings.setValue(SettingsKeys::user, QStringLiteral("junk"));
+    settings.setValue(SettingsKeys::user, "junk");
     EXPECT_FALSE(Service::isLogin());
 }
 
 TEST_F(ServiceTest, SigningOutWipesEverythingButTheDevicesOwnFlags)
 {
-    const QStringList kept{QStringLiteral("CFBundleVersion"), QStringLiteral("firstEnterCommissions"),
-                           QStringLiteral("isFirstSeeMyCapital"), QStringLiteral("isFirstSeeSpeedCapital"),
-                           QStringLiteral("networkStatus")};
+    const QStringList kept{"CFBundleVersion", "firstEnterCommissions", "isFirstSeeMyCapital",
+                           "isFirstSeeSpeedCapital", "networkStatus"};
     signIn();
     for (const QString &key : kept)
-        settings.setValue(key, QStringLiteral("kept"));
+        settings.setValue(key, "kept");
     for (const char *key : {"info_version", "commission", "Holding", "somebody's", "isFirstLogin"})
         settings.setValue(QLatin1String(key), 1);
     settings.setValue(SettingsKeys::needTradePwd, false);
@@ -256,7 +212,7 @@ TEST_F(ServiceTest, SigningOutWipesEverythingButTheDevicesOwnFlags)
     EXPECT_EQ(left, kept);
     EXPECT_EQ(settings.value(SettingsKeys::needTradePwd), QVariant(true));
     EXPECT_EQ(settings.flushes, 1);
-    EXPECT_EQ(kits.calls, QStringList({QStringLiteral("setAlias off_line api_token")}));
+    EXPECT_EQ(kits.calls, QStringList({"setAlias off_line api_token"}));
     EXPECT_EQ(http.count(), 0);
     EXPECT_EQ(posted, 0);
 }

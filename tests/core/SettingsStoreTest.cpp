@@ -21,8 +21,8 @@ QVariantMap answerOf(qint64 round)
 {
     QVariantList rows;
     for (int i = 0; i < 200; ++i)
-        rows.append(QVariantMap{{QStringLiteral("row"), i}, {QStringLiteral("round"), round}});
-    return {{QStringLiteral("data"), rows}, {QStringLiteral("round"), round}};
+        rows.append(QVariantMap{{"row", i}, {"round", round}});
+    return {{"data", rows}, {"round", round}};
 }
 
 void waitFor(
@@ -36,9 +36,9 @@ void waitFor(
 TEST(SettingsWriter, DISABLED_WritesUntilItIsKilled)
 {
     QtSettingsStore store(qEnvironmentVariable(writerFile));
-    for (qint64 round = store.value(QStringLiteral("round")).toLongLong() + 1;; ++round) {
-        store.setValue(QStringLiteral("answer"), answerOf(round));
-        store.setValue(QStringLiteral("round"), round);
+    for (qint64 round = store.value("round").toLongLong() + 1;; ++round) {
+        store.setValue("answer", answerOf(round));
+        store.setValue("round", round);
         store.synchronize();
         std::printf("%lld\n", round);
         std::fflush(stdout);
@@ -48,7 +48,7 @@ TEST(SettingsWriter, DISABLED_WritesUntilItIsKilled)
 TEST(SettingsStore, IsWholeAfterAKillAtAnyMoment)
 {
     const QTemporaryDir directory;
-    const QString path = directory.filePath(QStringLiteral("zorvane.settings"));
+    const QString path = directory.filePath("zorvane.settings");
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QLatin1String(writerFile), path);
     qint64 told = 0;
@@ -56,8 +56,7 @@ TEST(SettingsStore, IsWholeAfterAKillAtAnyMoment)
         QProcess writer;
         writer.setProcessEnvironment(environment);
         writer.start(QCoreApplication::applicationFilePath(),
-                     {QStringLiteral("--gtest_filter=SettingsWriter.*"),
-                      QStringLiteral("--gtest_also_run_disabled_tests")});
+                     {"--gtest_filter=SettingsWriter.*", "--gtest_also_run_disabled_tests"});
         QByteArray output;
         while (output.count('\n') < 8 && writer.waitForReadyRead(10'000))
             output += writer.readAll();
@@ -71,14 +70,13 @@ TEST(SettingsStore, IsWholeAfterAKillAtAnyMoment)
 
         const QtSettingsStore store(path);
         ASSERT_EQ(store.problem(), SettingsProblem::None) << "kill " << kill;
-        const qint64 round = store.value(QStringLiteral("round")).toLongLong();
+        const qint64 round = store.value("round").toLongLong();
         ASSERT_GE(round, told) << "what was flushed is there";
-        ASSERT_EQ(store.value(QStringLiteral("answer")).toMap(), answerOf(round))
-            << "both keys are of one flush";
+        ASSERT_EQ(store.value("answer").toMap(), answerOf(round)) << "both keys are of one flush";
         ASSERT_EQ(QFileInfo(path).permissions() & (QFile::ReadGroup | QFile::ReadOther),
                   QFile::Permissions());
         EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files),
-                  QStringList({QStringLiteral("zorvane.settings"), QStringLiteral("zorvane.settings.lock")}));
+                  QStringList({"zorvane.settings", "zorvane.settings.lock"}));
         told = round;
     }
 }
@@ -86,31 +84,31 @@ TEST(SettingsStore, IsWholeAfterAKillAtAnyMoment)
 TEST(SettingsStore, SavesByItselfWithinAboutASecondAndNotWithoutAChange)
 {
     const QTemporaryDir directory;
-    const QString path = directory.filePath(QStringLiteral("zorvane.settings"));
-    const QString aside = path + QStringLiteral("-aside");
+    const QString path = directory.filePath("zorvane.settings");
+    const QString aside = path + "-aside";
     {
         QtSettingsStore store(path);
-        store.setValue(QStringLiteral("networkStatus"), true);
+        store.setValue("networkStatus", true);
         waitFor(5s, [&path] { return QFileInfo(path).size() > 0; });
         ASSERT_TRUE(QFile::rename(path, aside));
-        store.setValue(QStringLiteral("networkStatus"), true);
-        store.remove(QStringLiteral("absent"));
+        store.setValue("networkStatus", true);
+        store.remove("absent");
         store.synchronize();
         EXPECT_FALSE(QFile::exists(path));
     }
     ASSERT_TRUE(QFile::rename(aside, path));
-    EXPECT_EQ(QtSettingsStore(path).allKeys(), QStringList({QStringLiteral("networkStatus")}));
+    EXPECT_EQ(QtSettingsStore(path).allKeys(), QStringList({"networkStatus"}));
 }
 
 TEST(SettingsStore, WritesWhatCouldNotBeWrittenAsSoonAsItCanBe)
 {
     const QTemporaryDir directory;
-    const QString folder = directory.filePath(QStringLiteral("data"));
-    const QString away = directory.filePath(QStringLiteral("away"));
-    const QString path = folder + QStringLiteral("/zorvane.settings");
+    const QString folder = directory.filePath("data");
+    const QString away = directory.filePath("away");
+    const QString path = folder + "/zorvane.settings";
     QtSettingsStore store(path);
     ASSERT_TRUE(QDir().rename(folder, away));
-    store.setValue(QStringLiteral("user"), QStringLiteral("somebody"));
+    store.setValue("user", "somebody");
     store.synchronize();
     ASSERT_FALSE(QFile::exists(path));
     waitFor(1500ms);
@@ -123,61 +121,59 @@ TEST(SettingsStore, WritesWhatCouldNotBeWrittenAsSoonAsItCanBe)
 TEST(SettingsStore, AFileHasOneStoreAtATime)
 {
     const QTemporaryDir directory;
-    const QString path = directory.filePath(QStringLiteral("zorvane.settings"));
-    const QString user = QStringLiteral("user");
+    const QString path = directory.filePath("zorvane.settings");
+    const QString user = "user";
     {
         QtSettingsStore first(path);
-        first.setValue(user, QStringLiteral("somebody"));
+        first.setValue(user, "somebody");
         first.synchronize();
         QtSettingsStore second(path);
         EXPECT_EQ(second.problem(), SettingsProblem::InUse);
-        second.setValue(user, QStringLiteral("somebody else"));
+        second.setValue(user, "somebody else");
         second.synchronize();
     }
     const QtSettingsStore next(path);
     EXPECT_EQ(next.problem(), SettingsProblem::None);
-    EXPECT_EQ(next.value(user), QStringLiteral("somebody"));
+    EXPECT_EQ(next.value(user), "somebody");
 }
 
 TEST(SettingsStore, BringsValuesBackAsTheyWereSet)
 {
     const QTemporaryDir directory;
-    const QString path = directory.filePath(QStringLiteral("deep/er/zorvane.settings"));
-    QVariant nested = QStringLiteral("bottom");
+    const QString path = directory.filePath("deep/er/zorvane.settings");
+    QVariant nested = "bottom";
     for (int depth = 0; depth < 1023; ++depth)
         nested = QVariantList{nested};
     const QVariantMap values{
-        {QStringLiteral("text"), QStringLiteral("中文 \"a=b;c\\\" 😀\n")},
-        {QStringLiteral("empty"), QStringLiteral("")},
-        {QStringLiteral("yes"), true},
-        {QStringLiteral("no"), false},
-        {QStringLiteral("number"), 12.5},
-        {QStringLiteral("one row"),
-         QVariantList{QVariantMap{{QStringLiteral("c"), QStringLiteral("600000")}}}},
-        {QStringLiteral("nulls"), QVariantList{QVariant::fromValue(nullptr), 1}},
-        {QStringLiteral("deep"), nested},
-        {QStringLiteral("dictionary"),
-         QVariantMap{{QStringLiteral("data"), QVariantMap{{QStringLiteral(""), 1}}}}},
+        {"text", "中文 \"a=b;c\\\" 😀\n"},
+        {"empty", ""},
+        {"yes", true},
+        {"no", false},
+        {"number", 12.5},
+        {"one row", QVariantList{QVariantMap{{"c", "600000"}}}},
+        {"nulls", QVariantList{QVariant::fromValue(nullptr), 1}},
+        {"deep", nested},
+        {"dictionary", QVariantMap{{"data", QVariantMap{{"", 1}}}}},
     };
     {
         QtSettingsStore store(path);
         ASSERT_EQ(store.problem(), SettingsProblem::None);
         for (auto entry = values.cbegin(); entry != values.cend(); ++entry)
             store.setValue(entry.key(), entry.value());
-        store.setValue(QStringLiteral("removed"), 1);
-        store.remove(QStringLiteral("removed"));
+        store.setValue("removed", 1);
+        store.remove("removed");
         store.synchronize();
         EXPECT_EQ(store.problem(), SettingsProblem::None);
     }
     const QtSettingsStore store(path);
     EXPECT_EQ(store.allKeys(), values.keys());
-    EXPECT_FALSE(store.value(QStringLiteral("removed")).isValid());
+    EXPECT_FALSE(store.value("removed").isValid());
     for (auto entry = values.cbegin(); entry != values.cend(); ++entry) {
         EXPECT_EQ(store.value(entry.key()), entry.value()) << entry.key().toStdString();
         EXPECT_EQ(store.value(entry.key()).typeId(), entry.value().typeId()) << entry.key().toStdString();
     }
-    EXPECT_EQ(QFileInfo(path).permissions() & QFile::Permissions(0x0fff),
-              QFile::Permissions(QFile::ReadUser | QFile::WriteUser));
+    const QFile::Permissions ours = QFile::ReadUser | QFile::WriteUser;
+    EXPECT_EQ(QFileInfo(path).permissions() & QFile::Permissions(0x0fff), ours);
     EXPECT_EQ(QFileInfo(QFileInfo(path).path()).permissions() & QFile::Permissions(0x00ff),
               QFile::Permissions());
 }
@@ -185,21 +181,20 @@ TEST(SettingsStore, BringsValuesBackAsTheyWereSet)
 TEST(SettingsStore, TightensAFileThatOthersCouldRead)
 {
     const QTemporaryDir directory;
-    const QString path = directory.filePath(QStringLiteral("zorvane.settings"));
-    QFile file(path);
+    QFile file(directory.filePath("zorvane.settings"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
-    const QtSettingsStore store(path);
-    EXPECT_EQ(QFileInfo(path).permissions() & QFile::Permissions(0x00ff), QFile::Permissions());
+    const QtSettingsStore store(file.fileName());
+    EXPECT_EQ(file.permissions() & QFile::Permissions(0x00ff), QFile::Permissions());
 }
 
 TEST(SettingsStore, TellsWhatIsWrongWithItsFileAndLeavesItAlone)
 {
     const QTemporaryDir directory;
-    const QString path = directory.filePath(QStringLiteral("zorvane.settings"));
+    const QString path = directory.filePath("zorvane.settings");
     {
         QtSettingsStore store(path);
-        store.setValue(QStringLiteral("user"), QStringLiteral("somebody"));
+        store.setValue("user", "somebody");
     }
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
@@ -216,7 +211,7 @@ TEST(SettingsStore, TellsWhatIsWrongWithItsFileAndLeavesItAlone)
         file.close();
     }
 
-    const QString underFile = path + QStringLiteral("/below/zorvane.settings");
+    const QString underFile = path + "/below/zorvane.settings";
     EXPECT_NE(QtSettingsStore(underFile).problem(), SettingsProblem::None);
 }
 

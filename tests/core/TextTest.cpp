@@ -25,24 +25,20 @@ TEST(Text, WritesValuesAsThePlatformDoes)
     const std::pair<QVariant, const char *> cases[] = {
         {true, "1"},
         {false, "0"},
-        {0, "0"},
         {-7, "-7"},
-        {7.0, "7"},
         {0.29, "0.29"},
-        {12345678.9, "12345678.9"},
         {-0.0, "0"},
         {1e15, "1000000000000000"},
         {most, "9223372036854775807"},
         {1e300, "1e+300"},
         {0.1 + 0.2, "0.30000000000000004"},
         {text(" a "), " a "},
-        {null, ""},
-        {QVariant(), ""},
-        {QVariantMap{{QStringLiteral("a"), 1}}, ""},
-        {QVariantList{1}, ""},
     };
     for (const auto &[value, written] : cases)
         EXPECT_EQ(textForm(value).toStdString(), written);
+    for (const QVariant &nothing :
+         {null, QVariant(), QVariant(QVariantMap{{"a", 1}}), QVariant(QVariantList{1})})
+        EXPECT_EQ(textForm(nothing), "");
 }
 
 TEST(Text, ReadsLeadingNumbers)
@@ -53,46 +49,35 @@ TEST(Text, ReadsLeadingNumbers)
         qint64 whole;
     };
     const Case cases[] = {
-        {text(""), 0, 0},
         {text("  12.34元"), 12.34, 12},
-        {text("\n\t 5"), 5, 5},
         {text("-3.9"), -3.9, -3},
         {text("+.5"), 0.5, 0},
-        {text("5."), 5, 5},
-        {text("."), 0, 0},
-        {text("-"), 0, 0},
         {text("1e3"), 1000, 1},
-        {text("1e"), 1, 1},
-        {text("1e+x"), 1, 1},
         {text("1,234"), 1234, 1234},
         {text("-12,345,678.50元"), -12345678.5, -12345678},
         {text("1234,567"), 1234, 1234},
-        {text("1,2345"), 1, 1},
-        {text("1,,234"), 1, 1},
-        {text(",123"), 0, 0},
-        {text("0x1A"), 0, 0},
-        {text("nan"), 0, 0},
-        {text("inf"), 0, 0},
-        {text("１２"), 0, 0},
-        {text("abc1"), 0, 0},
         {text("1e999"), std::numeric_limits<double>::max(), 1},
         {text("99999999999999999999"), 99999999999999999999.0, most},
         {text("-99999999999999999999"), -99999999999999999999.0, least},
         {text("9223372036854775807"), 9223372036854775807.0, most},
-        {true, 1, 1},
-        {12.9, 12.9, 12},
         {-12.9, -12.9, -12},
         {1e300, 1e300, most},
-        {std::nan(""), 0, 0},
         {INFINITY, std::numeric_limits<double>::max(), most},
-        {null, 0, 0},
-        {QVariant(), 0, 0},
-        {QVariantMap(), 0, 0},
-        {QVariantList{7}, 0, 0},
     };
     for (const Case &c : cases) {
         EXPECT_EQ(doubleValue(c.value), c.number) << textForm(c.value).toStdString();
         EXPECT_EQ(integerValue(c.value), c.whole) << textForm(c.value).toStdString();
+    }
+    for (const QVariant &one : {text("1e"), text("1e+x"), text("1,2345"), text("1,,234"), QVariant(true)}) {
+        EXPECT_EQ(doubleValue(one), 1) << textForm(one).toStdString();
+        EXPECT_EQ(integerValue(one), 1) << textForm(one).toStdString();
+    }
+    for (const QVariant &nothing :
+         {text(""), text("."), text("-"), text(",123"), text("0x1A"), text("nan"), text("inf"), text("１２"),
+          text("abc1"), null, QVariant(), QVariant(std::nan("")), QVariant(QVariantMap()),
+          QVariant(QVariantList{7})}) {
+        EXPECT_EQ(doubleValue(nothing), 0) << textForm(nothing).toStdString();
+        EXPECT_EQ(integerValue(nothing), 0) << textForm(nothing).toStdString();
     }
 }
 
@@ -130,37 +115,25 @@ TEST(Amount, GroupsAndRoundsHalfToEvenInTheDigitsThatAreSeen)
 {
     const std::pair<QVariant, const char *> cases[] = {
         {1234567.8, "1,234,567.80"},
-        {0, "0.00"},
-        {text(""), "0.00"},
-        {text("abc"), "0.00"},
-        {null, "0.00"},
-        {std::nan(""), "0.00"},
         {0.125, "0.12"},
-        {0.135, "0.14"},
         {0.375, "0.38"},
-        {2.675, "2.68"},
         {2.665, "2.66"},
         {text("1.005"), "1.00"},
         {text("1.0050001"), "1.01"},
-        {0.005, "0.00"},
         {0.015, "0.02"},
-        {9.995, "10.00"},
         {999.995, "1,000.00"},
-        {999999.999, "1,000,000.00"},
         {-1234.5, "-1,234.50"},
-        {-123.0, "-123.00"},
-        {-0.001, "0.00"},
         {-0.006, "-0.01"},
-        {1e-300, "0.00"},
         {100, "100.00"},
-        {1000, "1,000.00"},
-        {1e15, "1,000,000,000,000,000.00"},
         {1e21, "1,000,000,000,000,000,000,000.00"},
         {true, "1.00"},
-        {QVariantList(), "0.00"},
     };
     for (const auto &[value, written] : cases)
         EXPECT_EQ(Service::formatAmountNumber(value).toStdString(), written);
+    for (const QVariant &nothing :
+         {text(""), text("abc"), null, QVariant(QVariantList()), QVariant(std::nan("")), QVariant(0.005),
+          QVariant(-0.001), QVariant(1e-300)})
+        EXPECT_EQ(Service::formatAmountNumber(nothing), "0.00") << textForm(nothing).toStdString();
     EXPECT_EQ(Service::formatAmountNumber(1e308).size(), 309 + 102 + 3);
 }
 
@@ -174,28 +147,23 @@ TEST(Amount, CutsOnButtonsInSinglePrecisionAndRoundsOnLabels)
     const Case cases[] = {
         {text("12.349"), "12.34", "12.35"},
         {text("1234.567"), "1,234.56", "1,234.57"},
-        {text("0.29"), "0.29", "0.29"},
         {0.29, "0.29", "0.29"},
         // What a float holds: 1234567.875, times a hundred rounded to a multiple of 8.
         {text("1234567.89"), "1,234,567.84", "1,234,567.89"},
         {text("-12.341"), "-12.35", "-12.34"},
-        {text("0"), "0.00", "0.00"},
         {text("0.125"), "0.12", "0.12"},
         {text("0.375"), "0.37", "0.38"},
         {text("junk"), "0.00", "0.00"},
-        {text(""), "", ""},
-        {text("  "), "", ""},
-        {null, "", ""},
-        {QVariant(), "", ""},
     };
     for (const Case &c : cases) {
         EXPECT_EQ(buttonAmount(c.amount).toStdString(), c.button);
         EXPECT_EQ(labelAmount(c.amount).toStdString(), c.label);
     }
+    for (const QVariant &empty : {text(""), text("  "), null, QVariant()})
+        EXPECT_EQ(buttonAmount(empty) + labelAmount(empty) + labelAmountWithYuan(empty), "");
     EXPECT_EQ(buttonAmount(1e300), labelAmount(1e300));
     EXPECT_EQ(buttonAmountWithYuan(text("12.349")), QStringLiteral("12.34元"));
     EXPECT_EQ(labelAmountWithYuan(text("12.349")), QStringLiteral("12.35元"));
-    EXPECT_EQ(labelAmountWithYuan(text("")), QString());
 }
 
 TEST(Amount, SetsTheLastThreeCharactersApartAsTheUnit)

@@ -21,39 +21,30 @@ protected:
         {"id", "m7"}, {"title", "系统维护"}, {"content", "今晚维护"}, {"sendDate", "1700000000000"}});
 };
 
-TEST_F(MessageDetailTest, ShowingAMessageMarksItRead)
+TEST_F(MessageDetailTest, ShowingAMessageMarksItReadAndSharingHandsOverWhatItBrought)
 {
-    const TZMessageDetailController *const screen = present({});
-    EXPECT_EQ(http.last().request.method, QByteArray("PUT"));
-    EXPECT_EQ(http.last().request.url, QStringLiteral("https://service.test/msg/mark?msgId=m7"));
-    EXPECT_EQ(screen->time(), QStringLiteral("2023-11-15 06:13"));
-    EXPECT_TRUE(screen->showBackButton());
-    EXPECT_FALSE(screen->shareable());
-}
-
-TEST_F(MessageDetailTest, APushedMessageClosesInsteadOfGoingBack)
-{
-    TZMessageDetailController *const screen = present(QStringLiteral("remote"));
-    EXPECT_FALSE(screen->showBackButton());
-    EXPECT_EQ(screen->rightItemImage(), QStringLiteral("common_close_gray"));
-    screen->rightItemClick();
-    EXPECT_EQ(window.presented()->count(), 0);
-}
-
-TEST_F(MessageDetailTest, TheHomePageIsOneTapAwayFromAPushedMessage)
-{
-    present(QStringLiteral("remote"))->backToHome();
-    EXPECT_EQ(router.calls, QStringList(QStringLiteral("showHome")));
-    EXPECT_EQ(window.presented()->count(), 0);
-}
-
-TEST_F(MessageDetailTest, SharingHandsOverWhatTheMessageBrought)
-{
-    model.shareTitle = QStringLiteral("活动");
-    model.shareUrl = QStringLiteral("https://x.example/");
+    EXPECT_FALSE(present({})->shareable());
+    EXPECT_EQ(http.last().request.method, "PUT");
+    EXPECT_EQ(http.last().request.url, "https://service.test/msg/mark?msgId=m7");
+    model.shareTitle = "活动";
+    model.shareUrl = "https://x.example/";
     TZMessageDetailController *const screen = present({});
+    EXPECT_EQ(screen->time(), "2023-11-15 06:13");
+    EXPECT_TRUE(screen->showBackButton());
     EXPECT_TRUE(screen->shareable());
     screen->shareBtnClick();
-    EXPECT_EQ(kits.shared.title, QStringLiteral("活动"));
-    EXPECT_EQ(kits.shared.link, QStringLiteral("https://x.example/"));
+    EXPECT_EQ(kits.shared.title, "活动");
+    EXPECT_EQ(kits.shared.link, "https://x.example/");
+}
+
+TEST_F(MessageDetailTest, APushedMessageClosesInsteadOfGoingBackAndHomeIsOneTapAway)
+{
+    TZMessageDetailController *const screen = present("remote");
+    EXPECT_FALSE(screen->showBackButton());
+    EXPECT_EQ(screen->rightItemImage(), "common_close_gray");
+    screen->rightItemClick();
+    EXPECT_EQ(window.presented()->count(), 0);
+    present("remote")->backToHome();
+    EXPECT_EQ(router.calls, QStringList("showHome"));
+    EXPECT_EQ(window.presented()->count(), 0);
 }

@@ -41,28 +41,21 @@ protected:
 
     void signInThere()
     {
-        top<TZCheckCellController>()->setCell(QStringLiteral("13812345678"));
+        top<TZCheckCellController>()->setCell("13812345678");
         top<TZCheckCellController>()->clickNextStepBtn();
         QVariantMap known = succeeded();
-        known.insert(QStringLiteral("bizCode"), QStringLiteral("1002"));
-        http.answer(QStringLiteral("user/start"), known);
+        known.insert("bizCode", "1002");
+        http.answer("user/start", known);
         ASSERT_TRUE(top<TZLoginController>());
-        top<TZLoginController>()->textFiledEditChanged(QStringLiteral("123456"));
+        top<TZLoginController>()->textFiledEditChanged("123456");
         top<TZLoginController>()->clickNextStepBtn();
-        http.answer(QStringLiteral("user/verify"),
-                    succeeded(QVariantMap{{QStringLiteral("api_token"), QStringLiteral("fresh")}}));
+        http.answer("user/verify", succeeded(QVariantMap{{"api_token", "fresh"}}));
     }
 
     KRWindow window;
     AppRouter router{window};
     AppDelegate shell{window, router, [] {}};
 };
-
-TEST_F(FlowTest, SignedOutTheHomePageIsShownAndNobodyIsAskedToSignIn)
-{
-    EXPECT_TRUE(top<TZHomeViewController>());
-    EXPECT_EQ(window.presented()->count(), 0);
-}
 
 TEST_F(FlowTest, AnOfflineStartSaysSo)
 {
@@ -71,7 +64,7 @@ TEST_F(FlowTest, AnOfflineStartSaysSo)
     AppRouter freshRouter(fresh);
     AppDelegate offline(fresh, freshRouter, [] {});
     offline.didFinishLaunchingWithOptions({});
-    EXPECT_EQ(banners(), QStringList(QStringLiteral("网络异常")));
+    EXPECT_EQ(banners(), QStringList("网络异常"));
 }
 
 TEST_F(FlowTest, MyAccountIsShownOnlyAfterTheSignInItAskedFor)
@@ -84,7 +77,7 @@ TEST_F(FlowTest, MyAccountIsShownOnlyAfterTheSignInItAskedFor)
     EXPECT_EQ(window.presented()->count(), 0);
     EXPECT_TRUE(top<TZMyAccountController>());
     EXPECT_FALSE(frame()->isOpen());
-    EXPECT_TRUE(kits.calls.contains(QStringLiteral("setAlias fresh api_token")));
+    EXPECT_TRUE(kits.calls.contains("setAlias fresh api_token"));
 }
 
 TEST_F(FlowTest, ASignInThatIsClosedLeavesEverythingAsItWas)
@@ -106,7 +99,7 @@ TEST_F(FlowTest, TradingAskedForOnHomeIsOpenedBehindTheSignInAndAppearsOnce)
     EXPECT_TRUE(top<TZRealTradingController>());
     EXPECT_EQ(frame()->content()->depth(), 2);
     // Entry, login, trading page: home is not shown between the sign-in and the page it led to.
-    EXPECT_EQ(kits.calls.filter(QStringLiteral("beginLogPageView")).size(), 3);
+    EXPECT_EQ(kits.calls.filter("beginLogPageView").size(), 3);
 }
 
 TEST_F(FlowTest, EveryRowPutsANewStackIntoTheFrame)
@@ -119,7 +112,7 @@ TEST_F(FlowTest, EveryRowPutsANewStackIntoTheFrame)
     chooseRow(1);
     EXPECT_TRUE(top<TZMyAccountController>());
     chooseRow(2);
-    EXPECT_EQ(window.topStack()->top()->title(), QStringLiteral("超级合伙人"));
+    EXPECT_EQ(window.topStack()->top()->title(), "超级合伙人");
     EXPECT_FALSE(frame()->isOpen());
     window.topStack()->top()->leftItemClick();
     EXPECT_TRUE(frame()->isOpen()) << "a root of the frame opens the menu";
@@ -128,21 +121,17 @@ TEST_F(FlowTest, EveryRowPutsANewStackIntoTheFrame)
 TEST_F(FlowTest, APushedMessageOpensOverWhateverIsOnScreen)
 {
     chooseRow(1);
-    kits.push(
-        {{QStringLiteral("pageId"), 2},
-         {QStringLiteral("data"), QStringLiteral(R"({"id":"9","title":"系统升级","content":"今晚维护"})")}});
+    kits.push({{"pageId", 2}, {"data", R"({"id":"9","title":"系统升级","content":"今晚维护"})"}});
     ASSERT_TRUE(top<TZMessageDetailController>());
-    EXPECT_EQ(top<TZMessageDetailController>()->content(), QStringLiteral("今晚维护"));
+    EXPECT_EQ(top<TZMessageDetailController>()->content(), "今晚维护");
     EXPECT_EQ(window.presented()->count(), 2) << "over the sign-in";
     EXPECT_FALSE(top<TZMessageDetailController>()->showBackButton());
     top<TZMessageDetailController>()->rightItemClick();
     EXPECT_TRUE(top<TZCheckCellController>());
 
-    kits.push(
-        {{QStringLiteral("pageId"), 3},
-         {QStringLiteral("data"), QVariantMap{{QStringLiteral("stockName"), QStringLiteral("平安银行")}}}});
+    kits.push({{"pageId", 3}, {"data", QVariantMap{{"stockName", "平安银行"}}}});
     ASSERT_TRUE(top<TZDealDetailController>());
-    EXPECT_EQ(top<TZDealDetailController>()->title(), QStringLiteral("委托详情"));
+    EXPECT_EQ(top<TZDealDetailController>()->title(), "委托详情");
 }
 
 TEST_F(FlowTest, APushedMessageOverTheGuideLeavesTheGuideBelow)
@@ -152,7 +141,7 @@ TEST_F(FlowTest, APushedMessageOverTheGuideLeavesTheGuideBelow)
     settings.values.remove(SettingsKeys::bundleVersion);
     AppDelegate first(fresh, freshRouter, [] {});
     first.didFinishLaunchingWithOptions({});
-    kits.push({{QStringLiteral("pageId"), 2}, {QStringLiteral("data"), QVariantMap()}});
+    kits.push({{"pageId", 2}, {"data", QVariantMap()}});
     EXPECT_TRUE(qobject_cast<TZMessageDetailController *>(fresh.topStack()->top()));
     fresh.dismiss(fresh.topStack());
     EXPECT_TRUE(qobject_cast<TZGuideController *>(fresh.root()));
@@ -161,45 +150,28 @@ TEST_F(FlowTest, APushedMessageOverTheGuideLeavesTheGuideBelow)
 TEST_F(FlowTest, TheRechargeGateOpensTheFirstStepThatIsMissing)
 {
     signIn();
-    struct Case {
-        QVariant nextStep;
-        QString title;
+    const QString gate = "trade/recharge";
+    const std::pair<QVariant, QString> cases[] = {
+        {1, "手机验证"},     {"2", "设置昵称"},    {4, "开通资金托管账户"},
+        {5, "绑定银行卡"},   {6, "充值"},          {0, "充值"},
+        {7, "充值"},         {QVariant(), "充值"}, {QVariantMap(), "充值"},
+        {3, "输入交易密码"},
     };
-    const QString recharge = QStringLiteral("充值");
-    const Case cases[] = {
-        {1, QStringLiteral("手机验证")},
-        {QStringLiteral("2"), QStringLiteral("设置昵称")},
-        {3, QStringLiteral("输入交易密码")},
-        {4, QStringLiteral("开通资金托管账户")},
-        {5, QStringLiteral("绑定银行卡")},
-        {6, recharge},
-        {0, recharge},
-        {7, recharge},
-        {QVariant(), recharge},
-        {QVariantMap(), recharge},
-    };
-    for (const Case &step : cases) {
+    for (const auto &[nextStep, title] : cases) {
+        window.dismiss(window.topStack());
         router.openRechargeGate(*frame()->content()->root());
         EXPECT_EQ(window.presented()->count(), 0) << "not before the answer";
-        http.answer(QStringLiteral("trade/recharge"),
-                    succeeded(QVariantMap{{QStringLiteral("next_step"), step.nextStep}}));
+        http.answer(gate, succeeded(QVariantMap{{"next_step", nextStep}}));
         ASSERT_EQ(window.presented()->count(), 1);
-        EXPECT_EQ(window.topStack()->top()->title(), step.title);
-        window.dismiss(window.topStack());
+        EXPECT_EQ(window.topStack()->top()->title(), title);
     }
-    router.openRechargeGate(*frame()->content()->root());
-    http.answer(QStringLiteral("trade/recharge"), refused(QStringLiteral("请先登录")));
-    EXPECT_EQ(window.presented()->count(), 0);
-}
-
-TEST_F(FlowTest, TheFirstPasswordOfTheRechargeGateCanBeLeft)
-{
-    signIn();
-    router.openRechargeGate(*frame()->content()->root());
-    http.answer(QStringLiteral("trade/recharge"), succeeded(QVariantMap{{QStringLiteral("next_step"), 3}}));
     window.topStack()->top()->leftItemClick();
     ASSERT_EQ(window.dialogs()->count(), 1);
     qobject_cast<TZInfoAlertView *>(window.dialogs()->last())->rightBtnClick();
+    EXPECT_EQ(window.presented()->count(), 0) << "the first password can be left";
+
+    router.openRechargeGate(*frame()->content()->root());
+    http.answer(gate, refused("请先登录"));
     EXPECT_EQ(window.presented()->count(), 0);
 }
 
@@ -207,7 +179,7 @@ TEST_F(FlowTest, WhatACoveredScreenAsksForIsNotOpened)
 {
     signIn();
     KRBaseController &home = *frame()->content()->root();
-    const QString gate = QStringLiteral("trade/recharge");
+    const QString gate = "trade/recharge";
     router.openRechargeGate(home);
     router.openRechargeGate(home);
     http.answer(gate, succeeded());

@@ -11,14 +11,14 @@
 
 namespace {
 const QString client = QStringLiteral(ZORVANE_CLIENT);
-const QString nobody = QStringLiteral("https://127.0.0.1:9/");
+const QString nobody = "https://127.0.0.1:9/";
 
 QProcessEnvironment offscreen(const QString &runtimeDirectory)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-    environment.insert(QStringLiteral("QT_QUICK_BACKEND"), QStringLiteral("software"));
-    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtimeDirectory);
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    environment.insert("QT_QUICK_BACKEND", "software");
+    environment.insert("XDG_RUNTIME_DIR", runtimeDirectory);
     return environment;
 }
 
@@ -34,42 +34,52 @@ class ProcessTest : public testing::Test {
 protected:
     ProcessTest() { process.setProcessEnvironment(offscreen(folder.path())); }
 
+    static QStringList in(const QString &dataDirectory)
+    {
+        return {"--data-dir", dataDirectory, "--api-base-url", nobody};
+    }
+    void kill()
+    {
+        process.kill();
+        ASSERT_TRUE(process.waitForFinished());
+    }
+
     QTemporaryDir folder;
     QProcess process;
 };
 
 TEST_F(ProcessTest, WhatCannotBeFollowedEndsWithOneLineAndStatusTwo)
 {
-    const QString file = folder.filePath(QStringLiteral("file"));
+    const QString file = folder.filePath("file");
     write(file, "not a certificate");
-    const QString garbled = folder.filePath(QStringLiteral("garbled"));
+    const QString garbled = folder.filePath("garbled");
     QDir().mkpath(garbled);
-    write(garbled + QStringLiteral("/settings"), "what is this");
+    write(garbled + "/settings", "what is this");
     struct Case {
         QStringList arguments;
         QString says;
     };
-    const QString base = QStringLiteral("--api-base-url");
-    const QString trust = QStringLiteral("--trust-ca");
-    const QString data = QStringLiteral("--data-dir");
+    const QString base = "--api-base-url";
+    const QString trust = "--trust-ca";
+    const QString data = "--data-dir";
     const Case cases[] = {
-        {{QStringLiteral("--nonsense")}, QStringLiteral("--help")},
-        {{QStringLiteral("stray")}, QStringLiteral("'stray'")},
-        {{data}, QStringLiteral("--data-dir")},
-        {{base, QStringLiteral("nonsense")}, base},
-        {{base, QStringLiteral("http://example.com/")}, base},
-        {{base, QStringLiteral("ftp://127.0.0.1/")}, base},
-        {{base, QStringLiteral("https://")}, base},
-        {{base, QStringLiteral("https://127.0.0.1/?a=b")}, base},
-        {{trust, folder.filePath(QStringLiteral("missing"))}, QStringLiteral("holds no certificate")},
-        {{trust, file}, QStringLiteral("holds no certificate")},
+        {{"--nonsense"}, "--help"},
+        {{"stray"}, "'stray'"},
+        {{data}, "--data-dir"},
+        {{base, "nonsense"}, base},
+        {{base, "http://example.com/"}, base},
+        {{base, "ftp://127.0.0.1/"}, base},
+        {{base, "https://"}, base},
+        {{base, "https://127.0.0.1/?a=b"}, base},
+        {{trust, folder.filePath("missing")}, "holds no certificate"},
+        {{trust, file}, "holds no certificate"},
         {{trust, QString()}, trust},
         {{data, QString()}, data},
-        {{data, file}, QStringLiteral("cannot be made")},
-        {{data, file + QStringLiteral("/below")}, QStringLiteral("cannot be made")},
-        {{data, QStringLiteral("/proc/zorvane")}, QStringLiteral("cannot be made")},
-        {{data, QStringLiteral("/proc")}, QStringLiteral("cannot be written to")},
-        {{data, garbled}, QStringLiteral("move it away")},
+        {{data, file}, "cannot be made"},
+        {{data, file + "/below"}, "cannot be made"},
+        {{data, "/proc/zorvane"}, "cannot be made"},
+        {{data, "/proc"}, "cannot be written to"},
+        {{data, garbled}, "move it away"},
     };
     for (const Case &line : cases) {
         process.start(client, line.arguments);
@@ -85,28 +95,20 @@ TEST_F(ProcessTest, WhatCannotBeFollowedEndsWithOneLineAndStatusTwo)
     }
 }
 
-TEST_F(ProcessTest, HelpAndVersionNeedNoDisplay)
+TEST_F(ProcessTest, WithoutADisplayThereIsOnlyHelpAndVersion)
 {
     QProcessEnvironment bare = QProcessEnvironment::systemEnvironment();
-    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-        bare.remove(QString::fromUtf8(name));
+    for (const QString name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        bare.remove(name);
     process.setProcessEnvironment(bare);
-    for (const char *option : {"--help", "--version"}) {
-        process.start(client, {QString::fromUtf8(option)});
+    for (const QString option : {"--help", "--version"}) {
+        process.start(client, {option});
         ASSERT_TRUE(process.waitForFinished(30'000));
         EXPECT_EQ(process.exitCode(), 0);
         EXPECT_TRUE(process.readAllStandardOutput().contains("zorvane"));
         EXPECT_EQ(process.readAllStandardError(), "");
     }
-}
-
-TEST_F(ProcessTest, WithoutADisplayItSaysSo)
-{
-    QProcessEnvironment bare = QProcessEnvironment::systemEnvironment();
-    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-        bare.remove(QString::fromUtf8(name));
-    process.setProcessEnvironment(bare);
-    process.start(client, {QStringLiteral("--data-dir"), folder.path()});
+    process.start(client, {"--data-dir", folder.path()});
     ASSERT_TRUE(process.waitForFinished(30'000));
     EXPECT_EQ(process.exitCode(), 2);
     EXPECT_TRUE(process.readAllStandardError().startsWith("zorvane: there is no display"));
@@ -114,26 +116,22 @@ TEST_F(ProcessTest, WithoutADisplayItSaysSo)
 
 TEST_F(ProcessTest, AStockTableThatIsNoneIsReportedAndTheClientGoesOn)
 {
-    write(folder.filePath(QStringLiteral("stock.sqlite")), QByteArray(4096, 'x'));
-    process.start(client,
-                  {QStringLiteral("--data-dir"), folder.path(), QStringLiteral("--api-base-url"), nobody});
-    process.setReadChannel(QProcess::StandardError);
+    write(folder.filePath("stock.sqlite"), QByteArray(4096, 'x'));
+    process.start(client, in(folder.path()));
     QByteArray said;
     for (int tries = 0; tries < 300 && !said.contains("stock.sqlite"); ++tries) {
-        process.waitForReadyRead(50);
+        process.waitForFinished(50);
         said += process.readAllStandardError();
     }
     EXPECT_TRUE(said.contains("zorvane: ")) << said.toStdString();
     EXPECT_EQ(process.state(), QProcess::Running);
-    process.kill();
-    process.waitForFinished();
+    kill();
 }
 
 TEST_F(ProcessTest, AKillAtAnyMomentOfTheStartLeavesTheSettingsWhole)
 {
-    const QVariantMap user{{QStringLiteral("api_token"), QStringLiteral("t0ken")},
-                           {QStringLiteral("nick"), QStringLiteral("股海")}};
-    const QString path = folder.filePath(QStringLiteral("settings"));
+    const QVariantMap user{{"api_token", "t0ken"}, {"nick", "股海"}};
+    const QString path = folder.filePath("settings");
     {
         QtSettingsStore store(path);
         store.setValue(SettingsKeys::user, user);
@@ -141,68 +139,52 @@ TEST_F(ProcessTest, AKillAtAnyMomentOfTheStartLeavesTheSettingsWhole)
         store.synchronize();
     }
     bool reachedTheEnd = false;
-    for (int kill = 0; kill < 40; ++kill) {
-        process.start(
-            client, {QStringLiteral("--data-dir"), folder.path(), QStringLiteral("--api-base-url"), nobody});
+    for (int round = 0; round < 40; ++round) {
+        process.start(client, in(folder.path()));
         ASSERT_TRUE(process.waitForStarted());
         // Most of them during the first tenth of a second, the last ones after a slow start.
-        QThread::msleep(static_cast<unsigned long>(kill * kill / 3));
+        QThread::msleep(static_cast<unsigned long>(round * round / 3));
         ::kill(static_cast<pid_t>(process.processId()), SIGKILL);
         ASSERT_TRUE(process.waitForFinished(30'000));
         EXPECT_EQ(process.exitStatus(), QProcess::CrashExit)
             << "ended by itself: " << process.readAllStandardError().toStdString();
 
         const QtSettingsStore store(path);
-        ASSERT_EQ(store.problem(), SettingsProblem::None) << "kill " << kill;
-        ASSERT_EQ(store.value(SettingsKeys::user), QVariant(user)) << "kill " << kill;
-        ASSERT_TRUE(store.value(SettingsKeys::needTradePwd).isValid()) << "kill " << kill;
+        ASSERT_EQ(store.problem(), SettingsProblem::None) << "kill " << round;
+        ASSERT_EQ(store.value(SettingsKeys::user), QVariant(user)) << "kill " << round;
+        ASSERT_TRUE(store.value(SettingsKeys::needTradePwd).isValid()) << "kill " << round;
         reachedTheEnd = reachedTheEnd || store.value(SettingsKeys::needTradePwd).toBool();
     }
     EXPECT_TRUE(reachedTheEnd)
         << "no start came as far as its last step: the kills came too early to show anything";
 }
 
-TEST_F(ProcessTest, ASecondClientOnTheSameDataDirectorySaysSoUntilTheFirstIsKilled)
+TEST_F(ProcessTest, TheDataDirectoryIsItsOwnersAndHasOneClientUntilThatIsKilled)
 {
-    const QStringList arguments{QStringLiteral("--data-dir"), folder.path(), QStringLiteral("--api-base-url"),
-                                nobody};
+    const QString data = folder.filePath("new/data");
+    const QString settings = data + "/settings";
     const auto startFirst = [&] {
-        const QString settings = folder.filePath(QStringLiteral("settings"));
         QFile::remove(settings);
-        process.start(client, arguments);
+        process.start(client, in(data));
         for (int tries = 0; tries < 300 && !QFile::exists(settings); ++tries)
             process.waitForFinished(20);
         EXPECT_EQ(process.state(), QProcess::Running) << process.readAllStandardError().toStdString();
     };
     startFirst();
-    QProcess second;
-    second.setProcessEnvironment(process.processEnvironment());
-    second.start(client, arguments);
-    ASSERT_TRUE(second.waitForFinished(30'000));
-    EXPECT_EQ(second.exitCode(), 2);
-    EXPECT_EQ(QString::fromUtf8(second.readAllStandardError()),
-              QStringLiteral("zorvane: another client is using '%1'; close it and start again\n")
-                  .arg(folder.path()));
-
-    process.kill();
-    ASSERT_TRUE(process.waitForFinished());
-    startFirst();
-    process.kill();
-    process.waitForFinished();
-}
-
-TEST_F(ProcessTest, TheDataDirectoryIsMadeForItsOwnerOnly)
-{
-    const QString data = folder.filePath(QStringLiteral("new/data"));
-    process.start(client, {QStringLiteral("--data-dir"), data, QStringLiteral("--api-base-url"), nobody});
-    ASSERT_TRUE(process.waitForStarted());
-    for (int tries = 0; tries < 300 && !QFile::exists(data + QStringLiteral("/settings")); ++tries)
-        QThread::msleep(20);
-    process.kill();
-    process.waitForFinished();
     const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
                                       QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
     EXPECT_EQ(QFile::permissions(data) & others, QFile::Permissions());
-    ASSERT_TRUE(QFile::exists(data + QStringLiteral("/settings")));
-    EXPECT_EQ(QFile::permissions(data + QStringLiteral("/settings")) & others, QFile::Permissions());
+    ASSERT_TRUE(QFile::exists(settings));
+    EXPECT_EQ(QFile::permissions(settings) & others, QFile::Permissions());
+
+    QProcess second;
+    second.setProcessEnvironment(process.processEnvironment());
+    second.start(client, in(data));
+    ASSERT_TRUE(second.waitForFinished(30'000));
+    EXPECT_EQ(second.exitCode(), 2);
+    EXPECT_EQ(QString::fromUtf8(second.readAllStandardError()),
+              QStringLiteral("zorvane: another client is using '%1'; close it and start again\n").arg(data));
+    kill();
+    startFirst();
+    kill();
 }

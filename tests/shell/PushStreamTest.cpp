@@ -19,7 +19,7 @@ protected:
             streams.append(&socket);
         };
         push.onRemoteNotification([this](const QVariantMap &payload) {
-            received << payload.value(QStringLiteral("pageId")).toString();
+            received << payload.value("pageId").toString();
             if (onReceive)
                 onReceive();
         });
@@ -34,7 +34,7 @@ protected:
 
     void setAlias(const QString &alias)
     {
-        push.setAlias(alias, QStringLiteral("api_token"));
+        push.setAlias(alias, "api_token");
         runLoop.advance(0ms);
     }
     bool opened(int streamCount)
@@ -57,7 +57,7 @@ protected:
 
 TEST_F(PushStreamTest, MessagesComeLineByLineHoweverTheyAreCut)
 {
-    setAlias(QStringLiteral("t0ken"));
+    setAlias("t0ken");
     ASSERT_TRUE(opened(1));
     EXPECT_EQ(server.requests.first().line(), "GET /sandbox/push HTTP/1.1");
     EXPECT_EQ(server.requests.first().header("alias"), "t0ken");
@@ -65,48 +65,45 @@ TEST_F(PushStreamTest, MessagesComeLineByLineHoweverTheyAreCut)
     EXPECT_TRUE(wait([this] { return received.size() == 1; }));
     write("3}\nno json\n[4]\n{\"pageId\":5}\n");
     EXPECT_TRUE(wait([this] { return received.size() == 3; }));
-    EXPECT_EQ(received.join(u' '), QStringLiteral("2 3 5"));
+    EXPECT_EQ(received.join(u' '), "2 3 5");
 }
 
-TEST_F(PushStreamTest, NothingIsOpenedWithoutAnAlias)
+TEST_F(PushStreamTest, AStreamIsOpenWhileThereIsAnAliasAndWakesNobody)
 {
-    setAlias(QStringLiteral("off_line"));
+    setAlias("off_line");
     wait([] { return false; }, 200ms);
     EXPECT_EQ(server.connections, 0);
-    EXPECT_EQ(runLoop.activeTimers(), 0);
-}
-
-TEST_F(PushStreamTest, SigningOutEndsTheStreamAtOnceAndForGood)
-{
-    setAlias(QStringLiteral("t0ken"));
+    setAlias("t0ken");
     ASSERT_TRUE(opened(1));
-    setAlias(QStringLiteral("off_line"));
+    EXPECT_EQ(runLoop.activeTimers(), 0);
+    setAlias("off_line");
     EXPECT_TRUE(wait([this] {
         return !streams.first() || streams.first()->state() == QAbstractSocket::UnconnectedState;
     }));
     runLoop.advance(120s);
     wait([] { return false; }, 100ms);
     EXPECT_EQ(streams.size(), 1);
+    EXPECT_EQ(runLoop.activeTimers(), 0);
 }
 
 TEST_F(PushStreamTest, AnotherUserHasAStreamOfTheirOwnAndHearsNothingOfTheFirst)
 {
-    setAlias(QStringLiteral("first"));
+    setAlias("first");
     ASSERT_TRUE(opened(1));
     write("{\"pageId\":1}\n");
-    setAlias(QStringLiteral("second"));
+    setAlias("second");
     ASSERT_TRUE(opened(2));
     EXPECT_EQ(server.requests.last().header("alias"), "second");
     EXPECT_TRUE(received.isEmpty()) << "what was under way to the first is dropped";
     write("{\"pageId\":2}\n");
     EXPECT_TRUE(wait([this] { return !received.isEmpty(); }));
-    EXPECT_EQ(received.join(u' '), QStringLiteral("2"));
+    EXPECT_EQ(received.join(u' '), "2");
 }
 
 TEST_F(PushStreamTest, AMessageThatSignsOutEndsTheStreamItCameOn)
 {
-    onReceive = [this] { push.setAlias(QStringLiteral("off_line"), QString()); };
-    setAlias(QStringLiteral("t0ken"));
+    onReceive = [this] { push.setAlias("off_line", QString()); };
+    setAlias("t0ken");
     ASSERT_TRUE(opened(1));
     write("{\"pageId\":1}\n{\"pageId\":2}\n");
     EXPECT_TRUE(wait([this] { return !received.isEmpty(); }));
@@ -117,7 +114,7 @@ TEST_F(PushStreamTest, AMessageThatSignsOutEndsTheStreamItCameOn)
 TEST_F(PushStreamTest, ALostStreamIsOpenedAgainAfterGrowingDelaysUntilAMessageComes)
 {
     status = "503 Service Unavailable";
-    setAlias(QStringLiteral("t0ken"));
+    setAlias("t0ken");
     ASSERT_TRUE(opened(1));
     int openings = 1;
     for (const std::chrono::seconds delay : {1s, 2s, 4s, 8s, 16s, 32s, 60s, 60s}) {
@@ -142,27 +139,20 @@ TEST_F(PushStreamTest, ALostStreamIsOpenedAgainAfterGrowingDelaysUntilAMessageCo
 TEST_F(PushStreamTest, AServiceWithoutAStreamIsAskedOnceForEachAlias)
 {
     status = "404 Not Found\r\nSet-Cookie: a=b";
-    setAlias(QStringLiteral("t0ken"));
+    setAlias("t0ken");
     ASSERT_TRUE(opened(1));
     streams.last()->disconnectFromHost();
     EXPECT_FALSE(wait([this] { return runLoop.activeTimers() > 0; }, 200ms));
-    setAlias(QStringLiteral("other"));
+    setAlias("other");
     ASSERT_TRUE(opened(2));
     EXPECT_EQ(server.requests.last().header("Cookie"), "");
 }
 
 TEST_F(PushStreamTest, ALineWithoutAnEndEndsTheStream)
 {
-    setAlias(QStringLiteral("t0ken"));
+    setAlias("t0ken");
     ASSERT_TRUE(opened(1));
     write(QByteArray(3 << 20, 'x'));
     EXPECT_TRUE(wait([this] { return runLoop.activeTimers() == 1; }));
     EXPECT_TRUE(received.isEmpty());
-}
-
-TEST_F(PushStreamTest, AnIdleStreamWakesNobody)
-{
-    setAlias(QStringLiteral("t0ken"));
-    ASSERT_TRUE(opened(1));
-    EXPECT_EQ(runLoop.activeTimers(), 0);
 }

@@ -4,6 +4,8 @@
 
 #include <QDeadlineTimer>
 #include <QGuiApplication>
+#include <QMouseEvent>
+#include <QQuickWindow>
 
 using namespace std::chrono_literals;
 
@@ -52,6 +54,15 @@ void RealWindowTest::answerAll()
                 http.answer(sent, succeeded());
         }
         runLoop.advance(4s);
+    }
+}
+
+void RealWindowTest::tap(const QPointF &place) const
+{
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, place, shown->mapToGlobal(place), Qt::LeftButton,
+                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(shown, &event);
     }
 }
 

@@ -22,6 +22,7 @@ protected:
     static void pass();
     /// Answers every request with success and nothing else, and those that come of it.
     void answerAll();
+    void tap(const QPointF &place) const;
     /// What was complained of since it was last asked; empty when all is well.
     static std::string complaints();
 

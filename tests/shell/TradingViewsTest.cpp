@@ -3,8 +3,6 @@
 #include "trading/screens/TZBuyAndSellController.h"
 #include "trading/screens/TZDealAndEntrustController.h"
 
-#include <QCoreApplication>
-#include <QMouseEvent>
 #include <QQuickItem>
 #include <QQuickWindow>
 
@@ -27,17 +25,6 @@ protected:
         QQuickItem *const found = itemIn(*shown->contentItem(), property, value);
         EXPECT_NE(found, nullptr) << value.toStdString();
         return found;
-    }
-
-    void tap(const QQuickItem &what) const
-    {
-        const QPointF place = what.mapToScene(what.boundingRect().center());
-        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-            QMouseEvent event(type, place, shown->mapToGlobal(place), Qt::LeftButton,
-                              type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
-                              Qt::NoModifier);
-            QCoreApplication::sendEvent(shown, &event);
-        }
     }
 
 private:
@@ -82,7 +69,7 @@ TEST_F(TradingViewsTest, SellLevelsStandAboveBuyLevelsAndEachQuickButtonWritesIt
     for (const auto &[title, quantity] :
          {std::pair("1/4", "200"), std::pair("1/2", "400"), std::pair("全部", "800")}) {
         if (const QQuickItem *const button = item("text", title))
-            tap(*button);
+            tap(button->mapToScene(button->boundingRect().center()));
         EXPECT_EQ(screen->quantity(), quantity) << title;
     }
 }

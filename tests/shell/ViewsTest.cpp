@@ -15,7 +15,7 @@
 
 #include <QGuiApplication>
 #include <QInputMethodEvent>
-#include <QMouseEvent>
+#include <QKeyEvent>
 #include <QQuickItem>
 #include <QQuickWindow>
 
@@ -95,12 +95,7 @@ TEST_F(ViewsTest, ATapBesideTheFieldEndsEditing)
     pass();
     const QObject *const field = QGuiApplication::focusObject();
     ASSERT_TRUE(field->inherits("QQuickTextInput"));
-    const QPointF beside(shown->width() / 2, shown->height() - 100);
-    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        QMouseEvent event(type, beside, shown->mapToGlobal(beside), Qt::LeftButton,
-                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(shown, &event);
-    }
+    tap({shown->width() / 2.0, shown->height() - 100.0});
     EXPECT_NE(QGuiApplication::focusObject(), field);
 }
 

@@ -106,31 +106,58 @@ class RecordingKits : public PushService,
                       public FeedbackService,
                       public Analytics {
 public:
-    void start(const QString &applicationKey, const QVariantMap &launchOptions) override;
-    void setLogEnabled(bool enabled) override;
-    void registerForTypes(int types, const QList<PushCategory> &categories) override;
-    void registerDeviceToken(const QByteArray &token) override;
-    void setAlias(const QString &alias, const QString &type) override;
-    void didReceiveRemoteNotification(const QVariantMap &payload) override;
+    void start(const QString &applicationKey, const QVariantMap &) override
+    {
+        note("startPush", applicationKey);
+    }
+    void setLogEnabled(bool enabled) override { note("setLogEnabled", int{enabled}); }
+    void registerForTypes(int types, const QList<PushCategory> &asked) override
+    {
+        categories = asked;
+        note("registerForTypes", types);
+    }
+    void registerDeviceToken(const QByteArray &token) override { note("registerDeviceToken", token); }
+    void setAlias(const QString &alias, const QString &type) override
+    {
+        if (onAlias)
+            onAlias(alias);
+        note("setAlias", alias, type);
+    }
+    void didReceiveRemoteNotification(const QVariantMap &) override { note("didReceiveRemoteNotification"); }
     void onRemoteNotification(std::function<void(const QVariantMap &)> receive) override
     {
         push = std::move(receive);
     }
 
-    void setText(const QString &text) override;
-    bool open(const QString &url) override;
+    void setText(const QString &text) override { note("setText", text); }
+    bool open(const QString &url) override
+    {
+        note("open", url);
+        return opens;
+    }
 
-    void start(const QString &applicationKey) override;
-    void hideTargetsNotInstalled() override;
-    void registerTarget(const ShareTarget &target) override;
-    void share(const ShareContent &content) override;
-    bool handleOpenUrl(const QString &url) override;
-    void show() override;
+    void start(const QString &applicationKey) override { note("startKit", applicationKey); }
+    void hideTargetsNotInstalled() override { note("hideTargetsNotInstalled"); }
+    void registerTarget(const ShareTarget &target) override { note("registerTarget", target.name); }
+    void share(const ShareContent &content) override
+    {
+        shared = content;
+        note("share", content.title);
+    }
+    bool handleOpenUrl(const QString &url) override
+    {
+        note("handleOpenUrl", url);
+        return false;
+    }
+    void show() override { note("show"); }
 
-    void start(const QString &applicationKey, int reportPolicy, const QString &channel) override;
-    void checkUpdate() override;
-    void beginLogPageView(const QString &page) override;
-    void endLogPageView(const QString &page) override;
+    void start(const QString &applicationKey, int reportPolicy, const QString &channel) override
+    {
+        note("startAnalytics", applicationKey, reportPolicy, channel);
+    }
+    void checkUpdate() override { note("checkUpdate"); }
+    void beginLogPageView(const QString &page) override { note("beginLogPageView", page); }
+    void endLogPageView(const QString &page) override { note("endLogPageView", page); }
 
     QStringList calls;
     /// Whether there is something that opens URLs.
@@ -139,6 +166,12 @@ public:
     QList<PushCategory> categories;
     ShareContent shared;
     std::function<void(const QVariantMap &)> push;
+
+private:
+    template <typename... Texts> void note(const char *function, const Texts &...texts)
+    {
+        calls.append((QStringList{function} << ... << QVariant(texts).toString()).join(u' '));
+    }
 };
 
 class FakeApplication : public ApplicationInfo {

@@ -44,12 +44,11 @@ public:
     /// A stack of one screen, owned by the caller's engine.
     Q_INVOKABLE KRNavigationController *makeStack();
     Q_INVOKABLE void push(KRNavigationController *stack, const QString &title, bool gesture);
-    Q_INVOKABLE void pop(KRNavigationController *stack) { stack->pop(); }
     Q_INVOKABLE CountingList *makeList();
     Q_INVOKABLE TZGuideController *makeGuide();
     /// A stack of one page over the window; its bar closes it.
     Q_INVOKABLE void present(const QString &title);
-    Q_INVOKABLE void showQuestion(const QString &text = QStringLiteral("确定？"));
+    Q_INVOKABLE void showQuestion(const QString &text);
     Q_INVOKABLE TZTradePwdAlertView *showPrompt();
     void checkTradePwd(const QString &password) override { given = password; }
     /// The buttons that were pressed, or the password that was handed over.

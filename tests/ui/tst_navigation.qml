@@ -52,27 +52,16 @@ Item {
             tryVerify(() => slots()[slots().length - 1].progress === 1)
         }
 
-        function test_aCoveredScreenIsNotRendered() {
-            verify(slots()[0].visible)
+        function test_aCoveredScreenIsNotRenderedAndEscapeLetsTheUpperOneLeave() {
             pushed("second", true)
             verify(!slots()[0].visible)
             verify(slots()[1].visible)
-        }
-
-        function test_aPoppedScreenStaysUntilItHasLeft() {
-            pushed("second", true)
-            world.pop(navigation)
-            compare(navigation.depth, 1)
-            compare(slots().length, 2)
-            tryCompare(navigation, "depth", 1)
-            tryVerify(() => slots().length === 1)
-            compare(slots()[0].x, 0)
-        }
-
-        function test_escapeGoesBack() {
-            pushed("second", true)
             keyClick(Qt.Key_Escape)
             compare(navigation.depth, 1)
+            compare(slots().length, 2)
+            tryVerify(() => slots().length === 1)
+            compare(slots()[0].x, 0)
+            verify(slots()[0].visible)
         }
 
         function test_aDoubleTapOpensOneScreen() {
@@ -113,23 +102,21 @@ Item {
             mouseRelease(view, to, 300)
         }
 
-        function test_aSwipeFromTheEdgeGoesBack() {
-            pushed("second", true)
-            swipe(300)
-            compare(navigation.depth, 1)
+        function test_aSwipeFromTheEdge_data() {
+            return [
+                { tag: "goes back", screens: 1, gesture: true, to: 300, left: 1 },
+                { tag: "too short, slides back in", screens: 1, gesture: true, to: 60, left: 2 },
+                { tag: "on a screen without the gesture", screens: 1, gesture: false, to: 300, left: 2 },
+                { tag: "on the root", screens: 0, to: 300, left: 1 }
+            ]
         }
 
-        function test_aShortSwipeSlidesBackIn() {
-            pushed("second", true)
-            swipe(60)
-            compare(navigation.depth, 2)
-            tryVerify(() => slots()[1].x === 0)
-        }
-
-        function test_aScreenWithoutTheGestureStays() {
-            pushed("second", false)
-            swipe(300)
-            compare(navigation.depth, 2)
+        function test_aSwipeFromTheEdge(row) {
+            if (row.screens > 0)
+                pushed("second", row.gesture)
+            swipe(row.to)
+            compare(navigation.depth, row.left)
+            tryVerify(() => slots()[row.left - 1].x === 0)
         }
 
         function test_theGuideFollowsTheFingerAndItsButtonsAndDoesNotBounce() {
@@ -152,12 +139,6 @@ Item {
             compare(dots(), [false, true, false, false])
             guide.controller.toNextPage()
             tryCompare(leaves, "contentX", 2 * 390)
-        }
-
-        function test_noSwipeOnTheRoot() {
-            swipe(300)
-            compare(navigation.depth, 1)
-            compare(slots()[0].x, 0)
         }
     }
 }

@@ -70,6 +70,17 @@ Item {
             return item !== null && item.text === text && item.showsFocus
         }
 
+        /// The button that has the keyboard of a question that was brought up.
+        function asked(text = "确定？") {
+            world.showQuestion(text)
+            tryVerify(() => holdsFocus("确定"))
+            return content.Window.activeFocusItem
+        }
+
+        function centre(item) {
+            return item.mapToItem(content, item.width / 2, item.height / 2)
+        }
+
         // Part of what the dialogs and pages cover.
         function initTestCase() {
             behind.parent = find(content, item => item instanceof RootLoader)
@@ -80,8 +91,7 @@ Item {
         }
 
         function test_tabStaysInADialog() {
-            world.showQuestion()
-            tryVerify(() => holdsFocus("确定"))
+            asked()
             keyClick(Qt.Key_Tab)
             verify(holdsFocus("取消"))
             keyClick(Qt.Key_Tab)
@@ -93,9 +103,7 @@ Item {
         }
 
         function test_aLongDialogScrollsAboveButtonsThatStayInTheWindow() {
-            world.showQuestion(("一段很长的说明。".repeat(20) + "\n").repeat(12))
-            tryVerify(() => holdsFocus("确定"))
-            const button = content.Window.activeFocusItem
+            const button = asked(("一段很长的说明。".repeat(20) + "\n").repeat(12))
             const dialog = find(content, item => item instanceof DialogFrame && item !== lifted)
             tryVerify(() => dialog.scroll.contentHeight > dialog.scroll.height)
             const end = dialog.scroll.contentHeight - dialog.scroll.height
@@ -108,19 +116,23 @@ Item {
             compare(world.answers(), "right ")
         }
 
-        function test_aDialogSaysWhatItAsks() {
-            world.showQuestion()
-            tryVerify(() => holdsFocus("确定"))
-            compare(world.spoken(content.Window.activeFocusItem).description, "确定？")
+        function test_aDialogSaysWhatItAsksAndIsAnsweredOnlyOnPurpose() {
+            const question = asked()
+            compare(world.spoken(question).description, "确定？")
             const heard = world.heard(content.Window.window)
             verify(heard.includes("提示|确定？|"), heard)
+            world.repeatKey(content, Qt.Key_Return)
+            world.repeatKey(content, Qt.Key_Escape)
+            mouseClick(content, 50, 24)
+            compare(world.window.dialogs.count, 1, "a held key brought it up, a tap beside it is none")
+            compare(behind.taps, 0)
             keyClick(Qt.Key_Escape)
+            compare(world.window.dialogs.count, 0)
         }
 
         function test_whatADialogCoversIsNeitherPressedNorLosesItsPlace() {
             behind.forceActiveFocus()
-            world.showQuestion()
-            tryVerify(() => holdsFocus("确定"))
+            asked()
             const colour = behind.background.color
             world.pressSpoken(behind)
             compare(behind.taps, 0)
@@ -131,22 +143,6 @@ Item {
             verify(behind.activeFocus && behind.showsFocus)
             world.pressSpoken(behind)
             compare(behind.taps, 1)
-        }
-
-        function test_aHeldEnterDoesNotAnswerTheQuestionItBroughtUp() {
-            world.showQuestion()
-            tryVerify(() => holdsFocus("确定"))
-            world.repeatKey(content, Qt.Key_Return)
-            world.repeatKey(content, Qt.Key_Escape)
-            compare(world.window.dialogs.count, 1)
-            keyClick(Qt.Key_Escape)
-        }
-
-        function test_aTapBesideADialogReachesNothing() {
-            world.showQuestion()
-            mouseClick(content, 50, 24)
-            compare(behind.taps, 0)
-            keyClick(Qt.Key_Escape)
         }
 
         function test_aDialogIsLiftedAboveTheKeyboardThatWouldCoverIt() {
@@ -175,25 +171,36 @@ Item {
             compare(world.answers(), "123456")
         }
 
-        function test_nothingIsReachedWhileWaiting() {
+        function test_whileWaitingOnlyEscReachesWhatIsCovered() {
             behind.forceActiveFocus()
             world.wait(true)
-            mouseClick(content, 50, 24)
-            keyClick(Qt.Key_Return)
-            keyClick(Qt.Key_Tab)
-            keyClick(Qt.Key_Space)
+            const tryAll = () => {
+                mouseClick(content, 50, 24)
+                mouseClick(content, 370, 40)
+                for (const key of [Qt.Key_Return, Qt.Key_Tab, Qt.Key_Space])
+                    keyClick(key)
+            }
+            tryAll()
             compare(behind.taps, 0)
-        }
 
-        function test_whileWaitingEscCancelsTheCoveredDialog() {
-            world.showQuestion()
-            tryVerify(() => holdsFocus("确定"))
+            world.wait(false)
+            asked()
             world.wait(true)
-            keyClick(Qt.Key_Return)
+            tryAll()
             compare(world.window.dialogs.count, 1)
             keyClick(Qt.Key_Escape)
             compare(world.window.dialogs.count, 0)
             compare(world.answers(), "")
+
+            world.wait(false)
+            world.present("covered")
+            tryCompare(content, "cover", 0)
+            world.wait(true)
+            tryAll()
+            compare(world.window.presented.count, 1)
+            keyClick(Qt.Key_Escape)
+            compare(world.window.presented.count, 0)
+            tryCompare(content, "cover", -1)
         }
 
         function test_aLongWaitOffersAButtonThatLeadsOut() {
@@ -241,7 +248,7 @@ Item {
                 tryCompare(content, "cover", row)
             }
             const close = find(content, item => item instanceof BarItem && item.visible && item.Accessible.name === "关闭")
-            const place = close.mapToItem(content, close.width / 2, close.height / 2)
+            const place = centre(close)
             mouseClick(content, place.x, place.y)
             const upper = find(content, item => item instanceof PresentedStack && item.leaving)
             upper.y = 500
@@ -254,10 +261,7 @@ Item {
         }
 
         function test_aDoubleTapOnADialogsButtonReachesNothingBelow() {
-            world.showQuestion()
-            tryVerify(() => holdsFocus("确定"))
-            const button = content.Window.activeFocusItem
-            const place = button.mapToItem(content, button.width / 2, button.height / 2)
+            const place = centre(asked())
             mouseClick(content, place.x, place.y)
             mouseClick(content, place.x, place.y)
             compare(world.answers(), "right ")
@@ -265,18 +269,6 @@ Item {
             tryVerify(() => find(content, item => item instanceof DialogLoader) === null)
             mouseClick(content, place.x, place.y)
             compare(behind.taps, 1)
-        }
-
-        function test_whileWaitingEscLeavesTheCoveredScreen() {
-            world.present("covered")
-            tryCompare(content, "cover", 0)
-            world.wait(true)
-            mouseClick(content, 370, 40)
-            keyClick(Qt.Key_Return)
-            compare(world.window.presented.count, 1)
-            keyClick(Qt.Key_Escape)
-            compare(world.window.presented.count, 0)
-            tryCompare(content, "cover", -1)
         }
     }
 }
