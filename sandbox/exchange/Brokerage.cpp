@@ -174,12 +174,6 @@ void Brokerage::tick()
     m_parts->catchUp();
 }
 
-bool Brokerage::hasAccount(UserId user)
-{
-    const std::lock_guard lock(m_parts->mutex);
-    return m_parts->books.account(user).has_value();
-}
-
 void Brokerage::createAccount(UserId user)
 {
     const std::lock_guard lock(m_parts->mutex);
@@ -197,23 +191,6 @@ Outcome<Cents> Brokerage::deposit(UserId user, Cents amount, const std::string &
     if (amount <= 0)
         return Refusal{Rule::Cash, "金额不正确"};
     m_parts->change(now, [&] { m_parts->books.record(now, CashMoved{user, amount, reason}); });
-    return m_parts->books.account(user)->available;
-}
-
-Outcome<Cents> Brokerage::withdraw(UserId user, Cents amount, const std::string &reason)
-{
-    const std::lock_guard lock(m_parts->mutex);
-    const Millis now = m_parts->catchUp();
-    const auto account = m_parts->books.account(user);
-    if (!account)
-        return Refusal{Rule::Account, "交易账户不存在"};
-    if (amount <= 0)
-        return Refusal{Rule::Cash, "金额不正确"};
-    const Cents withdrawable = summaryOf(*account, {}).withdrawable;
-    if (amount > withdrawable)
-        return Refusal{Rule::Cash,
-                       "可取资金不足，当前可取" + yuanText(withdrawable) + "元，当日卖出所得下一交易日可取"};
-    m_parts->change(now, [&] { m_parts->books.record(now, CashMoved{user, -amount, reason}); });
     return m_parts->books.account(user)->available;
 }
 

@@ -57,13 +57,10 @@ public:
 
     // Accounts
 
-    bool hasAccount(UserId user);
     /** Opens an empty account; nothing happens when there is one. */
     void createAccount(UserId user);
     /** Adds money; the amount is above 0. The reason is kept in the event log. */
     Outcome<Cents> deposit(UserId user, Cents amount, const std::string &reason);
-    /** Takes money, at most the withdrawable amount. Answers the available money after it. */
-    Outcome<Cents> withdraw(UserId user, Cents amount, const std::string &reason);
     /** Puts shares into an account, sellable at once, at the given cost of all of them. */
     Outcome<Shares> grantShares(UserId user, const std::string &stockCode, Shares shares, Cents cost);
     /**

@@ -63,15 +63,6 @@ void PushHub::send(UserId user, const std::string &line)
     m_news.notify_all();
 }
 
-std::set<UserId> PushHub::listeners() const
-{
-    const std::scoped_lock lock(m_mutex);
-    std::set<UserId> users;
-    for (const Stream *stream : m_streams)
-        users.insert(stream->m_user);
-    return users;
-}
-
 std::size_t PushHub::streams() const
 {
     const std::scoped_lock lock(m_mutex);

@@ -44,8 +44,6 @@ public:
     /// Sends a line (one JSON object, no line break) to every stream of the user. Nobody listening: it is
     /// dropped.
     void send(UserId user, const std::string &line);
-    /// The users who have a stream now.
-    std::set<UserId> listeners() const;
     /// How many streams are open.
     std::size_t streams() const;
     /// Ends every stream, for the end of the program.

@@ -300,10 +300,10 @@ class Day:
         assert self.demo.holding(self.main)["availableShares"] == "2000", "T+1"
 
     def next_day(self):
-        close = self.price(self.main, "match")
+        closes = {stock: self.price(stock, "match") for stock in (self.main, self.sealed, self.star)}
         self.sandbox.console("clock", action="tomorrow")
         self.midnight = self.sandbox.now() - recompute.at("9:15")
-        assert self.price(self.main, "previousClose") == close
+        assert closes == {stock: self.price(stock, "previousClose") for stock in closes}, "moved by hand or not"
         held = self.demo.holding(self.main)
         assert held["availableShares"] == held["shares"] != "2000"
         assert self.demo.withdrawable() == self.demo.money()[0]

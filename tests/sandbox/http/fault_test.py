@@ -28,8 +28,11 @@ class FaultTest(WireTest):
         self.add(kind, **more)
         return self.answer()
 
+    def open_orders(self):
+        return len(self.other.get("callBackPage", self.token)["data"])
+
     def expect_open(self, count):
-        self.assertEqual(len(self.other.get("callBackPage", self.token)["data"]), count)
+        self.assertEqual(self.open_orders(), count)
 
     def test_what_is_dropped_before_acceptance_is_not_in_the_books_and_what_is_dropped_after_it_is(self):
         self.add("drop-before", count=25)
@@ -45,9 +48,11 @@ class FaultTest(WireTest):
             self.add(kind, delay=700)
             late = threading.Thread(target=self.answer)
             late.start()
-            time.sleep(0.3)
-            self.expect_open(meanwhile)
-            late.join()
+            seen = []
+            while late.is_alive():
+                seen.append(self.open_orders())
+                time.sleep(0.02)
+            self.assertEqual(seen[len(seen) // 2], meanwhile, kind)
             self.expect_open(at_last)
 
     def test_answers_are_spoilt_as_asked_after_the_order_was_taken_or_instead_of_it(self):

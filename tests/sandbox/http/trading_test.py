@@ -1,5 +1,6 @@
 """Who may trade: the trade password of a session, and everybody's orders his own."""
 import http.client
+import itertools
 import json
 import signal
 import threading
@@ -53,9 +54,10 @@ class TradingTest(WireTest):
     def test_a_killed_service_has_lost_nothing_that_it_answered(self):
         answered = set()
         for moment in range(10):
-            threading.Timer(0.05 + 0.007 * moment, self.sandbox.process.kill).start()
             try:
-                while True:
+                for number in itertools.count():
+                    if number == 3:
+                        threading.Timer(0.001 * moment, self.sandbox.process.kill).start()
                     order = json.loads(self.buy(tradePassword="123456").body)["data"]
                     answered.add(order["id"])
                     self.post("entrust/createCancel", tradeEntrustNo=order["entrustNo"])
@@ -64,7 +66,6 @@ class TradingTest(WireTest):
                 self.sandbox.restart(signal.SIGKILL)
             self.assertLessEqual(answered, {order["id"] for order in self.sandbox.state()["users"][0]["orders"]})
             self.expect_sound_books()
-        self.assertGreater(len(answered), 20)
 
     def test_many_callers_at_once_lose_no_order(self):
         def trade(caller):
