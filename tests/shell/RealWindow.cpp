@@ -5,6 +5,7 @@
 #include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QMouseEvent>
+#include <QQuickItem>
 #include <QQuickWindow>
 
 using namespace std::chrono_literals;
@@ -16,6 +17,26 @@ void collect(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     if (type != QtDebugMsg && type != QtInfoMsg)
         collected += message.toStdString() + '\n';
+}
+
+QQuickItem *itemIn(const QQuickItem *area, const char *property, const QString &value)
+{
+    for (QQuickItem *const child : area->childItems()) {
+        if (!child->isVisible())
+            continue;
+        if (child->property(property).toString() == value)
+            return child;
+        if (QQuickItem *const found = itemIn(child, property, value))
+            return found;
+    }
+    return nullptr;
+}
+
+void send(QQuickWindow *window, QEvent::Type type, const QPointF &place)
+{
+    QMouseEvent event(type, place, window->mapToGlobal(place), Qt::LeftButton,
+                      type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window, &event);
 }
 } // namespace
 
@@ -40,10 +61,17 @@ void RealWindowTest::TearDown()
     EXPECT_EQ(complaints(), "");
 }
 
-void RealWindowTest::pass()
+void RealWindowTest::pass() const
 {
-    for (const QDeadlineTimer limit(400ms); !limit.hasExpired();)
+    const auto slides = [this] { return shown && itemIn(shown->contentItem(), "sliding", "true"); };
+    const QDeadlineTimer patience(5s);
+    for (const QDeadlineTimer limit(400ms); !limit.hasExpired() || (slides() && !patience.hasExpired());)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+}
+
+void RealWindowTest::draw() const
+{
+    shown->grabWindow();
 }
 
 void RealWindowTest::answerAll()
@@ -59,16 +87,43 @@ void RealWindowTest::answerAll()
 
 void RealWindowTest::tap(const QPointF &place) const
 {
-    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        QMouseEvent event(type, place, shown->mapToGlobal(place), Qt::LeftButton,
-                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(shown, &event);
-    }
+    press(place);
+    release(place);
 }
 
 std::string RealWindowTest::complaints()
 {
     return std::exchange(collected, {});
+}
+
+QQuickItem *RealWindowTest::item(const char *property, const QString &value, const QQuickItem *area) const
+{
+    QQuickItem *const found = itemIn(area ? area : shown->contentItem(), property, value);
+    EXPECT_NE(found, nullptr) << value.toStdString();
+    return found;
+}
+
+QPointF RealWindowTest::middleOf(const QQuickItem *item)
+{
+    return item ? item->mapToScene(item->boundingRect().center()) : QPointF();
+}
+
+void RealWindowTest::press(const QPointF &place) const
+{
+    send(shown, QEvent::MouseButtonPress, place);
+}
+
+void RealWindowTest::release(const QPointF &place) const
+{
+    send(shown, QEvent::MouseButtonRelease, place);
+}
+
+void RealWindowTest::strike(Qt::Key key) const
+{
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, key, Qt::NoModifier);
+        QCoreApplication::sendEvent(shown, &event);
+    }
 }
 
 int main(int argc, char **argv)

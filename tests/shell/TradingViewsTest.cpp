@@ -1,46 +1,13 @@
-#include "core/shell/KRNavigationController.h"
 #include "tests/shell/RealWindow.h"
 #include "trading/screens/TZBuyAndSellController.h"
 #include "trading/screens/TZDealAndEntrustController.h"
 
 #include <QQuickItem>
-#include <QQuickWindow>
 
 using namespace std::chrono_literals;
 
 /// What the views of trading show, and where.
-class TradingViewsTest : public RealWindowTest {
-protected:
-    template <typename Screen, typename... Arguments> Screen *present(Arguments &&...arguments)
-    {
-        auto screen = std::make_unique<Screen>(std::forward<Arguments>(arguments)...);
-        Screen *const presented = screen.get();
-        window.present(std::move(screen));
-        return presented;
-    }
-
-    /// What is seen with `value` as its `property`; null, and a failed test, when there is none.
-    QQuickItem *item(const char *property, const QString &value) const
-    {
-        QQuickItem *const found = itemIn(*shown->contentItem(), property, value);
-        EXPECT_NE(found, nullptr) << value.toStdString();
-        return found;
-    }
-
-private:
-    static QQuickItem *itemIn(QQuickItem &area, const char *property, const QString &value)
-    {
-        for (QQuickItem *const child : area.childItems()) {
-            if (!child->isVisible())
-                continue;
-            if (child->property(property).toString() == value)
-                return child;
-            if (QQuickItem *const found = itemIn(*child, property, value))
-                return found;
-        }
-        return nullptr;
-    }
-};
+using TradingViewsTest = RealWindowTest;
 
 TEST_F(TradingViewsTest, SellLevelsStandAboveBuyLevelsAndEachQuickButtonWritesItsFraction)
 {
@@ -68,8 +35,7 @@ TEST_F(TradingViewsTest, SellLevelsStandAboveBuyLevelsAndEachQuickButtonWritesIt
 
     for (const auto &[title, quantity] :
          {std::pair("1/4", "200"), std::pair("1/2", "400"), std::pair("全部", "800")}) {
-        if (const QQuickItem *const button = item("text", title))
-            tap(button->mapToScene(button->boundingRect().center()));
+        tap(middleOf(item("text", title)));
         EXPECT_EQ(screen->quantity(), quantity) << title;
     }
 }

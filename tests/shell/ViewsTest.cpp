@@ -15,7 +15,6 @@
 
 #include <QGuiApplication>
 #include <QInputMethodEvent>
-#include <QKeyEvent>
 #include <QQuickItem>
 #include <QQuickWindow>
 
@@ -107,20 +106,14 @@ TEST_F(ViewsTest, OnASmallWindowTheKeyboardFindsTheAgreementInSight)
     shown->resize(360, 480);
     window.present(std::make_unique<TZRegisterController>(router));
     pass();
-    const auto press = [this](Qt::Key key) {
-        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent event(type, key, Qt::NoModifier);
-            QCoreApplication::sendEvent(shown, &event);
-        }
-    };
     const QString agreement = QStringLiteral("软件许可使用协议");
     for (int tab = 0; tab < 10 && shown->activeFocusItem()->property("text") != agreement; ++tab)
-        press(Qt::Key_Tab);
+        strike(Qt::Key_Tab);
     const QQuickItem *const link = shown->activeFocusItem();
     ASSERT_EQ(link->property("text"), agreement);
     const QRectF place = link->mapRectToScene(link->boundingRect());
     EXPECT_TRUE(QRectF(0, 0, shown->width(), shown->height()).contains(place));
-    press(Qt::Key_Return);
+    strike(Qt::Key_Return);
     EXPECT_EQ(window.topStack()->top()->title(), agreement);
     pass();
 }
