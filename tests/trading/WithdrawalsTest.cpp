@@ -155,10 +155,14 @@ TEST_F(WithdrawalsTest, ASecondCancellationIsWatchedInPlaceOfTheFirst)
     EXPECT_EQ(http.last().fields().value("id"), "12");
 }
 
-TEST_F(WithdrawalsTest, ARefusedCancellationIsNotWatched)
+TEST_F(WithdrawalsTest, ARefusedCancellationIsNotWatchedAndTheListTellsWhy)
 {
     cancel(0);
     http.answer(cancelPath, refused("该委托已成交"));
+    EXPECT_EQ(banners(), QStringList{"该委托已成交"});
+    EXPECT_FALSE(overlays.isWaiting());
+    list({entrust("12", "E12", "2")});
+    EXPECT_EQ(screen->rows()->count(), 1);
     EXPECT_EQ(banners(), QStringList{"该委托已成交"});
     runLoop.advance(1min);
     EXPECT_EQ(http.countOf(statusPath), 0);

@@ -114,16 +114,24 @@ void TZWithdrawalsController::sayOutcome(const QString &text)
 void TZWithdrawalsController::withdrawals()
 {
     const QString id = callBackPageModel.id;
-    const auto answered = [this, id](const Operation &, const QVariantMap &) {
+    // A refusal, which calls neither, says that the entrust is not what the list shows: it was filled
+    // meanwhile.
+    const auto outdates = std::make_shared<bool>(true);
+    const auto answered = [this, id, outdates](const Operation &, const QVariantMap &) {
+        *outdates = false;
         watchedOrder = id;
         watchCancellation();
     };
-    const auto lost = [this](const Operation &, const RequestError &error) {
-        if (error.mayHaveArrived())
-            readAgain();
+    const auto lost = [outdates](const Operation &, const RequestError &error) {
+        *outdates = error.mayHaveArrived();
     };
-    TZTradeTool::postCreateCancelWithParam({{QStringLiteral("tradeEntrustNo"), callBackPageModel.entrustNo}},
-                                           Success{this, answered}, Failure{this, lost});
+    const Operation operation = TZTradeTool::postCreateCancelWithParam(
+        {{QStringLiteral("tradeEntrustNo"), callBackPageModel.entrustNo}}, Success{this, answered},
+        Failure{this, lost});
+    connect(operation.get(), &RequestOperation::finished, this, [this, outdates] {
+        if (*outdates)
+            readAgain();
+    });
 }
 
 void TZWithdrawalsController::watchCancellation()
