@@ -70,6 +70,11 @@ void TapArea::press()
         Q_EMIT clicked();
 }
 
+void TapArea::letGo()
+{
+    ungrabMouse();
+}
+
 void TapArea::mousePressEvent(QMouseEvent *)
 {
     setPressed(true);
@@ -86,6 +91,11 @@ void TapArea::mouseReleaseEvent(QMouseEvent *)
         return;
     setPressed(false);
     Q_EMIT clicked();
+}
+
+void TapArea::mouseDoubleClickEvent(QMouseEvent *)
+{
+    // Comes after the second press. Refused, it would take that press away from a finger.
 }
 
 void TapArea::mouseUngrabEvent()

@@ -32,6 +32,8 @@ public:
 
     /// Does nothing while it is disabled.
     Q_INVOKABLE void press();
+    /// The pointer that is down on it does nothing more: what it stands for has changed.
+    Q_INVOKABLE void letGo();
 
 Q_SIGNALS:
     void clicked();
@@ -47,6 +49,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseUngrabEvent() override;
     void keyPressEvent(QKeyEvent *event) override;
     void geometryChange(const QRectF &now, const QRectF &before) override;

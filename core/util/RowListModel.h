@@ -3,6 +3,8 @@
 #include <QAbstractListModel>
 #include <QMetaObject>
 #include <QMetaProperty>
+#include <QSet>
+#include <algorithm>
 
 /// Rows of one gadget type for a list; each property is a role of its own name.
 class GadgetListModel : public QAbstractListModel {
@@ -29,6 +31,13 @@ private:
     const QMetaObject &type;
 };
 
+/// A row that says what it stands for: the number of an order, the code of a stock.
+template <typename Row>
+concept Identified = requires(const Row &row)
+{
+    row.identity();
+};
+
 template <typename Row> class RowListModel : public GadgetListModel {
 public:
     explicit RowListModel(QObject *parent = nullptr) : GadgetListModel(Row::staticMetaObject, parent) {}
@@ -36,11 +45,15 @@ public:
     const QList<Row> &rows() const { return stored; }
     const Row &at(int row) const { return stored.at(row); }
 
-    /// Rows are updated in place where the number is the same, so that a list that is redrawn keeps its
-    /// position.
+    /// Rows that stand for the same as before are moved and updated, so that what a finger is on, or the
+    /// keyboard, stays what it was. Rows without an identity are updated in place where the number is the
+    /// same, so that a list that is redrawn keeps its position.
     void setRows(QList<Row> rows)
     {
-        if (rows.size() == stored.size() && !rows.isEmpty()) {
+        if constexpr (Identified<Row>) {
+            if (const QSet<QString> staying = identitiesOf(stored) & identitiesOf(rows); !staying.isEmpty())
+                return merge(rows, staying);
+        } else if (rows.size() == stored.size() && !rows.isEmpty()) {
             stored = std::move(rows);
             Q_EMIT dataChanged(index(0), index(size() - 1));
             return;
@@ -55,17 +68,13 @@ public:
     {
         if (rows.isEmpty())
             return;
-        beginInsertRows({}, size(), size() + static_cast<int>(rows.size()) - 1);
-        stored += rows;
-        endInsertRows();
+        insert(size(), rows);
         Q_EMIT countChanged();
     }
 
     void removeAt(int row)
     {
-        beginRemoveRows({}, row, row);
-        stored.removeAt(row);
-        endRemoveRows();
+        remove(row, row + 1);
         Q_EMIT countChanged();
     }
 
@@ -80,5 +89,74 @@ protected:
     const void *gadget(int row) const override { return &stored.at(row); }
 
 private:
+    static QSet<QString> identitiesOf(const QList<Row> &rows)
+    {
+        QSet<QString> identities;
+        for (const Row &row : rows)
+            identities.insert(row.identity());
+        return identities;
+    }
+
+    void merge(const QList<Row> &rows, const QSet<QString> &staying)
+    {
+        const int before = size();
+        const auto stays = [&staying](const Row &row) { return staying.contains(row.identity()); };
+        for (int end = size(); end > 0; --end) {
+            int first = end;
+            while (first > 0 && !stays(stored.at(first - 1)))
+                --first;
+            remove(first, end);
+            end = first;
+        }
+        for (int row = 0; row < rows.size(); ++row) {
+            int next = row;
+            while (next < rows.size() && !stays(rows.at(next)))
+                ++next;
+            insert(row, rows.mid(row, next - row));
+            row = next;
+            if (row < rows.size())
+                bring(row, rows.at(row));
+        }
+        remove(static_cast<int>(rows.size()), size());
+        Q_EMIT dataChanged(index(0), index(size() - 1));
+        if (size() != before)
+            Q_EMIT countChanged();
+    }
+
+    void remove(int first, int end)
+    {
+        if (first >= end)
+            return;
+        beginRemoveRows({}, first, end - 1);
+        stored.remove(first, end - first);
+        endRemoveRows();
+    }
+
+    void insert(int at, const QList<Row> &rows)
+    {
+        if (rows.isEmpty())
+            return;
+        beginInsertRows({}, at, at + static_cast<int>(rows.size()) - 1);
+        stored = stored.mid(0, at) + rows + stored.mid(at);
+        endInsertRows();
+    }
+
+    /// Puts the row that stood for the same, or else a new one, at `to`; what stands before is in its place.
+    void bring(int to, const Row &row)
+    {
+        const auto old = std::find_if(stored.cbegin() + to, stored.cend(), [&row](const Row &other) {
+            return other.identity() == row.identity();
+        });
+        const int from = static_cast<int>(old - stored.cbegin());
+        if (from == size())
+            return insert(to, {row});
+        if (from > to) {
+            beginMoveRows({}, from, from, {}, to);
+            stored.move(from, to);
+            endMoveRows();
+        }
+        stored[to] = row;
+    }
+
     QList<Row> stored;
 };

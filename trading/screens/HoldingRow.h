@@ -29,6 +29,7 @@ public:
     int trend = 0;
     QString sentence;
 
+    QString identity() const { return code; }
     static HoldingRow of(const TZZorvanePageStocksModel &holding);
 };
 

@@ -19,7 +19,8 @@ TodayRow TodayRow::of(const TZEntrustsTodayModel &entrust)
             status.text,
             QStringLiteral("委托"),
             status.tone == EntrustStatus::Dealt,
-            status.tone == EntrustStatus::Waiting};
+            status.tone == EntrustStatus::Waiting,
+            entrust.id};
 }
 
 TodayRow TodayRow::of(const TZDetailsTodayModel &deal)
@@ -33,7 +34,8 @@ TodayRow TodayRow::of(const TZDetailsTodayModel &deal)
             deal.businessMoney,
             QStringLiteral("成交"),
             false,
-            false};
+            false,
+            deal.id};
 }
 
 QString TodayRow::sentence() const

@@ -33,10 +33,12 @@ public:
     QString sharesLabel;
     bool dealt = false;
     bool waiting = false;
+    QString id;
 
     static TodayRow of(const TZEntrustsTodayModel &entrust);
     static TodayRow of(const TZDetailsTodayModel &deal);
     QString sentence() const;
+    QString identity() const { return id; }
 };
 
 /// Today's entrusts on the left page, today's deals on the right one. The deals are read when they are first

@@ -16,6 +16,7 @@ const QString dataKey = QStringLiteral("data");
 
 WithdrawalRow WithdrawalRow::of(const TZCallBackPageModel &entrust)
 {
+    const bool cancellable = !Service::whetherAnEmptyString(entrust.entrustNo);
     return {TradeTexts::stock(entrust.stockName, entrust.stockCode),
             TradeTexts::side(entrust.type),
             TradeTexts::isSell(entrust.type),
@@ -23,7 +24,8 @@ WithdrawalRow WithdrawalRow::of(const TZCallBackPageModel &entrust)
             entrust.entrustShares,
             entrust.businessShares,
             EntrustStatus::of(entrust.status).text,
-            !Service::whetherAnEmptyString(entrust.entrustNo)};
+            cancellable,
+            cancellable ? entrust.entrustNo : entrust.id};
 }
 
 QString WithdrawalRow::sentence() const

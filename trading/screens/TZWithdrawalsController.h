@@ -27,9 +27,12 @@ public:
     QString dealt;
     QString status;
     bool cancellable = false;
+    /// Of the entrust; with nothing to cancel it by, what else the service calls it.
+    QString number;
 
     static WithdrawalRow of(const TZCallBackPageModel &entrust);
     QString sentence() const;
+    QString identity() const { return number; }
 };
 
 /// Cancels orders. After a cancellation was accepted it is asked every three seconds, without limit, whether

@@ -130,12 +130,20 @@ PageFrame {
 
         signal detailAsked
 
+        /// It stands for another stock now.
+        function drop() {
+            letGo()
+            detail.letGo()
+        }
+
         implicitHeight: Theme.rowHeight
         ringInset: 2
         activeFocusOnTab: false
         text: sentence
         Accessible.role: Accessible.ListItem
         Accessible.selected: current
+        ListView.onPooled: drop()
+        onSentenceChanged: drop()
 
         background: Rectangle {
             color: row.pressed || row.current ? Theme.surfacePressed : Theme.surface

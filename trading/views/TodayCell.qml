@@ -21,6 +21,7 @@ Tappable {
     deep: true
     ringInset: 2
     text: sentence
+    ListView.onPooled: letGo()
     background: Rectangle {
         color: cell.pressed ? cell.tones.surfacePressed : cell.tones.surface
 
