@@ -235,6 +235,8 @@ class Day:
         assert self.rich.status(taken) == recompute.PARTLY
         self.sandbox.restart()
         assert self.level(self.main, "sell") == levels[2], "what was taken stays taken, over a restart too"
+        late = self.demo.place("Buy", self.main, levels[1][0], 100)
+        assert self.demo.status(late) == recompute.ACCEPTED and self.demo.cancel(late)["success"], "nothing is left"
         money = sum(p * s for p, s, _ in deals)
         assert tuple(map(sum, zip(*(f for *_, f in deals)))) == fees(recompute.BUY, money), "fees of the whole order"
         assert self.rich.cancel(taken)["success"] and self.rich.status(taken) == recompute.CANCEL_ASKED_PARTLY

@@ -1,9 +1,11 @@
 """Who may trade: the trade password of a session, and everybody's orders his own."""
+import contextlib
 import http.client
-import itertools
 import json
 import signal
+import sqlite3
 import threading
+import time
 import unittest
 
 from wire import DEMO, NEWCOMER, WireTest
@@ -48,26 +50,34 @@ class TradingTest(WireTest):
             self.assertFalse(self.sandbox.post("entrust/" + path, stranger, **fields)["success"], path)
         self.assertEqual(len(self.data("callBackPage")), 1)
 
-    def expect_sound_books(self):
-        self.assertEqual(recompute.read(self.sandbox.database).compare(self.sandbox.state()), [])
+    def sound_books(self):
+        books = recompute.read(self.sandbox.database)
+        self.assertEqual(books.compare(self.sandbox.state()), [])
+        return books
 
     def test_a_killed_service_has_lost_nothing_that_it_answered(self):
-        answered = set()
-        for moment in range(10):
-            try:
-                for number in itertools.count():
-                    if number == 3:
-                        threading.Timer(0.001 * moment, self.sandbox.process.kill).start()
-                    order = json.loads(self.buy(tradePassword="123456").body)["data"]
-                    answered.add(order["id"])
-                    self.post("entrust/createCancel", tradeEntrustNo=order["entrustNo"])
-                    self.sandbox.console("reject", entrustNo=order["entrustNo"])
-            except (OSError, http.client.HTTPException):
-                self.sandbox.restart(signal.SIGKILL)
-            self.assertLessEqual(answered, {order["id"] for order in self.sandbox.state()["users"][0]["orders"]})
-            self.expect_sound_books()
+        def trade(caller):
+            with contextlib.suppress(OSError, http.client.HTTPException):
+                while True:
+                    order = json.loads(self.buy(caller=caller, tradePassword="123456").body)["data"]
+                    answered.append(int(order["id"]))
+                    caller.post("entrust/createCancel", self.token, tradeEntrustNo=order["entrustNo"])
+                    caller.console("reject", entrustNo=order["entrustNo"])
 
-    def test_many_callers_at_once_lose_no_order(self):
+        answered = []
+        for moment in range(12):
+            crowd = [threading.Thread(target=trade, args=[self.sandbox.another()]) for _ in range(4)]
+            for caller in crowd:
+                caller.start()
+            while len(answered) < 8 * (moment + 1):
+                time.sleep(0.001)
+            self.sandbox.process.kill()
+            for caller in crowd:
+                caller.join()
+            self.sandbox.restart(signal.SIGKILL)
+            self.assertLessEqual(set(answered), set(self.sound_books().orders))
+
+    def test_many_callers_at_once_lose_no_order_and_no_change_is_seen_by_halves(self):
         def trade(caller):
             for _ in range(40):
                 order = json.loads(self.buy("match", caller, tradePassword="123456").body)["data"]
@@ -79,10 +89,12 @@ class TradingTest(WireTest):
         crowd = [threading.Thread(target=trade, args=[self.sandbox.another()]) for _ in range(4)]
         for caller in crowd:
             caller.start()
-        for caller in crowd:
-            caller.join()
-        self.assertEqual(len(self.sandbox.state()["users"][0]["orders"]), 160)
-        self.expect_sound_books()
+        with contextlib.closing(sqlite3.connect(self.sandbox.database)) as reader:
+            while any(caller.is_alive() for caller in crowd):
+                told, listed = reader.execute("SELECT (SELECT count(*) FROM event WHERE kind = 'OrderTaken'), "
+                                              "(SELECT count(*) FROM entrust)").fetchone()
+                self.assertEqual(told, listed, "a reader saw half of a change")
+        self.assertEqual(len(self.sound_books().orders), 160)
 
 
 if __name__ == "__main__":
