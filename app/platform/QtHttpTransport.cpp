@@ -18,6 +18,10 @@ constexpr int mostRedirects = 5;
 /// The connections that a manager opens to one host; what it is given beyond them waits.
 constexpr int mostPerLane = 6;
 
+/// Nothing is sent again when a kept connection turns out to be closed, and services commonly close theirs
+/// after five seconds without a request.
+constexpr int secondsKept = 4;
+
 /// One request from sending to its outcome, redirects included; deletes itself.
 class Exchange : public QObject {
 public:
@@ -36,12 +40,8 @@ public:
     {
         if (!isSafe(url))
             return fail(HttpFailure::Tls);
-        if (request.method == "GET") {
-            reply = manager.get(prepared(url));
-        } else {
-            body = new OneShotBody(request.body, this);
-            reply = manager.sendCustomRequest(prepared(url), request.method, body);
-        }
+        body = new OneShotBody(request.body, this);
+        reply = manager.sendCustomRequest(prepared(url), request.method, body);
         connect(reply, &QNetworkReply::finished, this, [this] { receive(); });
     }
 
@@ -63,6 +63,7 @@ private:
         prepared.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
         // HTTP/2 has rules of its own for sending a refused stream again.
         prepared.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
+        prepared.setAttribute(QNetworkRequest::ConnectionCacheExpiryTimeoutSecondsAttribute, secondsKept);
         for (const auto &[name, value] : request.headers)
             prepared.setRawHeader(name, value);
         return prepared;
@@ -83,7 +84,7 @@ private:
         const QUrl target = reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
         if (const auto failure = failureOf(reply->error()))
             return fail(*failure);
-        if (target.isValid() && isFollowed(status))
+        if ((status == 301 || status == 302 || status == 303) && target.isValid())
             return redirect(reply->url().resolved(target));
         finish(HttpResponse{status, reply->header(QNetworkRequest::ContentTypeHeader).toByteArray(),
                             reply->readAll(), bodyWasSent, dateOf(*reply)});
@@ -97,13 +98,6 @@ private:
         return date.isValid() ? date.toMSecsSinceEpoch() : 0;
     }
 
-    /// 307 and 308 ask for the same method again, with its body.
-    bool isFollowed(int status) const
-    {
-        const bool sameAgain = status == 307 || status == 308;
-        return status == 301 || status == 302 || status == 303 || (sameAgain && request.method == "GET");
-    }
-
     void redirect(const QUrl &target)
     {
         if (++redirects > mostRedirects)
@@ -111,7 +105,7 @@ private:
         const QUrl from = reply->url();
         if (target.scheme() != from.scheme() || target.authority() != from.authority())
             request.headers.clear();
-        bodyWasSent = bodyWasSent || (body && body->wasTaken());
+        bodyWasSent = bodyWasSent || body->wasTaken();
         request.method = "GET";
         request.body.clear();
         reply->deleteLater();

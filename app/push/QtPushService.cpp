@@ -15,11 +15,16 @@ constexpr auto longestDelay = 60s;
 constexpr std::chrono::milliseconds silence = 75s;
 constexpr qint64 longestLine = 1 << 20;
 constexpr int ok = 200;
-constexpr int notFound = 404;
 
 int statusOf(const QNetworkReply *reply)
 {
     return reply ? reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() : 0;
+}
+
+/// What a service answers that has no such stream; 401, 408 and 429 may pass.
+bool refusesForGood(int status)
+{
+    return status >= 400 && status < 500 && status != 401 && status != 408 && status != 429;
 }
 } // namespace
 
@@ -80,11 +85,15 @@ void QtPushService::readLines()
         return;
     }
     while (stream && stream->canReadLine()) {
-        const QJsonDocument message = QJsonDocument::fromJson(stream->readLine());
-        delay = firstDelay;
+        const QByteArray line = stream->readLine().trimmed();
+        const QJsonObject message = QJsonDocument::fromJson(line).object();
+        const bool isMessage = message.contains(QStringLiteral("pageId"));
+        // Anything else is no such stream, and is not to be asked for every second.
+        if (line.isEmpty() || isMessage)
+            delay = firstDelay;
         // What receives the message may set another alias, which ends this stream.
-        if (message.isObject() && received)
-            received(message.object().toVariantMap());
+        if (isMessage && received)
+            received(message.toVariantMap());
     }
     if (stream && stream->bytesAvailable() > longestLine)
         reopenLater();
@@ -93,7 +102,7 @@ void QtPushService::readLines()
 void QtPushService::reopenLater()
 {
     // A service without such a stream is not asked for it again.
-    const bool exists = statusOf(stream) != notFound;
+    const bool exists = !refusesForGood(statusOf(stream));
     close();
     if (!exists)
         return;

@@ -74,6 +74,32 @@ Success ToolPolicy::cached(const QString &key, Success success, Hand hand)
     return gated(ofSameUser(Success::unowned(store)));
 }
 
+bool ToolPolicy::isObject(const QVariant &data)
+{
+    return data.typeId() == QMetaType::QVariantMap;
+}
+
+bool ToolPolicy::isList(const QVariant &data)
+{
+    return !data.isValid() || isNullMarker(data) || data.typeId() == QMetaType::QVariantList;
+}
+
+bool ToolPolicy::isScalar(const QVariant &data)
+{
+    return data.typeId() != QMetaType::QVariantList && data.typeId() != QMetaType::QVariantMap;
+}
+
+Success ToolPolicy::shaped(Shape shape, Success success)
+{
+    return Success::unowned(
+        [shape, success = std::move(success)](const Operation &operation, const QVariantMap &answer) {
+            if (!succeeded(answer) || shape(answer.value(QStringLiteral("data"))))
+                return success(operation, answer);
+            Service::hideWaitingProgressView();
+            Service::showLoadFailView();
+        });
+}
+
 bool ToolPolicy::takesInTurn(const QString &key, const Operation &operation)
 {
     static QHash<QByteArray, quint64> taken;

@@ -40,6 +40,16 @@ Success ofSameUser(Success success);
 /// that a later one has overtaken is dropped.
 Success cached(const QString &key, Success success, Hand hand = Hand::AsReceived);
 
+/// What the "data" of a good answer looks like. Nothing, or null, is a list without elements.
+using Shape = bool (*)(const QVariant &data);
+bool isObject(const QVariant &data);
+bool isList(const QVariant &data);
+bool isScalar(const QVariant &data);
+
+/// A success whose "data" has another shape counts as undecodable: "加载失败" is shown, `success` does not
+/// hear of it, and it takes the place of no stored copy.
+Success shaped(Shape shape, Success success);
+
 /// Whether `operation` is answered in its turn: false when the answer to a later request for `key` with the
 /// same parameters was taken before. Otherwise this one is taken.
 bool takesInTurn(const QString &key, const Operation &operation);

@@ -34,9 +34,8 @@ enum class HttpFailure { Offline, TimedOut, Tls, Connection, Cancelled };
 using HttpOutcome = std::variant<HttpResponse, HttpFailure>;
 
 /// Sends bytes, brings bytes. Any status is a response; only what yields no whole response is a failure.
-/// Never ignores a TLS error, follows redirects only while they stay on HTTPS. Only a GET, which changes
-/// nothing, may reach the wire again, on a new connection where the kept one broke; anything else goes out
-/// once. `done` runs exactly once, on the main thread, never from inside `send`.
+/// Never retries (no request reaches the wire twice), never ignores a TLS error, follows redirects only while
+/// they stay on HTTPS. `done` runs exactly once, on the main thread, never from inside `send`.
 class HttpTransport {
 public:
     virtual ~HttpTransport() = default;

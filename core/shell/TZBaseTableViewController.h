@@ -41,8 +41,9 @@ Q_SIGNALS:
     void noDataChanged();
 
 protected:
-    virtual void refreshData() {}
-    virtual void loadMoreData() {}
+    /// A screen without anything to read has nothing to wait for.
+    virtual void refreshData() { endRefreshing(); }
+    virtual void loadMoreData() { endRefreshing(); }
     /// Ends the refresh when the latest read is over, whatever came of it, and after 15 seconds at the
     /// latest. A null operation (nothing was sent) ends it at once.
     void refreshUntilAnswered(const Operation &operation);
@@ -50,8 +51,8 @@ protected:
     void endRefreshing();
     /// Ends what is still running then, so that a lost answer never leaves a spinner on.
     void endRefreshingAfter(std::chrono::seconds delay);
-    /// Called with every list that comes, whether it has no rows. A screen that has something to show whatever
-    /// comes says so once, with false.
+    /// Called with every list that comes, whether it has no rows. A screen that has something to show
+    /// whatever comes says so once, with false.
     void setNoData(bool noData);
 
 private:

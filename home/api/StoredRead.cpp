@@ -1,7 +1,6 @@
 #include "home/api/StoredRead.h"
 
 #include "core/net/KRAFHTTPClient.h"
-#include "core/net/ToolPolicy.h"
 #include "core/platform/Platform.h"
 #include "core/platform/SettingsStore.h"
 #include "core/session/TZUserModel.h"
@@ -30,25 +29,27 @@ Operation StoredRead::send(const QVariantMap &param, const Success &success, con
         return user && TZUserModel::stored().api_token != token;
     };
     Service::showWaitingProgressView();
+    const auto answered = [read = *this, success, isForeign](const Operation &operation,
+                                                             const QVariantMap &answer) {
+        const bool succeeded = ToolPolicy::succeeded(answer);
+        if (succeeded)
+            Service::hideWaitingProgressView();
+        if (isForeign())
+            return;
+        if (!succeeded)
+            return handOn(read.stored(), operation, success);
+        if (ToolPolicy::takesInTurn(read.path, operation))
+            success(operation, read.store(answer));
+    };
+    const auto failed = [read = *this, success, andError, isForeign](const Operation &operation,
+                                                                     const RequestError &error) {
+        if (!isForeign())
+            read.answerWithout(operation, success);
+        andError(operation, error);
+    };
     return KRAFHTTPClient::get(ToolPolicy::url(path), param,
-                               Success::unowned([read = *this, success, isForeign](
-                                                    const Operation &operation, const QVariantMap &answer) {
-                                   const bool succeeded = ToolPolicy::succeeded(answer);
-                                   if (succeeded)
-                                       Service::hideWaitingProgressView();
-                                   if (isForeign())
-                                       return;
-                                   if (!succeeded)
-                                       return handOn(read.stored(), operation, success);
-                                   if (ToolPolicy::takesInTurn(read.path, operation))
-                                       success(operation, read.store(answer));
-                               }),
-                               Failure::unowned([read = *this, success, andError, isForeign](
-                                                    const Operation &operation, const RequestError &error) {
-                                   if (!isForeign())
-                                       read.answerWithout(operation, success);
-                                   andError(operation, error);
-                               }));
+                               ToolPolicy::shaped(shape, Success::unowned(answered)),
+                               Failure::unowned(failed));
 }
 
 void StoredRead::answerWithout(const Operation &operation, const Success &success) const

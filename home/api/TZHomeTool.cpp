@@ -32,31 +32,37 @@ QVariantMap supplementOf(const QVariantMap &answer)
 
 Operation TZHomeTool::getHomeInfoWithParam(const QVariantMap &param, Success success, Failure andError)
 {
-    return run({QStringLiteral("userIndex"), QStringLiteral("UserIndex"), Audience::User, {}}, param, success,
+    return run({.path = QStringLiteral("userIndex"), .key = QStringLiteral("UserIndex")}, param, success,
                andError);
 }
 
 Operation TZHomeTool::getHomeLoanOverviewWithParam(const QVariantMap &param, Success success,
                                                    Failure andError)
 {
-    return run({QStringLiteral("loanOverview"), QStringLiteral("LoanOverview"), Audience::Everyone, {}},
+    return run({.path = QStringLiteral("loanOverview"),
+                .key = QStringLiteral("LoanOverview"),
+                .audience = Audience::Everyone},
                param, success, andError);
 }
 
 Operation TZHomeTool::getHomeRecentLoansWithParam(const QVariantMap &param, Success success, Failure andError)
 {
-    return run({QStringLiteral("recentLoans"), QStringLiteral("RecentLoans"), Audience::Everyone, {}}, param,
-               success, andError);
+    return run({.path = QStringLiteral("recentLoans"),
+                .key = QStringLiteral("RecentLoans"),
+                .audience = Audience::Everyone,
+                .shape = ToolPolicy::isList},
+               param, success, andError);
 }
 
 Operation TZHomeTool::getAddBailWithParam(const QVariantMap &param, Success success, Failure andError)
 {
-    return run(
-        {QStringLiteral("safeMoney2Supplement"), QStringLiteral("addBail"), Audience::User, supplementOf},
-        param, success, andError);
+    return run({.path = QStringLiteral("safeMoney2Supplement"),
+                .key = QStringLiteral("addBail"),
+                .keep = supplementOf},
+               param, success, andError);
 }
 
 Operation TZHomeTool::getWarnInfoWithParam(const QVariantMap &param, Success success, Failure andError)
 {
-    return run({QStringLiteral("warn"), {}, Audience::User, {}}, param, success, andError);
+    return run({.path = QStringLiteral("warn")}, param, success, andError);
 }

@@ -17,7 +17,8 @@ Operation TZMessageTool::putMarkReadMessagesWithParam(const QVariantMap &param, 
 
 Operation TZMessageTool::getUnReadMessagesSuccess(Success success, Failure andError)
 {
-    const StoredRead count{
-        QStringLiteral("msg/count"), QStringLiteral("MessageUnReadCount"), StoredRead::Audience::User, {}};
+    const StoredRead count{.path = QStringLiteral("msg/count"),
+                           .key = QStringLiteral("MessageUnReadCount"),
+                           .shape = ToolPolicy::isScalar};
     return count.send({}, success, andError);
 }

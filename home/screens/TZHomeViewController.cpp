@@ -63,6 +63,13 @@ void TZHomeViewController::viewWillDisappear()
     stopBroadcast();
 }
 
+void TZHomeViewController::refreshData()
+{
+    refreshHomeData();
+    if (shownFace == Face::SignedOut)
+        endRefreshing();
+}
+
 void TZHomeViewController::refreshHomeData()
 {
     if (Service::isLogin()) {

@@ -65,7 +65,7 @@ Q_SIGNALS:
     void selectedBoardcastChanged();
 
 protected:
-    void refreshData() override { getHomeDataWithRequest(); }
+    void refreshData() override;
 
 private:
     void setFace(Face face);

@@ -102,7 +102,7 @@ TEST_F(HttpTransportTest, NeverSendsTwiceHoweverTheConnectionEndsAfterReading)
         bool warm;
     } cases[] = {
         {"", true, true}, {"", true, false}, {"", false, false}, {half, true, false}, {half, false, false}};
-    for (const char *method : {"POST", "PUT"}) {
+    for (const char *method : {"GET", "POST", "PUT"}) {
         for (const auto &[written, reset, warm] : cases) {
             if (warm) {
                 server.answer = [](QTcpSocket &socket, auto &) { respond(socket, "200 OK", "", "{}"); };
@@ -119,25 +119,14 @@ TEST_F(HttpTransportTest, NeverSendsTwiceHoweverTheConnectionEndsAfterReading)
             server.requests.clear();
             HttpRequest request = form(server.url(QStringLiteral("order")));
             request.method = method;
+            if (request.method == "GET")
+                request.body.clear();
             EXPECT_EQ(described(send(request)), "connection")
                 << method << written.toStdString() << reset << warm;
             linger();
             EXPECT_EQ(server.requests.size(), 1) << method << written.toStdString() << reset << warm;
         }
     }
-}
-
-TEST_F(HttpTransportTest, ReadsAgainWhenTheKeptConnectionIsJustBeingClosed)
-{
-    int answered = 0;
-    server.answer = [&answered](QTcpSocket &socket, const WireServer::Request &) {
-        if (++answered == 2)
-            resetConnection(socket);
-        else
-            respond(socket, "200 OK", "Content-Type: application/json\r\n", "{}");
-    };
-    EXPECT_EQ(described(get(server.url(QStringLiteral("warm")))), "200 {}");
-    EXPECT_EQ(described(get(server.url(QStringLiteral("quote")))), "200 {}");
 }
 
 TEST_F(HttpTransportTest, EndsTheWholeRequestAtItsTimeOutEvenWhileBytesTrickle)
@@ -204,8 +193,8 @@ TEST_F(HttpTransportTest, FollowsRedirectsOnlyToSafePlacesAndKeepsTheTokenAtHome
     const Case cases[] = {
         {"302 Found", "/target", "200 here", "200 here"},
         {"301 Moved", foreign, "200 there", "200 there"},
-        {"307 Again", "/target", "200 here", "connection"},
-        {"308 Again", foreign, "200 there", "connection"},
+        {"307 Again", "/target", "connection", "connection"},
+        {"308 Again", foreign, "connection", "connection"},
         {"302 Found", loopbackHttp.url(QStringLiteral("target")).toLatin1(), "200 there", "200 there"},
         {"302 Found", "http://service.example/target", "tls", "connection"},
         {"302 Found", "file:///etc/passwd", "tls", "connection"},

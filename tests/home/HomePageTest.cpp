@@ -84,6 +84,9 @@ TEST_F(HomePageTest, SignedOutItShowsTheFiguresAndThenTheLoansOfOthers)
     show();
     EXPECT_EQ(home->face(), Face::SignedOut);
     EXPECT_EQ(http.count(), 1) << "the loans are read once the figures are there";
+    home->beginRefreshing();
+    EXPECT_FALSE(home->refreshing());
+    EXPECT_EQ(http.countOf(userIndex), 0);
     EXPECT_EQ(home->overviewTitle(), UnitText());
     http.answer(loanOverview, overview());
     EXPECT_EQ(home->overviewTitle(), (UnitText{"12683位用户在操盘", "（元）"}));

@@ -1,7 +1,7 @@
 #include "core/session/SettingsKeys.h"
 #include "home/api/TZHomeTool.h"
 #include "home/api/TZMessageTool.h"
-#include "tests/support/TestPlatform.h"
+#include "tests/support/AnswerTable.h"
 
 namespace {
 const QString userIndex = "userIndex";
@@ -127,7 +127,7 @@ TEST_F(HomeToolTest, AnAnswerForAUserWhoHasLeftIsDropped)
     TZHomeTool::getHomeInfoWithParam({}, note(), {});
     TZMessageTool::getUnReadMessagesSuccess(note(), {});
     settings.remove(SettingsKeys::user);
-    http.answer(userIndex, succeeded());
+    http.answer(userIndex, succeeded(QVariantMap()));
     http.answer("msg/count", succeeded(3));
     EXPECT_TRUE(answers.isEmpty());
     EXPECT_FALSE(settings.values.contains("UserIndex"));
@@ -157,11 +157,39 @@ TEST_F(HomeToolTest, TheMarginDemandIsStoredInTwoPartsAndStrangeOnesBreakNothing
     EXPECT_EQ(answers, QList<QVariantMap>{kept});
     EXPECT_EQ(kept.value("safeMoneySupplement").toMap().value("totalSafeMoney"), "1200");
     EXPECT_EQ(kept.value(assets).toList().value(0).toMap().value("stockCode"), "600001");
-    for (const QVariant &data :
-         {QVariant(), QVariant(7), QVariant("x"), QVariant(QVariantList{1, QVariant()}),
-          QVariant(QVariantMap{{"asset", 3}, {"closeList", true}})}) {
-        TZHomeTool::getAddBailWithParam({}, note(), {});
-        http.answer(path, succeeded(data));
-        EXPECT_EQ(answers.constLast().value(assets), QVariantList());
-    }
+    TZHomeTool::getAddBailWithParam({}, note(), {});
+    http.answer(path, succeeded(QVariantMap{{"asset", 3}, {"closeList", true}}));
+    EXPECT_EQ(answers.constLast().value(assets), QVariantList());
 }
+
+TEST_F(HomeToolTest, AnAnswerOfAnotherShapeTakesThePlaceOfNothing)
+{
+    signIn();
+    for (const QVariant &data : {QVariant(), QVariant(7), QVariant(QVariantList{1})}) {
+        settings.setValue("UserIndex", figures("5"));
+        TZHomeTool::getHomeInfoWithParam({}, note(), noteFailure());
+        http.answer(userIndex, succeeded(data));
+        EXPECT_EQ(settings.value("UserIndex").toMap(), figures("5"));
+        EXPECT_EQ(banners().join(u'|'), "加载失败");
+        EXPECT_FALSE(overlays.isWaiting());
+        Service::hideAlertView();
+    }
+    EXPECT_TRUE(answers.isEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Home, AnswerTable,
+    testing::ValuesIn<ToolOperation>({
+        {"getHomeInfo", [](Success s, Failure f) { return TZHomeTool::getHomeInfoWithParam({}, s, f); }},
+        {"getHomeLoanOverview",
+         [](Success s, Failure f) { return TZHomeTool::getHomeLoanOverviewWithParam({}, s, f); }},
+        {"getHomeRecentLoans",
+         [](Success s, Failure f) { return TZHomeTool::getHomeRecentLoansWithParam({}, s, f); }},
+        {"getAddBail", [](Success s, Failure f) { return TZHomeTool::getAddBailWithParam({}, s, f); }},
+        {"getWarnInfo", [](Success s, Failure f) { return TZHomeTool::getWarnInfoWithParam({}, s, f); }},
+        {"putMarkReadMessages",
+         [](Success s, Failure f) { return TZMessageTool::putMarkReadMessagesWithParam({}, s, f); }},
+        {"getUnReadMessages",
+         [](Success s, Failure f) { return TZMessageTool::getUnReadMessagesSuccess(s, f); }},
+    }),
+    operationName);

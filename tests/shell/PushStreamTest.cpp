@@ -123,6 +123,8 @@ TEST_F(PushStreamTest, ALostStreamIsOpenedAgainAfterGrowingDelaysUntilAMessageCo
         runLoop.advance(delay - 1ms);
         wait([] { return false; }, 20ms);
         ASSERT_EQ(streams.size(), openings) << "too early, before " << delay.count();
+        if (openings == 6)
+            status = "200 OK\r\nContent-Length: 17\r\n\r\n{\"success\":true}\n";
         if (openings == 7)
             status = "200 OK";
         runLoop.advance(1ms);
@@ -138,7 +140,7 @@ TEST_F(PushStreamTest, ALostStreamIsOpenedAgainAfterGrowingDelaysUntilAMessageCo
 
 TEST_F(PushStreamTest, AServiceWithoutAStreamIsAskedOnceForEachAlias)
 {
-    status = "404 Not Found\r\nSet-Cookie: a=b";
+    status = "405 Method Not Allowed\r\nSet-Cookie: a=b";
     setAlias("t0ken");
     ASSERT_TRUE(opened(1));
     streams.last()->disconnectFromHost();

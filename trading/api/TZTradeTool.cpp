@@ -6,38 +6,17 @@
 #include "core/util/Text.h"
 
 namespace {
-using Shape = bool (*)(const QVariant &);
-
-/// Nothing is a list without elements.
-bool isList(const QVariant &data)
-{
-    return !data.isValid() || isNullMarker(data) || data.typeId() == QMetaType::QVariantList;
-}
-
-bool isScalar(const QVariant &data)
-{
-    return data.typeId() != QMetaType::QVariantList && data.typeId() != QMetaType::QVariantMap;
-}
+using ToolPolicy::isList;
+using ToolPolicy::isObject;
+using ToolPolicy::isScalar;
+using ToolPolicy::shaped;
 
 bool isPage(const QVariant &data)
 {
-    return data.typeId() == QMetaType::QVariantMap && isList(data.toMap().value(QStringLiteral("stocks")));
+    return isObject(data) && isList(data.toMap().value(QStringLiteral("stocks")));
 }
 
-/// A success whose "data" has another shape counts as undecodable: it is no empty page, and takes the place
-/// of no stored copy.
-Success shaped(Shape shape, Success success)
-{
-    return Success::unowned(
-        [shape, success = std::move(success)](const Operation &operation, const QVariantMap &answer) {
-            if (!ToolPolicy::succeeded(answer) || shape(answer.value(QStringLiteral("data"))))
-                return success(operation, answer);
-            Service::hideWaitingProgressView();
-            Service::showLoadFailView();
-        });
-}
-
-Operation cached(const QString &path, const QString &key, Shape shape, const QVariantMap &param,
+Operation cached(const QString &path, const QString &key, ToolPolicy::Shape shape, const QVariantMap &param,
                  Success success, Failure andError)
 {
     if (ToolPolicy::answersOffline(key, success))
