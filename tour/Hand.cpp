@@ -20,6 +20,12 @@ QAccessibleInterface *spokenOf(QQuickItem *item)
     }
     return nullptr;
 }
+
+bool canBePressed(QAccessibleInterface *control)
+{
+    QAccessibleActionInterface *const actions = control->actionInterface();
+    return actions && actions->actionNames().contains(QAccessibleActionInterface::pressAction());
+}
 } // namespace
 
 Hand::Hand(QQuickWindow &usedWindow, Means usedMeans) : window(usedWindow), means(usedMeans)
@@ -34,16 +40,18 @@ bool Hand::wait(const std::function<bool()> &reached, std::chrono::milliseconds 
     QTimer limit;
     limit.setSingleShot(true);
     QObject::connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
+    bool done = reached();
     QObject::connect(&look, &QTimer::timeout, &loop, [&] {
-        if (reached())
+        done = done || reached();
+        if (done)
             loop.quit();
     });
-    if (reached())
+    if (done)
         return true;
     look.start(50ms);
     limit.start(atMost);
     loop.exec();
-    return reached();
+    return done;
 }
 
 bool Hand::waitFor(const QString &name) const
@@ -63,17 +71,17 @@ bool Hand::waitUntilGone(const QString &name) const
 
 bool Hand::press(const QString &name)
 {
-    return pressed(standing(name, false));
+    return pressed(standing(name, false, Kind::Pressable));
 }
 
 bool Hand::pressPart(const QString &part)
 {
-    return pressed(standing(part, true));
+    return pressed(standing(part, true, Kind::Pressable));
 }
 
 bool Hand::type(const QString &field, const QString &text)
 {
-    if (!reach(standing(field, false)))
+    if (!reach(standing(field, false, Kind::Any)))
         return false;
     QTest::keyClick(&window, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&window, Qt::Key_Delete);
@@ -85,7 +93,7 @@ bool Hand::back()
 {
     if (means == Means::Mouse)
         return press(QStringLiteral("返回"));
-    const bool hasWayBack = standing(QStringLiteral("返回"), false).has_value();
+    const bool hasWayBack = standing(QStringLiteral("返回"), false, Kind::Pressable).has_value();
     key(Qt::Key_Escape);
     return hasWayBack;
 }
@@ -118,13 +126,14 @@ QImage Hand::picture() const
     return window.grabWindow();
 }
 
-std::optional<Hand::Control> Hand::find(const QString &name, bool part) const
+std::optional<Hand::Control> Hand::find(const QString &name, bool part, Kind kind) const
 {
     std::optional<Control> last;
     // What is drawn last lies on top: a dialog's button before the page's of the same name.
     visit(QAccessible::queryAccessibleInterface(&window), [&](QAccessibleInterface *seen) {
         const QString spoken = seen->text(QAccessible::Name);
-        if ((part ? spoken.contains(name) : spoken == name) && !seen->state().disabled)
+        if ((part ? spoken.contains(name) : spoken == name) && !seen->state().disabled &&
+            (kind == Kind::Any || canBePressed(seen)))
             last = Control{spoken, seen->rect()};
         return false;
     });
@@ -146,19 +155,19 @@ void Hand::visit(QAccessibleInterface *from, const std::function<bool(QAccessibl
     }
 }
 
-std::optional<Hand::Control> Hand::standing(const QString &name, bool part) const
+std::optional<Hand::Control> Hand::standing(const QString &name, bool part, Kind kind) const
 {
     // A motion may begin a moment after the control came, when the list that holds it settles.
     constexpr int looksToTrust = 5;
     std::optional<Control> before;
     int still = 0;
-    wait([&] {
-        const std::optional<Control> now = find(name, part);
+    const bool stands = wait([&] {
+        const std::optional<Control> now = find(name, part, kind);
         still = now && before && now->place == before->place ? still + 1 : 0;
         before = now;
         return still >= looksToTrust;
     });
-    return before;
+    return stands ? before : std::nullopt;
 }
 
 bool Hand::reach(const std::optional<Control> &control)

@@ -50,9 +50,11 @@ private:
         QString name;
         QRect place;
     };
-    std::optional<Control> find(const QString &name, bool part) const;
-    /// Waits until the control is there and stands still, as a person does.
-    std::optional<Control> standing(const QString &name, bool part) const;
+    /// Of what is only read and what can be pressed a page has many of one name.
+    enum class Kind { Any, Pressable };
+    std::optional<Control> find(const QString &name, bool part, Kind kind = Kind::Any) const;
+    /// Waits until the control is there and stands still, as a person does; null when it never does.
+    std::optional<Control> standing(const QString &name, bool part, Kind kind) const;
     void visit(QAccessibleInterface *from, const std::function<bool(QAccessibleInterface *)> &seen) const;
     bool reach(const std::optional<Control> &control);
     bool click(const Control &control);
