@@ -36,7 +36,8 @@ protected:
         window.setRoot(std::make_unique<KRBaseController>());
         auto screen = std::make_unique<TZCheckCellController>(router);
         entry = screen.get();
-        screen->setToSomeController({&asker, [this] { events.append("toSomeController"); }});
+        screen->setToSomeController(
+            {&asker, [this] { events.append(isSignInShown() ? "toSomeController" : "too late"); }});
         stack = window.present(std::move(screen));
         notifications.observe(&asker, NotificationNames::refreshHome,
                               [this](const QVariant &) { events.append("refreshHome"); });
