@@ -280,7 +280,7 @@ TEST_F(PersonalTest, TheNicknameIsChangedFromThePersonalPage)
     personal->nickRowClick();
     auto *const screen = top<TZModifyNicknameController>();
     ASSERT_TRUE(screen);
-    EXPECT_EQ(screen->title(), "修改昵称");
+    EXPECT_EQ(screen->title() + screen->leftItemImage(), "修改昵称common_back_gray");
     screen->textFiledEditChanged("一二三四五六七八九十百");
     screen->saveBtnClick();
     screen->saveBtnClick();
@@ -305,7 +305,7 @@ TEST_F(PersonalTest, AMissingNicknameIsSetInAStackOfItsOwn)
         nickname->isFirstShow = true;
         TZModifyNicknameController *const screen = nickname.get();
         window.present(std::move(nickname));
-        EXPECT_EQ(screen->title(), "设置昵称");
+        EXPECT_EQ(screen->title() + screen->leftItemImage(), "设置昵称common_close_gray");
         if (gone) {
             screen->backButtonClicked();
         } else {

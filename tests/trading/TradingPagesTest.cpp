@@ -62,6 +62,7 @@ TEST_F(TradingPageTest, ItReadsItsPageWhenItAppearsAndPullsAQuarterOfASecondLate
 {
     auto *const page = push<TZRealTradingController>(router);
     EXPECT_EQ(page->title(), "Zorvane-实盘炒股");
+    EXPECT_EQ(page->leftItemImage() + u' ' + page->rightItemImage(), "common_back_gray real_trade_Info");
     EXPECT_EQ(page->availableMoney(), "--");
     EXPECT_EQ(page->profitText(), "");
     http.answer("warnInfo", succeeded(QVariantMap{{"warnLine", "100"}}));
