@@ -1,5 +1,7 @@
 #include "core/shell/TZInfoAlertView.h"
 
+using namespace std::chrono_literals;
+
 TZInfoAlertView::TZInfoAlertView(TZInfoAlertViewModel alertModel, OwnedAction left, OwnedAction right)
     : model(std::move(alertModel)), leftAction(std::move(left)), rightAction(std::move(right))
 {
@@ -10,17 +12,20 @@ void TZInfoAlertView::say(TZInfoAlertViewModel alertModel, OwnedAction left, Own
     model = std::move(alertModel);
     leftAction = std::move(left);
     rightAction = std::move(right);
+    settling.startOnce(500ms, [] {});
     Q_EMIT contentChanged();
 }
 
 void TZInfoAlertView::leftBtnClick()
 {
-    close(leftAction);
+    if (!settling.isActive())
+        close(leftAction);
 }
 
 void TZInfoAlertView::rightBtnClick()
 {
-    close(rightAction);
+    if (!settling.isActive())
+        close(rightAction);
 }
 
 void TZInfoAlertView::cancel()

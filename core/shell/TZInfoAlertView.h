@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/platform/Timer.h"
 #include "core/shell/KRDialog.h"
 #include "core/util/OwnedAction.h"
 
@@ -36,7 +37,8 @@ Q_SIGNALS:
     void contentChanged();
 
 protected:
-    /// Says something else while it is shown.
+    /// Says something else while it is shown. For half a second its buttons do nothing then: a tap in that
+    /// time was meant for what stood there before.
     void say(TZInfoAlertViewModel model, OwnedAction left, OwnedAction right);
 
 private:
@@ -45,4 +47,5 @@ private:
     TZInfoAlertViewModel model;
     OwnedAction leftAction;
     OwnedAction rightAction;
+    Timer settling;
 };

@@ -121,6 +121,12 @@ protected:
         return window.dialogs()->count() == 0 ? nullptr : dynamic_cast<Dialog *>(window.dialogs()->at(0));
     }
     TZInfoAlertView *alert() { return dialog<TZInfoAlertView>(); }
+    /// For half a second after news it takes no tap.
+    TZInfoAlertView *readAlert()
+    {
+        runLoop.advance(500ms);
+        return alert();
+    }
 
     void submit(const QString &price, const QString &shares)
     {
@@ -143,7 +149,7 @@ protected:
 
     void sendAgain()
     {
-        alert()->leftBtnClick();
+        readAlert()->leftBtnClick();
         quiet();
         sendWhatWasSubmitted();
     }
@@ -161,7 +167,7 @@ protected:
                 return true;
             }
             if (said == "未找到这笔委托") {
-                alert()->leftBtnClick();
+                readAlert()->leftBtnClick();
                 // As long as a person takes to think about it, some of what is late arrives.
                 Hand::wait([&] { return ordersInTheBooks() > before; }, 400ms);
                 submit(price, shares);
@@ -175,7 +181,7 @@ protected:
             } else if (said == "确认再次提交") {
                 alert()->rightBtnClick();
             } else if (said == "委托结果未知" && !alert()->leftTitle().isEmpty()) {
-                alert()->rightBtnClick();
+                readAlert()->rightBtnClick();
             } else if (said.isEmpty()) {
                 submit(price, shares);
             } else {

@@ -8,6 +8,7 @@ TEST_F(RepeatedOrderTest, TheFirstOfTwoLostOnesIsFoundWhenOnlyItStands)
 {
     openAndLose();
     http.fail(entrustsPath, HttpFailure::TimedOut);
+    runLoop.advance(500ms);
     alert()->leftBtnClick();
     quoteAt(500);
     TZTradeTool::getEntrustsTodayWithParam({}, {}, {});
@@ -16,6 +17,10 @@ TEST_F(RepeatedOrderTest, TheFirstOfTwoLostOnesIsFoundWhenOnlyItStands)
     alert()->leftBtnClick();
     http.fail(entrustsPath, HttpFailure::TimedOut);
     EXPECT_EQ(alert()->leftTitle(), "再次提交") << "the entrusts cannot be read, and the user knows";
+    runLoop.advance(499ms);
+    alert()->leftBtnClick();
+    EXPECT_EQ(said(), "委托结果未知") << "the tap was meant for what stood there before";
+    runLoop.advance(1ms);
     alert()->leftBtnClick();
     runLoop.advance(500ms);
     EXPECT_EQ(http.countOf(buyPath), 2);
@@ -97,7 +102,7 @@ TEST_F(RepeatedOrderTest, TheQuestionSendsNothingWhenItsReadingIsClosed)
     // Somebody draws the window: the dialog is still seen to go when the answer comes.
     window.setProperty("animated", true);
     alert()->cancel();
-    settle();
+    // It is on its way already: nothing else happens in between.
     http.answer(reading, succeeded(QVariantList()));
     runLoop.advance(1s);
     EXPECT_EQ(http.countOf(buyPath), 1);

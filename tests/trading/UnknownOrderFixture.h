@@ -71,6 +71,8 @@ protected:
         answerPage(entrusts);
         if (!entrusts.isEmpty() && http.hasPending(entrustsPath))
             answerPage({});
+        // As long as a dialog takes no tap after news.
+        runLoop.advance(500ms);
     }
     void leave()
     {

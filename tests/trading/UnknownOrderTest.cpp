@@ -116,6 +116,7 @@ TEST_F(UnknownOrderTest, IsFoundOnAFurtherPageAndNotSoughtBeyondItsTime)
     answerPage(whole);
     EXPECT_EQ(said(), "未找到这笔委托");
 
+    runLoop.advance(500ms);
     alert()->rightBtnClick();
     answerPage({other("9", 900), other("8", 900)});
     EXPECT_TRUE(http.hasPending(entrustsPath)) << "one time for all does not say that the newest come first";
@@ -203,6 +204,8 @@ TEST_F(UnknownOrderTest, EntrustsThatCannotBeReadAreSaidAndReadAgainOnDemand)
     openAndLose();
     http.fail(entrustsPath, HttpFailure::TimedOut);
     EXPECT_TRUE(says("没有读到今日委托"));
+    EXPECT_EQ(banners(), QStringList("加载失败")) << "that of the order; the dialog says the rest";
+    overlays.hideBanners();
     const QList<QVariantMap> garbage{
         refused("系统繁忙"),
         {{"success", true}},
@@ -213,26 +216,29 @@ TEST_F(UnknownOrderTest, EntrustsThatCannotBeReadAreSaidAndReadAgainOnDemand)
         succeeded(QVariantList{"", entrust("4")}),
     };
     for (const QVariantMap &answer : garbage) {
+        runLoop.advance(500ms);
         alert()->rightBtnClick();
         EXPECT_EQ(said() + alert()->leftTitle(), "委托结果未知");
         http.answer(entrustsPath, answer);
         EXPECT_TRUE(says("没有读到今日委托")) << garbage.indexOf(answer);
         EXPECT_FALSE(http.hasPending(entrustsPath));
+        EXPECT_TRUE(banners().isEmpty());
     }
 
     // Without a network the stored copy is no proof, even when such an order is in it.
     const QVariant copy = succeeded(QVariantList{entrust("4")});
     settings.setValue(TZTradeTool::entrustsTodayKey, copy);
     settings.setValue(SettingsKeys::networkStatus, false);
+    runLoop.advance(500ms);
     alert()->rightBtnClick();
     http.fail(entrustsPath, HttpFailure::Offline);
     EXPECT_TRUE(says("没有读到今日委托"));
     settings.setValue(SettingsKeys::networkStatus, true);
+    runLoop.advance(500ms);
     alert()->rightBtnClick();
     answerEntrusts({entrust("5")});
     EXPECT_EQ(said(), "已找到这笔委托");
     EXPECT_EQ(settings.value(TZTradeTool::entrustsTodayKey), copy) << "what the list shows offline";
-    EXPECT_EQ(banners(), QStringList("加载失败")) << "that of the order; the dialog says the rest";
 }
 
 TEST_F(UnknownOrderTest, IsReadQuietlyWhenOrderEntryOpensAfterAKill)

@@ -184,12 +184,12 @@ public:
 
     void start()
     {
-        auto *const inquiry = new OrderInquiry(UnknownOrders::like(order), again ? 1 : 2, this);
-        connect(inquiry, &OrderInquiry::found, this, &SearchAlert::tellFound);
-        connect(inquiry, &OrderInquiry::notFound, this, &SearchAlert::tellNotFound);
-        connect(inquiry, &OrderInquiry::unreadable, this, &SearchAlert::tellUnreadable);
+        inquiry = std::make_unique<OrderInquiry>(UnknownOrders::like(order), again ? 1 : 2, nullptr);
+        connect(inquiry.get(), &OrderInquiry::found, this, &SearchAlert::tellFound);
+        connect(inquiry.get(), &OrderInquiry::notFound, this, &SearchAlert::tellNotFound);
+        connect(inquiry.get(), &OrderInquiry::unreadable, this, &SearchAlert::tellUnreadable);
         // What nobody sees any more must neither settle nor send anything.
-        connect(this, &KRDialog::removed, inquiry, &QObject::deleteLater);
+        connect(this, &KRDialog::removed, this, [this] { inquiry.reset(); });
         inquiry->start();
     }
 
@@ -214,6 +214,8 @@ private:
     void tellNotFound()
     {
         if (again) {
+            // It is still speaking when it goes with the dialog.
+            inquiry.release()->deleteLater();
             removeFromWindow();
             again();
             return;
@@ -243,6 +245,7 @@ private:
     const OrderWays ways;
     /// Set when the user waits to send the order once more.
     const OwnedAction again;
+    std::unique_ptr<OrderInquiry> inquiry;
 };
 
 class QuietLook : public QObject {
