@@ -24,6 +24,8 @@ public:
     const bool quiet;
     /// Greater than that of every request before it.
     const quint64 number = ++sent;
+    /// The service answered, and its "success" is true. Set before the callbacks.
+    bool succeeded = false;
     /// What came back is from where a redirect led after the body was sent: it says nothing of the work that
     /// the body asked for. Set before the callbacks.
     bool redirected = false;

@@ -80,6 +80,7 @@ void deliver(const Operation &operation, const HttpOutcome &outcome, const Succe
     const std::optional<QVariantMap> answer = decodeEnvelope(*response);
     if (!answer)
         return fail(operation, error, {std::nullopt, response->status, response->redirected});
+    operation->succeeded = ToolPolicy::succeeded(*answer);
     if (!operation->quiet)
         KRAFHTTPClient::showMsgWithDict(*answer, operation->url);
     done(operation, *answer);
@@ -134,6 +135,13 @@ Operation KRAFHTTPClient::getQuietly(const QString &url, const QVariantMap &dict
 Operation KRAFHTTPClient::post(const QString &url, const QVariantMap &dict, Success done, Failure error)
 {
     return execute(url, QStringLiteral("POST"), dict, {}, {}, {}, std::move(done), std::move(error));
+}
+
+Operation KRAFHTTPClient::postQuietly(const QString &url, const QVariantMap &dict, Success done,
+                                      Failure error)
+{
+    return send(std::make_shared<RequestOperation>(url, dict, true), "POST", {}, std::move(done),
+                std::move(error));
 }
 
 Operation KRAFHTTPClient::post(const QString &url, const QVariantMap &dict, const QString &multiPart,

@@ -20,6 +20,7 @@ public:
     /// For what nobody on the screen has asked for: no banner, and the indicator stays as it is.
     static Operation getQuietly(const QString &url, const QVariantMap &dict, Success done, Failure error);
     static Operation post(const QString &url, const QVariantMap &dict, Success done, Failure error);
+    static Operation postQuietly(const QString &url, const QVariantMap &dict, Success done, Failure error);
     /// `multiPart` is the local file's URL, sent under the form name `andPartName` besides the parameters. A
     /// file that cannot be read is a failure and nothing is sent.
     static Operation post(const QString &url, const QVariantMap &dict, const QString &multiPart,

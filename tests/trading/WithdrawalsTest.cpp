@@ -129,6 +129,14 @@ TEST_F(WithdrawalsTest, ACancellationIsAskedForUntilItIsConfirmed)
     }
     EXPECT_TRUE(overlays.isWaiting());
     EXPECT_EQ(screen->outcome(), "");
+    http.fail(statusPath, HttpFailure::TimedOut);
+    EXPECT_EQ(banners(), QStringList{"加载失败"});
+    overlays.hideBanners();
+    runLoop.advance(3s);
+    http.answer(statusPath, refused("系统繁忙"));
+    EXPECT_TRUE(banners().isEmpty()) << "one failure is told";
+    EXPECT_TRUE(overlays.isWaiting());
+    runLoop.advance(3s);
     http.answer(statusPath, succeeded(true));
     list({});
     EXPECT_FALSE(overlays.isWaiting());

@@ -115,6 +115,13 @@ Operation TZTradeTool::postQueryWithDrawStatusWithParam(const QVariantMap &param
                                 std::move(andError));
 }
 
+Operation TZTradeTool::askWithDrawStatusWithParam(const QVariantMap &param, Success success, Failure andError)
+{
+    return KRAFHTTPClient::postQuietly(ToolPolicy::url(QStringLiteral("entrust/queryWithDrawStatus")), param,
+                                       ToolPolicy::gated(std::move(success), ToolPolicy::Indicator::Keep),
+                                       std::move(andError));
+}
+
 Operation TZTradeTool::getDetailsTodayWithParam(const QVariantMap &param, Success success, Failure andError)
 {
     return cached(QStringLiteral("detailsToday"), detailsTodayKey, isList, param, std::move(success),

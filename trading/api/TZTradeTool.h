@@ -43,6 +43,8 @@ public:
     /// Guarded. Keys: "id".
     static Operation postQueryWithDrawStatusWithParam(const QVariantMap &param, Success success,
                                                       Failure andError);
+    /// The same without a word.
+    static Operation askWithDrawStatusWithParam(const QVariantMap &param, Success success, Failure andError);
     /// Cached, HUD. Keys: "page".
     static Operation getDetailsTodayWithParam(const QVariantMap &param, Success success, Failure andError);
     /// Cached, HUD. Keys: "page".

@@ -168,10 +168,8 @@ void TZStockDetailController::selectChart(int index)
 void TZStockDetailController::fetchQuote()
 {
     const int number = ++askedQuotes;
-    const auto answered = [this, number](const Operation &, const QVariantMap &answer) {
-        const bool good = boolValue(answer.value(QStringLiteral("success")));
-        quoteFailed = !good;
-        if (number <= shownQuote || !good)
+    const auto answered = [this, number](const Operation &operation, const QVariantMap &answer) {
+        if (number <= shownQuote || !operation->succeeded)
             return;
         shownQuote = number;
         const QVariantMap data = answer.value(dataKey).toMap();
@@ -184,11 +182,10 @@ void TZStockDetailController::fetchQuote()
         detailMinute = std::max(detailMinute, time / minute);
         refreshDetail();
     };
-    const auto failed = [this](const Operation &, const RequestError &) { quoteFailed = true; };
     // One failure is told; after it the age of the quote says enough.
-    const auto read =
-        quoteFailed ? TZTradeTool::readTimelyInfoWithStockCode : TZTradeTool::getTimelyInfoWithStockCode;
-    read(stock.stockCode, Success{this, answered}, Failure{this, failed});
+    const auto read = quoteRequest.isSilent() ? TZTradeTool::readTimelyInfoWithStockCode
+                                              : TZTradeTool::getTimelyInfoWithStockCode;
+    quoteRequest.sent(read(stock.stockCode, Success{this, answered}, {}));
 }
 
 void TZStockDetailController::takeQuote(const QVariantMap &data)

@@ -7,6 +7,7 @@
 #include "trading/charts/CandleChart.h"
 #include "trading/charts/IntradayChart.h"
 #include "trading/screens/QuoteAge.h"
+#include "trading/screens/RepeatedRequest.h"
 #include "trading/screens/StockQuote.h"
 #include "trading/screens/TZHandicapView.h"
 
@@ -120,7 +121,7 @@ private:
     /// Quotes are counted as they are asked for; what answers later than a newer one is dropped.
     int askedQuotes = 0;
     int shownQuote = 0;
-    bool quoteFailed = false;
+    RepeatedRequest quoteRequest;
     bool refreshing = false;
     /// The minute since 1970 that the charts were last asked for, and how many quotes came since they came.
     qint64 detailMinute = 0;

@@ -157,8 +157,15 @@ void TZWithdrawalsController::queryWithDrawStatus()
             cancellationEnded();
         }
     };
-    TZTradeTool::postQueryWithDrawStatusWithParam({{QStringLiteral("id"), watchedOrder}},
-                                                  Success{this, answered}, {});
+    const auto ask = statusQuery.isSilent() ? TZTradeTool::askWithDrawStatusWithParam
+                                            : TZTradeTool::postQueryWithDrawStatusWithParam;
+    const Operation query = ask({{QStringLiteral("id"), watchedOrder}}, Success{this, answered}, {});
+    statusQuery.sent(query);
+    // One that is told to have failed has taken the indicator away.
+    connect(query.get(), &RequestOperation::finished, this, [this] {
+        if (timer.isActive())
+            showWaitingView();
+    });
 }
 
 void TZWithdrawalsController::cancellationEnded()

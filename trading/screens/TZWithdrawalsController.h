@@ -3,6 +3,7 @@
 #include "core/shell/TZBaseTableViewController.h"
 #include "core/util/RowListModel.h"
 #include "trading/api/TZCallBackPageModel.h"
+#include "trading/screens/RepeatedRequest.h"
 
 /// An entrust that can still be cancelled, as the list shows it.
 struct WithdrawalRow {
@@ -79,6 +80,7 @@ private:
     RowListModel<WithdrawalRow> shownRows;
     Timer pending;
     Timer timer;
+    RepeatedRequest statusQuery;
     QString spokenOutcome;
     bool cancelled = false;
     bool shown = false;
