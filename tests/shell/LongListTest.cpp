@@ -15,11 +15,11 @@ constexpr int many = 10'000;
 constexpr int fewRows = 40;
 constexpr int fewNodes = 120;
 
-QVariantList entrusts(int count)
+QVariantList entrusts(int count, int first = 0)
 {
     QVariantList all;
     for (int i = 0; i < count; ++i)
-        all.append(QVariantMap{{"id", QString::number(i)},
+        all.append(QVariantMap{{"id", QString::number(first + i)},
                                {"stockCode", "600001"},
                                {"stockName", "海天传媒"},
                                {"type", QString::number(i % 2 + 1)},
@@ -142,7 +142,7 @@ TEST_F(LongListTest, AFurtherPageLeavesThePlaceWhereItWas)
     const double end = list->property("contentHeight").toDouble() - list->height();
     scrollTo(end);
     page->beginLoadingMore();
-    http.answer(entrustsPath, succeeded(entrusts(20)));
+    http.answer(entrustsPath, succeeded(entrusts(20, many)));
     view.grabWindow();
     EXPECT_EQ(list->property("count"), many + 20);
     EXPECT_NEAR(list->property("contentY").toDouble(), end, 1);

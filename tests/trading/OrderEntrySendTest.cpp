@@ -24,9 +24,8 @@ TEST_F(OrderEntryTest, NoSecondOrderGoesAndTheScreenStaysWhileOneIsOnItsWay)
     QObject::connect(screen, &KRBaseController::barChanged, screen,
                      [&] { leaving.append(screen->canBeLeft()); });
     submitEntry();
-    // A refused quote takes the indicator away although the order is still on its way.
     http.answer(quotePath, refused("行情不可用"));
-    EXPECT_FALSE(overlays.isWaiting());
+    EXPECT_TRUE(overlays.isWaiting()) << "the order is still on its way";
     screen->submit();
     screen->backButtonClicked();
     runLoop.advance(14s);
@@ -49,8 +48,6 @@ TEST_F(OrderEntryTest, ThePasswordSendsTheOrderThatWasRefusedWithoutIt)
 {
     openWithEntry();
     submitEntry();
-    // A refused quote takes the indicator away, and the entry can be edited.
-    http.answer(quotePath, refused("行情不可用"));
     enter("99", "150");
     http.answer(buyPath, refusedAs("12000", "请输入交易密码"));
     typePassword("123456");
@@ -153,6 +150,18 @@ TEST_F(OrderEntryTest, AMissingOrRefusedPasswordBringsThePromptBack)
     }
 }
 
+TEST_F(OrderEntryTest, CoveredItNamesTheOrderThatWantsThePasswordAndDoesNotAsk)
+{
+    openWithEntry();
+    submitEntry();
+    cover()->dismiss();
+    EXPECT_TRUE(overlays.isWaiting()) << "back at an order that is still on its way";
+    cover();
+    http.answer(buyPath, refusedAs("12000"));
+    ASSERT_NE(alert(), nullptr);
+    EXPECT_EQ(alert()->ensureText(), "买入 海天传媒(600001)\n12.34元 × 800股\n\n请重新提交");
+}
+
 TEST_F(OrderEntryTest, AnyOtherRefusalShowsOnlyTheServersMessageAndKeepsTheEntry)
 {
     openWithEntry();
@@ -187,7 +196,7 @@ TEST_F(OrderEntryTest, APlacedBuyOffersTheTradingPageOrAnotherStock)
     openWithEntry();
     submitEntry();
     http.answer(buyPath, placed("9"));
-    EXPECT_EQ(screen->price() + screen->quantity(), "");
+    EXPECT_EQ(screen->price() + screen->quantity() + screen->countText(), "");
     ASSERT_NE(alert(), nullptr);
     EXPECT_EQ(alert()->titleText(), "委托挂单成功");
     EXPECT_EQ(alert()->leftTitle(), "实盘炒股");

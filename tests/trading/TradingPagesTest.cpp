@@ -231,6 +231,7 @@ TEST_F(TradingFixture, HoldingsToSellAreReadOnLoadingEachTimeTheyAppearAndAfterA
 {
     settings.setValue(SettingsKeys::needTradePwd, false);
     auto *const list = push<TZChooseSellStockController>();
+    EXPECT_TRUE(list->refreshing());
     EXPECT_EQ(http.countOf("holding"), 2);
     EXPECT_EQ(http.pending("holding").fields(), (QVariantMap{{"", ""}}));
     http.answer("holding", succeeded(QVariantList{holding("600001", "5"), 7, "x"}));
@@ -347,11 +348,11 @@ INSTANTIATE_TEST_SUITE_P(Lists, ReadListTest,
 class TodayTest : public TradingFixture {
 protected:
     TodayTest() { screen = push<TZDealAndEntrustController>(); }
-    QVariantList models(int count)
+    QVariantList models(int count, int first = 0)
     {
         QVariantList all;
         for (int i = 0; i < count; ++i)
-            all.append(entrust(QString::number(i)));
+            all.append(entrust(QString::number(first + i)));
         return all;
     }
     static inline const QString entrustsPath = "entrustsToday";
@@ -394,12 +395,16 @@ TEST_F(TodayTest, FurtherPagesAreAppendedAndARefreshBeginsAnew)
     list->beginLoadingMore();
     EXPECT_EQ(screen->currentEntructPage(), 1);
     EXPECT_EQ(http.pending(entrustsPath).fields(), (QVariantMap{{"page", "1"}}));
-    http.answer(entrustsPath, succeeded(models(3)));
-    EXPECT_EQ(screen->entrustArr().size(), 23);
+    http.answer(entrustsPath, succeeded(models(3, 19)));
+    EXPECT_EQ(screen->entrustArr().size(), 22) << "what a new entrust has shifted is there already";
+    EXPECT_EQ(list->rows()->rowCount(), 22);
     EXPECT_FALSE(list->loadingMore());
 
     list->beginLoadingMore();
     http.fail(entrustsPath, HttpFailure::TimedOut);
+    list->beginLoadingMore();
+    runLoop.advance(15s);
+    EXPECT_FALSE(list->loadingMore());
     list->beginLoadingMore();
     EXPECT_EQ(http.pending(entrustsPath).fields(), (QVariantMap{{"page", "2"}}));
     FakeTransport::Sent &stale = http.last();
@@ -414,8 +419,8 @@ TEST_F(TodayTest, FurtherPagesAreAppendedAndARefreshBeginsAnew)
     cover()->dismiss();
     list->beginLoadingMore();
     EXPECT_EQ(http.last().fields(), (QVariantMap{{"page", "1"}})) << "none is left out";
-    http.answer(next, succeeded(models(4)));
-    http.answer(http.last(), succeeded(models(4)));
+    http.answer(next, succeeded(models(4, 1)));
+    http.answer(http.last(), succeeded(models(4, 5)));
     EXPECT_EQ(screen->entrustArr().size(), 5) << "nor shown twice";
 }
 

@@ -22,20 +22,11 @@ QString describeFault(const QString &file, const QString &fault)
         .arg(file, fault, remedy);
 }
 
-bool hasRows(Database &database)
-{
-    Statement select(database, selectOne);
-    return select.isValid() && select.step() == SqlResult::Row;
-}
-
 bool insertAll(Database &database, const QList<TZStockInfoModel> &stocks)
 {
     Transaction transaction(database);
     if (!transaction.isOpen())
         return false;
-    // Another client on the same file may have filled the table since it was emptied.
-    if (hasRows(database))
-        return true;
     Statement insert(database, insertOne);
     if (!insert.isValid())
         return false;
@@ -76,7 +67,8 @@ void StockTable::open(const QString &file)
 
 bool StockTable::isEmpty()
 {
-    return !hasRows(plain);
+    Statement select(plain, selectOne);
+    return !select.isValid() || select.step() != SqlResult::Row;
 }
 
 void StockTable::replace(QList<TZStockInfoModel> stocks)

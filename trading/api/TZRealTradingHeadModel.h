@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QString>
 
-/// The loan summary above the trading page; money in yuan.
+/// The loan summary above the trading page; money in yuan. No screen uses it.
 struct TZRealTradingHeadModel {
     Q_GADGET
     Q_PROPERTY(QString renewApplyAheadDays MEMBER renewApplyAheadDays)

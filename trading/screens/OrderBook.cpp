@@ -33,7 +33,7 @@ bool OrderBook::isQuote(const QVariantMap &data)
         return data.value(key).typeId() == QMetaType::QVariantList;
     };
     return isArray(QStringLiteral("buyPankou")) || isArray(QStringLiteral("sellPankou")) ||
-           !Service::whetherAnEmptyString(data.value(QStringLiteral("match")));
+           !Service::whetherAnEmptyString(textForm(data.value(QStringLiteral("match"))));
 }
 
 QList<TZHandicapModel> OrderBook::buyLevels(const QVariantList &pankou)

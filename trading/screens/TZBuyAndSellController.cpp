@@ -9,6 +9,7 @@
 #include "core/shell/KRWindow.h"
 #include "core/util/Service.h"
 #include "core/util/Text.h"
+#include "trading/api/TZBuyPageModel.h"
 #include "trading/api/TZStockInfoModel.h"
 #include "trading/api/TZTradeTool.h"
 #include "trading/screens/TZSelectStockController.h"
@@ -74,6 +75,8 @@ void TZBuyAndSellController::viewWillAppear()
         startQuoteTimer();
     if (std::exchange(covered, false))
         askForMissingMoney();
+    if (orderOnItsWay)
+        showWaitingView();
 }
 
 void TZBuyAndSellController::viewDidDisappear()
@@ -92,7 +95,7 @@ void TZBuyAndSellController::viewDidDisappear()
 void TZBuyAndSellController::getBuyPage()
 {
     const auto answered = [this](const Operation &, const QVariantMap &answer) {
-        const QVariant money = answer.value(dataKey);
+        const QString money = fromDictionary<TZBuyPageModel>(answer).data;
         if (Service::whetherAnEmptyString(money))
             return;
         usable = doubleValue(money);
@@ -102,8 +105,10 @@ void TZBuyAndSellController::getBuyPage()
     };
     const Operation operation = TZTradeTool::getBuyPageWithParam({}, Success{this, answered}, {});
     readingMoney = operation != nullptr;
-    if (operation)
-        connect(operation.get(), &RequestOperation::finished, this, [this] { readingMoney = false; });
+    if (!operation)
+        return;
+    connect(operation.get(), &RequestOperation::finished, this, [this] { readingMoney = false; });
+    keepWaitingAfter(operation);
 }
 
 void TZBuyAndSellController::askForMissingMoney()
@@ -131,8 +136,6 @@ void TZBuyAndSellController::chooseStock(const TZStockInfoModel &chosen)
     stock.stockName = chosen.n;
     Q_EMIT stockChanged();
     clearFields();
-    if (isBuyType())
-        setCountLabel({});
     // The book of one stock never stands under the name of another.
     forgetQuotes();
     // Covered by the stock search the timer starts with the next appearance.
@@ -153,28 +156,27 @@ void TZBuyAndSellController::fetchQuote()
 {
     const int number = ++askedQuotes;
     const auto answered = [this, number](const Operation &operation, const QVariantMap &answer) {
-        const bool good = boolValue(answer.value(QStringLiteral("success")));
-        quoteFailed = !good;
-        if (number <= shownQuote || !good)
+        if (number <= shownQuote || !operation->succeeded)
             return;
         shownQuote = number;
         answeredAt = std::max(answeredAt, operation->answeredAt);
         showQuote(answer.value(dataKey).toMap());
     };
-    const auto failed = [this](const Operation &, const RequestError &) { quoteFailed = true; };
     // One failure is told; after it the age of the quote says enough.
-    const auto read =
-        quoteFailed ? TZTradeTool::readTimelyInfoWithStockCode : TZTradeTool::getTimelyInfoWithStockCode;
-    read(stock.stockCode, Success{this, answered}, Failure{this, failed});
+    const auto read = quoteRequest.isSilent() || orderOnItsWay ? TZTradeTool::readTimelyInfoWithStockCode
+                                                               : TZTradeTool::getTimelyInfoWithStockCode;
+    const Operation operation = read(stock.stockCode, Success{this, answered}, {});
+    quoteRequest.sent(operation);
+    keepWaitingAfter(operation);
 }
 
 void TZBuyAndSellController::showQuote(const QVariantMap &data)
 {
     if (OrderBook::isQuote(data))
         age.restart();
-    const QVariant match = data.value(QStringLiteral("match"));
+    const QString match = textForm(data.value(QStringLiteral("match")));
     if (!Service::whetherAnEmptyString(match)) {
-        latestPrice = textForm(match);
+        latestPrice = match;
         Q_EMIT currentPriceChanged();
     }
     if (const qint64 time = OrderIntent::serviceTime(data.value(QStringLiteral("time"))); time > 0)
@@ -291,6 +293,8 @@ void TZBuyAndSellController::clearFields()
 {
     setQuantity({}, -1);
     setPrice({});
+    if (isBuyType())
+        setCountLabel({});
 }
 
 void TZBuyAndSellController::setCountLabel(const QString &label)
@@ -411,10 +415,13 @@ void TZBuyAndSellController::sendOrder(const QString &password)
     // The outcome is told by the window: what lies over this screen may lead away from it meanwhile.
     const auto told = [host = window(), screen = QPointer(this), ways = ways(),
                        hadPassword = !password.isEmpty()](const Operation &, const SentOrder &sent) {
-        if (screen && wantsTradePassword(sent))
+        if (!screen || !wantsTradePassword(sent))
+            OrderDialogs::tellOutcome(*host, sent, ways);
+        else if (screen->isInFront())
             screen->askForTradePwd(sent, hadPassword);
         else
-            OrderDialogs::tellOutcome(*host, sent, ways);
+            // The prompt does not say for which order, and what covers the screen is none of it.
+            OrderDialogs::tellOutcome(*host, sent, {});
     };
     const Operation operation = UnknownOrders::send(order, password, UnknownOrders::Told{window(), told});
     connect(operation.get(), &RequestOperation::finished, this, [this] { setOrderOnItsWay(false); });
@@ -427,6 +434,14 @@ void TZBuyAndSellController::setOrderOnItsWay(bool onItsWay)
 {
     orderOnItsWay = onItsWay;
     Q_EMIT barChanged();
+}
+
+void TZBuyAndSellController::keepWaitingAfter(const Operation &read)
+{
+    connect(read.get(), &RequestOperation::finished, this, [this] {
+        if (orderOnItsWay && shown)
+            showWaitingView();
+    });
 }
 
 void TZBuyAndSellController::askForTradePwd(const SentOrder &sent, bool hadPassword)

@@ -10,6 +10,7 @@
 #include "trading/screens/OrderDialogs.h"
 #include "trading/screens/OrderEntryRules.h"
 #include "trading/screens/QuoteAge.h"
+#include "trading/screens/RepeatedRequest.h"
 #include "trading/screens/StockChooser.h"
 #include "trading/screens/TZHandicapView.h"
 
@@ -129,6 +130,8 @@ private:
     void showTradePwdPrompt();
     void sendOrder(const QString &password);
     void setOrderOnItsWay(bool onItsWay);
+    /// The end of a read may take the indicator away; an order on its way has it back.
+    void keepWaitingAfter(const Operation &read);
     void askForTradePwd(const SentOrder &sent, bool hadPassword);
     void orderPlaced();
     OrderWays ways();
@@ -170,7 +173,7 @@ private:
     /// stock, is dropped.
     int askedQuotes = 0;
     int shownQuote = 0;
-    bool quoteFailed = false;
+    RepeatedRequest quoteRequest;
     QPointer<TZTradePwdAlertView> prompt;
     bool orderOnItsWay = false;
     /// The order that the user wants although one like it is of unknown outcome.

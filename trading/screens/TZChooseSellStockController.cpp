@@ -10,7 +10,7 @@ void TZChooseSellStockController::viewDidLoad()
     TZBaseTableViewController::viewDidLoad();
     setTitle(QStringLiteral("选择卖出股票"));
     setShowBackButton(true);
-    getHoldingWithRequest();
+    beginRefreshing();
 }
 
 void TZChooseSellStockController::viewWillAppear()

@@ -3,10 +3,13 @@
 #include "core/net/Callbacks.h"
 #include "core/shell/TZBaseTableViewController.h"
 #include "core/util/RowListModel.h"
+#include "core/util/Service.h"
 #include "core/util/Text.h"
 
-/// One of the two lists of today, read page by page. Pages count from 0; a further page is appended, a
-/// refresh replaces all.
+#include <algorithm>
+
+/// One of the two lists of today, read page by page. Pages count from 0; of a further page what is not there
+/// yet is appended, a refresh replaces all.
 class TodayList : public TZBaseTableViewController {
     Q_OBJECT
     Q_PROPERTY(GadgetListModel *rows READ rows CONSTANT)
@@ -56,12 +59,19 @@ protected:
     }
     void append(const QVariant &data) override
     {
-        const QList<Model> further = fromArray<Model>(data);
+        QList<Model> further = fromArray<Model>(data);
+        // What has come since the page before shifts its last rows to this one.
+        further.removeIf([this](const Model &each) { return isShown(each.id); });
         all += further;
         shownRows.append(rowsOf(further));
     }
 
 private:
+    bool isShown(const QString &id) const
+    {
+        return !Service::whetherAnEmptyString(id) &&
+               std::any_of(all.begin(), all.end(), [&id](const Model &each) { return each.id == id; });
+    }
     static QList<Row> rowsOf(const QList<Model> &models)
     {
         QList<Row> made;

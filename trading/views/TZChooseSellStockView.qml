@@ -12,7 +12,6 @@ PageFrame {
 
     HoldingColumns {
         id: columns
-        visible: page.screen.holdings.count > 0
     }
     RefreshableList {
         anchors { left: parent.left; right: parent.right; top: columns.bottom; bottom: parent.bottom }
