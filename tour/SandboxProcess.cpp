@@ -39,7 +39,7 @@ QString SandboxProcess::authority() const
 
 QByteArray SandboxProcess::exchange(const QString &path, const QByteArray &form) const
 {
-    QNetworkRequest request(QUrl(url + QStringLiteral("sandbox/") + path));
+    QNetworkRequest request(QUrl(url + path));
     QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
     tls.setCaCertificates(QSslCertificate::fromPath(authority()));
     request.setSslConfiguration(tls);
@@ -52,18 +52,29 @@ QByteArray SandboxProcess::exchange(const QString &path, const QByteArray &form)
     return reply->readAll();
 }
 
+QVariant SandboxProcess::data(const QString &path) const
+{
+    return QJsonDocument::fromJson(exchange(path, {})).object().toVariantMap().value(QStringLiteral("data"));
+}
+
 QVariantMap SandboxProcess::state() const
 {
-    return QJsonDocument::fromJson(exchange(QStringLiteral("state"), {}))
-        .object()
-        .toVariantMap()
-        .value(QStringLiteral("data"))
-        .toMap();
+    return data(QStringLiteral("sandbox/state")).toMap();
+}
+
+QString SandboxProcess::initialsOf(const QString &name) const
+{
+    const QVariantList stocks = data(QStringLiteral("info")).toList();
+    for (const QVariant &stock : stocks) {
+        if (stock.toMap().value(QStringLiteral("n")) == name)
+            return stock.toMap().value(QStringLiteral("s")).toString();
+    }
+    return {};
 }
 
 void SandboxProcess::post(const QString &path, const QVariantMap &fields) const
 {
-    exchange(path, formFields(fields));
+    exchange(QStringLiteral("sandbox/") + path, formFields(fields));
 }
 
 int SandboxProcess::unknownRequests() const

@@ -19,12 +19,15 @@ public:
     QString codeFor(const QString &cell) const { return codes.value(cell); }
     /// What the sandbox says of itself: its clock, its users with their books.
     QVariantMap state() const;
+    /// The pinyin initials of a listed company.
+    QString initialsOf(const QString &name) const;
     /// How many requests went to paths that the sandbox does not know.
     int unknownRequests() const;
     /// Posts a form to a path below "sandbox/": a fault, the clock, a price.
     void post(const QString &path, const QVariantMap &fields) const;
 
 private:
+    QVariant data(const QString &path) const;
     QByteArray exchange(const QString &path, const QByteArray &form) const;
     void readLines();
 

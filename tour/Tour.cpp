@@ -32,9 +32,13 @@ QList<Tour::Step> Tour::steps()
         {QStringLiteral("order in the books"), [this] { return buyStandsInTheBooks(); }},
         {QStringLiteral("sell placed"), [this] { return sellHolding(); }},
         {QStringLiteral("orders cancelled"), [this] { return cancelOrders(); }},
+        {QStringLiteral("stock"), [this] { return readStock(); }},
+        {QStringLiteral("daily candles"), [this] { return readCandles(); }},
+        {QStringLiteral("message pushed"), [this] { return receiveMessage(); }},
         {QStringLiteral("entrusts and deals"), [this] { return readEntrustsAndDeals(); }},
         {QStringLiteral("detail"), [this] { return readDetail(); }},
-        {QStringLiteral("my account"), [this] { return openMyAccount(); }},
+        {QStringLiteral("home, signed in"), [this] { return goHome(); }},
+        {QStringLiteral("my account"), [this] { return openAccountOfMenu(); }},
         {QStringLiteral("nickname changed"), [this] { return changeNickname(); }},
         {QStringLiteral("trade password reset"), [this] { return resetTradePassword(); }},
         {QStringLiteral("signed out"), [this] { return logOut(); }},
@@ -93,21 +97,24 @@ bool Tour::signInWithCode()
 bool Tour::openOrderEntry()
 {
     ordersBefore = ordersInTheBooks();
+    availableBefore = user().value(QStringLiteral("availableMoney")).toString();
+    stock = heldStock();
     return hand.press(QStringLiteral("买入")) && hand.waitFor(QStringLiteral("请输入股票代码或拼音"));
 }
 
 bool Tour::findStock()
 {
     return hand.press(QStringLiteral("请输入股票代码或拼音")) && hand.waitFor(QStringLiteral("选择股票")) &&
-           hand.type(QStringLiteral("请输入股票代码或拼音"), QStringLiteral("60")) &&
-           hand.waitForPart(QStringLiteral("60"));
+           hand.type(QStringLiteral("请输入股票代码或拼音"), sandbox.initialsOf(stock).toLower()) &&
+           hand.waitForPart(stock);
 }
 
 bool Tour::tapPrice()
 {
+    const QString price = QStringLiteral("卖1 ");
     hand.key(Qt::Key_Return);
-    return hand.waitForPart(QStringLiteral("(60")) && hand.waitForPart(QStringLiteral("卖1 ")) &&
-           hand.pressPart(QStringLiteral("卖1 ")) && hand.waitForPart(QStringLiteral("当前可买入"));
+    return hand.waitForPart(price) && hand.seesPart(stock) && hand.pressPart(price) &&
+           hand.waitForPart(QStringLiteral("当前可买入"));
 }
 
 bool Tour::submitBuy()
@@ -118,15 +125,17 @@ bool Tour::submitBuy()
 
 bool Tour::buyStandsInTheBooks()
 {
-    return ordersInTheBooks() == ordersBefore + 1 && hand.press(QStringLiteral("实盘炒股")) &&
-           hand.waitForPart(QStringLiteral("当前持仓"));
+    // Cash pays for it, or is frozen for it.
+    return ordersInTheBooks() == ordersBefore + 1 &&
+           user().value(QStringLiteral("availableMoney")) != availableBefore &&
+           hand.press(QStringLiteral("实盘炒股")) && hand.waitForPart(QStringLiteral("当前持仓"));
 }
 
 bool Tour::sellHolding()
 {
     const QString price = QStringLiteral("卖5 ");
     return hand.press(QStringLiteral("卖出")) && hand.waitFor(QStringLiteral("选择卖出股票")) &&
-           hand.pressPart(heldStock()) && hand.waitForPart(price) && hand.pressPart(price) &&
+           hand.pressPart(stock) && hand.waitForPart(price) && hand.pressPart(price) &&
            hand.type(QStringLiteral("请输入卖出数量"), QStringLiteral("100")) &&
            hand.press(QStringLiteral("卖出")) && hand.waitFor(placed) &&
            ordersInTheBooks() == ordersBefore + 2 && hand.press(QStringLiteral("实盘炒股")) && hand.back();
@@ -147,10 +156,32 @@ bool Tour::cancelOrders()
     return hand.waitFor(QStringLiteral("暂无可撤委托")) && hand.back();
 }
 
+bool Tour::readStock()
+{
+    return hand.pressPart(stock) && hand.waitFor(QStringLiteral("分时")) &&
+           hand.waitForPart(QStringLiteral("卖1 "));
+}
+
+bool Tour::readCandles()
+{
+    return hand.press(QStringLiteral("日K")) && hand.waitForPart(QStringLiteral("日K线")) && hand.back();
+}
+
+bool Tour::receiveMessage()
+{
+    const QString title = QStringLiteral("今晚维护");
+    sandbox.post(QStringLiteral("message"), {{QStringLiteral("user"), QStringLiteral("1")},
+                                             {QStringLiteral("source"), QStringLiteral("100")},
+                                             {QStringLiteral("title"), title},
+                                             {QStringLiteral("content"), QStringLiteral("二十二点起")}});
+    return hand.waitFor(QStringLiteral("消息详情")) && hand.waitFor(title) &&
+           hand.press(QStringLiteral("关闭"));
+}
+
 bool Tour::readEntrustsAndDeals()
 {
     return hand.press(QStringLiteral("查看")) && hand.waitForPart(QStringLiteral("已撤单")) &&
-           hand.press(QStringLiteral("当日成交")) && hand.waitForPart(QStringLiteral("(60"));
+           hand.press(QStringLiteral("当日成交")) && hand.waitForPart(stock);
 }
 
 bool Tour::readDetail()
@@ -159,9 +190,10 @@ bool Tour::readDetail()
            hand.waitFor(QStringLiteral("委托详情")) && hand.waitForPart(QStringLiteral("当前状态"));
 }
 
-bool Tour::openMyAccount()
+bool Tour::goHome()
 {
-    return hand.press(QStringLiteral("关闭")) && hand.back() && hand.back() && openAccountOfMenu();
+    return hand.press(QStringLiteral("关闭")) && hand.back() && hand.back() &&
+           hand.waitForPart(QStringLiteral("总资产"));
 }
 
 bool Tour::changeNickname()

@@ -34,9 +34,12 @@ private:
     bool buyStandsInTheBooks();
     bool sellHolding();
     bool cancelOrders();
+    bool readStock();
+    bool readCandles();
+    bool receiveMessage();
     bool readEntrustsAndDeals();
     bool readDetail();
-    bool openMyAccount();
+    bool goHome();
     bool changeNickname();
     bool resetTradePassword();
     bool logOut();
@@ -56,4 +59,6 @@ private:
     SandboxProcess &sandbox;
     QDir pictures;
     int ordersBefore = 0;
+    QString availableBefore;
+    QString stock;
 };
