@@ -184,9 +184,6 @@ TEST_F(FingersTest, ASecondTapRightAfterAnotherActsToo)
     QTest::touchEvent(shown, touch.get()).press(0, button("1/2"));
     QTest::touchEvent(shown, touch.get()).release(0, button("1/2"));
     EXPECT_EQ(screen->quantity(), "400") << "on the same place";
-    screen->editQuantity({});
-    QTest::mouseDClick(shown, Qt::LeftButton, {}, button("1/4"));
-    EXPECT_EQ(screen->quantity(), "200");
 }
 
 TEST_F(FingersTest, ALevelOfTheBookKeepsTheFingerWhenTheBookChanges)
