@@ -60,34 +60,30 @@ using DesktopKitsTest = PlatformTest;
 TEST_F(DesktopKitsTest, SharingPutsTheTextOnThePasteboardAndIntoAMailDraft)
 {
     DesktopShare share(kits, kits);
-    share.share({QStringLiteral("一起炒股 & 赚"),
-                 QStringLiteral("标题?"),
-                 {},
-                 QStringLiteral("https://x.test/?a=1&b=2")});
+    share.share({"一起炒股 & 赚", "标题?", {}, "https://x.test/?a=1&b=2"});
     EXPECT_EQ(
         kits.calls,
-        QStringList({QStringLiteral("setText 一起炒股 & 赚 标题? https://x.test/?a=1&b=2"),
-                     QStringLiteral(
-                         "open mailto:?subject=%E6%A0%87%E9%A2%98%3F&body=%E4%B8%80%E8%B5%B7%E7%82%92%E8%82%"
-                         "A1%20%26%20%E8%B5%9A%0D%0Ahttps%3A%2F%2Fx.test%2F%3Fa%3D1%26b%3D2")}));
+        QStringList({"setText 一起炒股 & 赚 标题? https://x.test/?a=1&b=2",
+                     "open mailto:?subject=%E6%A0%87%E9%A2%98%3F&body=%E4%B8%80%E8%B5%B7%E7%82%92%E8%82%"
+                     "A1%20%26%20%E8%B5%9A%0D%0Ahttps%3A%2F%2Fx.test%2F%3Fa%3D1%26b%3D2"}));
 
     runLoop.advance(500ms);
-    EXPECT_EQ(banners(), QStringList(QStringLiteral("分享内容已复制")));
+    EXPECT_EQ(banners(), QStringList("分享内容已复制"));
 }
 
 TEST_F(DesktopKitsTest, FeedbackIsAMailDraftOrElseTheAddress)
 {
-    MailFeedback feedback(kits, kits, QStringLiteral("help@zorvane.example"), QStringLiteral("a b"));
-    const QString draft = QStringLiteral("open mailto:help@zorvane.example?subject=a%20b&body=");
+    MailFeedback feedback(kits, kits, "help@zorvane.example", "a b");
+    const QString draft = "open mailto:help@zorvane.example?subject=a%20b&body=";
     feedback.show();
     EXPECT_EQ(kits.calls, QStringList(draft));
     EXPECT_EQ(banners(), QStringList());
     kits.opens = false;
     kits.calls.clear();
     feedback.show();
-    EXPECT_EQ(kits.calls, QStringList({draft, QStringLiteral("setText help@zorvane.example")}));
+    EXPECT_EQ(kits.calls, QStringList({draft, "setText help@zorvane.example"}));
     runLoop.advance(500ms);
-    EXPECT_EQ(banners(), QStringList(QStringLiteral("反馈邮箱已复制：help@zorvane.example")));
+    EXPECT_EQ(banners(), QStringList("反馈邮箱已复制：help@zorvane.example"));
 }
 
 TEST(QtReachabilityTest, AlwaysReachesAServiceOnThisMachine)
@@ -101,7 +97,7 @@ TEST(QtReachabilityTest, AlwaysReachesAServiceOnThisMachine)
 
 TEST(QtApplicationInfoTest, KnowsTheVersionsOfTheProgramAndOfTheSystem)
 {
-    const QtApplicationInfo information(QStringLiteral("https://service.test/"), {});
+    const QtApplicationInfo information("https://service.test/", {});
     EXPECT_FALSE(information.buildVersion().isEmpty());
     EXPECT_GT(information.systemVersion(), 0);
 }

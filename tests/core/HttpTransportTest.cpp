@@ -54,10 +54,13 @@ std::string described(const HttpOutcome &outcome)
     return names[static_cast<int>(std::get<HttpFailure>(outcome))];
 }
 
-HttpRequest form(const QString &url)
+/// As an order is sent; a GET has no body.
+HttpRequest form(const QString &url, const QByteArray &method = "POST")
 {
-    return {
-        "POST", url, {{"Content-Type", "application/x-www-form-urlencoded"}, {"api_token", "t"}}, "a=1&b=2"};
+    return {method,
+            url,
+            {{"Content-Type", "application/x-www-form-urlencoded"}, {"api_token", "t"}},
+            method == "GET" ? "" : "a=1&b=2"};
 }
 
 TEST_F(HttpTransportTest, CarriesMethodHeadersAndBodyAndBringsAnyStatusBack)
@@ -71,10 +74,7 @@ TEST_F(HttpTransportTest, CarriesMethodHeadersAndBodyAndBringsAnyStatusBack)
     };
     for (const char *method : {"GET", "POST", "PUT"}) {
         for (const int status : {200, 201, 400, 401, 403, 404, 407, 409, 418, 500, 502, 503, 599}) {
-            HttpRequest request = form(server.url(QString::number(status)));
-            request.method = method;
-            if (request.method == "GET")
-                request.body.clear();
+            const HttpRequest request = form(server.url(QString::number(status)), method);
             server.requests.clear();
             const HttpOutcome outcome = send(request);
             EXPECT_EQ(described(outcome), std::to_string(status) + " {" + std::to_string(status) + "}")
@@ -85,11 +85,10 @@ TEST_F(HttpTransportTest, CarriesMethodHeadersAndBodyAndBringsAnyStatusBack)
             EXPECT_EQ(server.requests.first().header("api_token"), "t");
         }
     }
-    EXPECT_EQ(std::get<HttpResponse>(get(server.url(QStringLiteral("200")))).contentType,
-              "text/html; charset=utf-8");
-    EXPECT_EQ(std::get<HttpResponse>(get(server.url(QStringLiteral("200")))).date, 1'600'000'000'000);
-    EXPECT_EQ(std::get<HttpResponse>(get(server.url(QStringLiteral("201")))).date, 0);
-    EXPECT_EQ(described(get(server.url(QStringLiteral("204")))), "204 ");
+    EXPECT_EQ(std::get<HttpResponse>(get(server.url("200"))).contentType, "text/html; charset=utf-8");
+    EXPECT_EQ(std::get<HttpResponse>(get(server.url("200"))).date, 1'600'000'000'000);
+    EXPECT_EQ(std::get<HttpResponse>(get(server.url("201"))).date, 0);
+    EXPECT_EQ(described(get(server.url("204"))), "204 ");
 }
 
 TEST_F(HttpTransportTest, NeverSendsTwiceHoweverTheConnectionEndsAfterReading)
@@ -106,7 +105,7 @@ TEST_F(HttpTransportTest, NeverSendsTwiceHoweverTheConnectionEndsAfterReading)
         for (const auto &[written, reset, warm] : cases) {
             if (warm) {
                 server.answer = [](QTcpSocket &socket, auto &) { respond(socket, "200 OK", "", "{}"); };
-                EXPECT_EQ(described(get(server.url(QStringLiteral("warm")))), "200 {}");
+                EXPECT_EQ(described(get(server.url("warm"))), "200 {}");
             }
             server.answer = [&](QTcpSocket &socket, const WireServer::Request &) {
                 socket.write(written);
@@ -117,11 +116,7 @@ TEST_F(HttpTransportTest, NeverSendsTwiceHoweverTheConnectionEndsAfterReading)
                     socket.disconnectFromHost();
             };
             server.requests.clear();
-            HttpRequest request = form(server.url(QStringLiteral("order")));
-            request.method = method;
-            if (request.method == "GET")
-                request.body.clear();
-            EXPECT_EQ(described(send(request)), "connection")
+            EXPECT_EQ(described(send(form(server.url("order"), method))), "connection")
                 << method << written.toStdString() << reset << warm;
             linger();
             EXPECT_EQ(server.requests.size(), 1) << method << written.toStdString() << reset << warm;
@@ -140,7 +135,7 @@ TEST_F(HttpTransportTest, EndsTheWholeRequestAtItsTimeOutEvenWhileBytesTrickle)
             QObject::connect(drip, &QTimer::timeout, &server, [&socket] { socket.write("x"); });
             drip->start(20ms);
         };
-        HttpRequest request = form(server.url(QStringLiteral("slow")));
+        HttpRequest request = form(server.url("slow"));
         request.timeout = 200ms;
         QElapsedTimer watch;
         watch.start();
@@ -159,11 +154,11 @@ TEST_F(HttpTransportTest, RefusesCertificatesThatDoNotProveTheServer)
     const Identity early = makeServer(authority, "IP:127.0.0.1", {3600, 7200});
     for (const Identity *bad : {&stranger, &otherHost, &expired, &early}) {
         WireServer wrong(bad);
-        EXPECT_EQ(described(send(form(wrong.url(QStringLiteral("login"))))), "tls");
+        EXPECT_EQ(described(send(form(wrong.url("login")))), "tls");
         EXPECT_TRUE(wrong.requests.isEmpty());
     }
     QtHttpTransport strict;
-    EXPECT_EQ(described(send(form(server.url(QStringLiteral("login"))), strict)), "tls")
+    EXPECT_EQ(described(send(form(server.url("login")), strict)), "tls")
         << "without the developer's authority";
     EXPECT_TRUE(server.requests.isEmpty());
 }
@@ -189,7 +184,7 @@ TEST_F(HttpTransportTest, FollowsRedirectsOnlyToSafePlacesAndKeepsTheTokenAtHome
         std::string get;
         std::string post;
     };
-    const QByteArray foreign = other.url(QStringLiteral("target")).toLatin1();
+    const QByteArray foreign = other.url("target").toLatin1();
     const Case cases[] = {
         {"302 Found", "/target", "200 here", "200 here"},
         {"301 Moved", foreign, "200 there", "200 there"},
@@ -204,20 +199,18 @@ TEST_F(HttpTransportTest, FollowsRedirectsOnlyToSafePlacesAndKeepsTheTokenAtHome
     for (const Case &c : cases) {
         status = c.status;
         location = c.location;
-        HttpRequest request = form(server.url(QStringLiteral("start")));
-        EXPECT_EQ(described(send(request)), c.post) << c.status << c.location.toStdString();
-        request.method = "GET";
-        request.body.clear();
-        EXPECT_EQ(described(send(request)), c.get) << c.status << c.location.toStdString();
+        const QString start = server.url("start");
+        EXPECT_EQ(described(send(form(start))), c.post) << c.status << c.location.toStdString();
+        EXPECT_EQ(described(send(form(start, "GET"))), c.get) << c.status << c.location.toStdString();
     }
     status = "302 Found";
     location = "/target";
     const auto redirected = [this](const HttpRequest &request) {
         return std::get<HttpResponse>(send(request)).redirected;
     };
-    EXPECT_TRUE(redirected(form(server.url(QStringLiteral("start"))))) << "the body was not sent there";
-    EXPECT_FALSE(redirected(form(server.url(QStringLiteral("target")))));
-    EXPECT_FALSE(redirected({"GET", server.url(QStringLiteral("start")), {{"api_token", "t"}}, {}}));
+    EXPECT_TRUE(redirected(form(server.url("start")))) << "the body was not sent there";
+    EXPECT_FALSE(redirected(form(server.url("target"))));
+    EXPECT_FALSE(redirected(form(server.url("start"), "GET")));
 
     ASSERT_FALSE(other.requests.isEmpty());
     for (const WireServer::Request &request : std::as_const(other.requests)) {
@@ -232,10 +225,10 @@ TEST_F(HttpTransportTest, FollowsRedirectsOnlyToSafePlacesAndKeepsTheTokenAtHome
 TEST_F(HttpTransportTest, LeavesHttpsOnlyForLoopbackInDeveloperBuilds)
 {
     WireServer loopbackHttp;
-    EXPECT_EQ(described(get(loopbackHttp.url(QStringLiteral("x")))), "200 {\"success\":true}");
-    EXPECT_EQ(described(get(QStringLiteral("http://service.example/"))), "tls");
-    EXPECT_EQ(described(get(QStringLiteral("file:///etc/passwd"))), "tls");
-    EXPECT_EQ(described(get(QStringLiteral("not a url"))), "tls");
+    EXPECT_EQ(described(get(loopbackHttp.url("x"))), "200 {\"success\":true}");
+    EXPECT_EQ(described(get("http://service.example/")), "tls");
+    EXPECT_EQ(described(get("file:///etc/passwd")), "tls");
+    EXPECT_EQ(described(get("not a url")), "tls");
 }
 
 TEST_F(HttpTransportTest, ReusesItsConnectionAndKeepsNothingElse)
@@ -245,9 +238,7 @@ TEST_F(HttpTransportTest, ReusesItsConnectionAndKeepsNothingElse)
                 "Set-Cookie: session=1; Path=/\r\nCache-Control: max-age=600\r\nETag: \"1\"\r\n", "{}");
     };
     for (int i = 0; i < 10; ++i)
-        EXPECT_EQ(described(i % 2 ? get(server.url(QStringLiteral("x")))
-                                  : send(form(server.url(QStringLiteral("x"))))),
-                  "200 {}");
+        EXPECT_EQ(described(i % 2 ? get(server.url("x")) : send(form(server.url("x")))), "200 {}");
     EXPECT_EQ(server.connections, 1);
     EXPECT_EQ(server.requests.size(), 10);
     for (const WireServer::Request &request : std::as_const(server.requests)) {
@@ -268,12 +259,11 @@ TEST_F(HttpTransportTest, SendsManyAtOnceEachExactlyOnceAndNoneWaitsForAnAnswerT
     constexpr std::size_t many = 20;
     std::size_t answered = 0;
     for (std::size_t i = 0; i < many; ++i)
-        transport.send({"GET", server.url(QStringLiteral("held")), {}, {}},
-                       [&answered](const HttpOutcome &outcome) {
-                           EXPECT_EQ(described(outcome), "200 held");
-                           ++answered;
-                       });
-    EXPECT_EQ(described(send(form(server.url(QStringLiteral("order"))))), "200 taken");
+        transport.send({"GET", server.url("held"), {}, {}}, [&answered](const HttpOutcome &outcome) {
+            EXPECT_EQ(described(outcome), "200 held");
+            ++answered;
+        });
+    EXPECT_EQ(described(send(form(server.url("order")))), "200 taken");
     EXPECT_EQ(answered, 0U);
     while (waiting.size() < many && answered == 0)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
@@ -284,7 +274,7 @@ TEST_F(HttpTransportTest, SendsManyAtOnceEachExactlyOnceAndNoneWaitsForAnAnswerT
     EXPECT_EQ(server.requests.size(), static_cast<qsizetype>(many) + 1);
 
     const int connections = server.connections;
-    EXPECT_EQ(described(send(form(server.url(QStringLiteral("order"))))), "200 taken");
+    EXPECT_EQ(described(send(form(server.url("order")))), "200 taken");
     EXPECT_EQ(server.connections, connections) << "a pool with room is used before there is another";
 }
 
@@ -294,7 +284,7 @@ TEST_F(HttpTransportTest, CarriesLargeBodiesBothWays)
     server.answer = [&large](QTcpSocket &socket, const WireServer::Request &) {
         respond(socket, "200 OK", "", large);
     };
-    HttpRequest request = form(server.url(QStringLiteral("photo")));
+    HttpRequest request = form(server.url("photo"));
     request.body = large;
     const HttpOutcome outcome = send(request);
     ASSERT_TRUE(std::holds_alternative<HttpResponse>(outcome)) << described(outcome);
@@ -310,7 +300,7 @@ TEST_F(HttpTransportTest, TellsWhyNothingCameBackAndThatAFormWithoutAConnectionW
             socket.write("no HTTP at all\r\n\r\n");
         socket.disconnectFromHost();
     };
-    const QString gone = std::make_unique<WireServer>(&identity)->url(QStringLiteral("x"));
+    const QString gone = std::make_unique<WireServer>(&identity)->url("x");
     QTcpServer mute;
     mute.listen(QHostAddress::LocalHost);
     const struct {
@@ -320,17 +310,16 @@ TEST_F(HttpTransportTest, TellsWhyNothingCameBackAndThatAFormWithoutAConnectionW
     } cases[] = {
         {gone, "connection", "offline"},
         {QStringLiteral("https://127.0.0.1:%1/").arg(mute.serverPort()), "timed out", "offline"},
-        {QStringLiteral("https://nowhere.invalid/"), "offline", "offline"},
-        {server.url(QStringLiteral("noise")), "connection", "connection"},
-        {server.url(QStringLiteral("closed")), "connection", "connection"},
+        {"https://nowhere.invalid/", "offline", "offline"},
+        {server.url("noise"), "connection", "connection"},
+        {server.url("closed"), "connection", "connection"},
     };
     for (const auto &[url, read, sent] : cases) {
-        HttpRequest request = form(url);
-        request.timeout = 500ms;
-        EXPECT_EQ(described(send(request)), sent) << url.toStdString();
-        request.method = "GET";
-        request.body.clear();
-        EXPECT_EQ(described(send(request)), read) << url.toStdString();
+        for (const QByteArray method : {"POST", "GET"}) {
+            HttpRequest request = form(url, method);
+            request.timeout = 500ms;
+            EXPECT_EQ(described(send(request)), method == "GET" ? read : sent) << url.toStdString();
+        }
     }
 }
 
@@ -339,7 +328,7 @@ TEST_F(HttpTransportTest, DropsWhatIsOnItsWayWhenItGoes)
     server.answer = [](QTcpSocket &, const WireServer::Request &) {};
     auto shortLived = std::make_unique<QtHttpTransport>(DeveloperTrust{{authority.certificate}, false});
     bool done = false;
-    shortLived->send(form(server.url(QStringLiteral("x"))), [&done](const HttpOutcome &) { done = true; });
+    shortLived->send(form(server.url("x")), [&done](const HttpOutcome &) { done = true; });
     for (const QDeadlineTimer limit(5s); server.requests.isEmpty() && !limit.hasExpired();)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
     shortLived.reset();

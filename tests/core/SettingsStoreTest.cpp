@@ -25,6 +25,13 @@ QVariantMap answerOf(qint64 round)
     return {{"data", rows}, {"round", round}};
 }
 
+class SettingsFile : public testing::Test {
+protected:
+    const QTemporaryDir directory;
+    const QString folder = directory.filePath("deep/er");
+    const QString path = folder + "/zorvane.settings";
+};
+
 void waitFor(
     std::chrono::milliseconds time, const std::function<bool()> &met = [] { return false; })
 {
@@ -45,10 +52,8 @@ TEST(SettingsWriter, DISABLED_WritesUntilItIsKilled)
     }
 }
 
-TEST(SettingsStore, IsWholeAfterAKillAtAnyMoment)
+TEST_F(SettingsFile, IsWholeAfterAKillAtAnyMoment)
 {
-    const QTemporaryDir directory;
-    const QString path = directory.filePath("zorvane.settings");
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QLatin1String(writerFile), path);
     qint64 told = 0;
@@ -75,21 +80,19 @@ TEST(SettingsStore, IsWholeAfterAKillAtAnyMoment)
         ASSERT_EQ(store.value("answer").toMap(), answerOf(round)) << "both keys are of one flush";
         ASSERT_EQ(QFileInfo(path).permissions() & (QFile::ReadGroup | QFile::ReadOther),
                   QFile::Permissions());
-        EXPECT_EQ(QDir(directory.path()).entryList(QDir::Files),
+        EXPECT_EQ(QDir(folder).entryList(QDir::Files),
                   QStringList({"zorvane.settings", "zorvane.settings.lock"}));
         told = round;
     }
 }
 
-TEST(SettingsStore, SavesByItselfWithinAboutASecondAndNotWithoutAChange)
+TEST_F(SettingsFile, SavesByItselfWithinAboutASecondAndNotWithoutAChange)
 {
-    const QTemporaryDir directory;
-    const QString path = directory.filePath("zorvane.settings");
     const QString aside = path + "-aside";
     {
         QtSettingsStore store(path);
         store.setValue("networkStatus", true);
-        waitFor(5s, [&path] { return QFileInfo(path).size() > 0; });
+        waitFor(5s, [this] { return QFileInfo(path).size() > 0; });
         ASSERT_TRUE(QFile::rename(path, aside));
         store.setValue("networkStatus", true);
         store.remove("absent");
@@ -100,12 +103,9 @@ TEST(SettingsStore, SavesByItselfWithinAboutASecondAndNotWithoutAChange)
     EXPECT_EQ(QtSettingsStore(path).allKeys(), QStringList({"networkStatus"}));
 }
 
-TEST(SettingsStore, WritesWhatCouldNotBeWrittenAsSoonAsItCanBe)
+TEST_F(SettingsFile, WritesWhatCouldNotBeWrittenAsSoonAsItCanBe)
 {
-    const QTemporaryDir directory;
-    const QString folder = directory.filePath("data");
     const QString away = directory.filePath("away");
-    const QString path = folder + "/zorvane.settings";
     QtSettingsStore store(path);
     ASSERT_TRUE(QDir().rename(folder, away));
     store.setValue("user", "somebody");
@@ -113,15 +113,13 @@ TEST(SettingsStore, WritesWhatCouldNotBeWrittenAsSoonAsItCanBe)
     ASSERT_FALSE(QFile::exists(path));
     waitFor(1500ms);
     ASSERT_TRUE(QDir().rename(away, folder));
-    waitFor(5s, [&path] { return QFileInfo(path).size() > 0; });
+    waitFor(5s, [this] { return QFileInfo(path).size() > 0; });
     EXPECT_GT(QFileInfo(path).size(), 0);
     EXPECT_EQ(store.problem(), SettingsProblem::None);
 }
 
-TEST(SettingsStore, AFileHasOneStoreAtATime)
+TEST_F(SettingsFile, AFileHasOneStoreAtATime)
 {
-    const QTemporaryDir directory;
-    const QString path = directory.filePath("zorvane.settings");
     const QString user = "user";
     {
         QtSettingsStore first(path);
@@ -137,10 +135,8 @@ TEST(SettingsStore, AFileHasOneStoreAtATime)
     EXPECT_EQ(next.value(user), "somebody");
 }
 
-TEST(SettingsStore, BringsValuesBackAsTheyWereSet)
+TEST_F(SettingsFile, BringsValuesBackAsTheyWereSet)
 {
-    const QTemporaryDir directory;
-    const QString path = directory.filePath("deep/er/zorvane.settings");
     QVariant nested = "bottom";
     for (int depth = 0; depth < 1023; ++depth)
         nested = QVariantList{nested};
@@ -174,24 +170,21 @@ TEST(SettingsStore, BringsValuesBackAsTheyWereSet)
     }
     const QFile::Permissions ours = QFile::ReadUser | QFile::WriteUser;
     EXPECT_EQ(QFileInfo(path).permissions() & QFile::Permissions(0x0fff), ours);
-    EXPECT_EQ(QFileInfo(QFileInfo(path).path()).permissions() & QFile::Permissions(0x00ff),
-              QFile::Permissions());
+    EXPECT_EQ(QFileInfo(folder).permissions() & QFile::Permissions(0x00ff), QFile::Permissions());
 }
 
-TEST(SettingsStore, TightensAFileThatOthersCouldRead)
+TEST_F(SettingsFile, TightensAFileThatOthersCouldRead)
 {
-    const QTemporaryDir directory;
-    QFile file(directory.filePath("zorvane.settings"));
+    QDir().mkpath(folder);
+    QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
-    const QtSettingsStore store(file.fileName());
+    const QtSettingsStore store(path);
     EXPECT_EQ(file.permissions() & QFile::Permissions(0x00ff), QFile::Permissions());
 }
 
-TEST(SettingsStore, TellsWhatIsWrongWithItsFileAndLeavesItAlone)
+TEST_F(SettingsFile, TellsWhatIsWrongWithItsFileAndLeavesItAlone)
 {
-    const QTemporaryDir directory;
-    const QString path = directory.filePath("zorvane.settings");
     {
         QtSettingsStore store(path);
         store.setValue("user", "somebody");

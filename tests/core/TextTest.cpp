@@ -87,25 +87,23 @@ TEST(Text, ReadsTruth)
          {QVariant(true), QVariant(1), QVariant(-1), QVariant(0.5), text("1"), text("true"), text("YES"),
           text("y"), text("T"), text(" \t+0007"), text("-9"), text("1false")})
         EXPECT_TRUE(boolValue(yes)) << textForm(yes).toStdString();
-    for (const QVariant &no : {QVariant(), null, QVariant(false), QVariant(0), QVariant(0.0), text(""),
-                               text("0"), text("false"), text("no"), text("00"), text(" a1"),
-                               QVariant(QVariantList{1}), QVariant(QVariantMap{{QStringLiteral("a"), 1}})})
+    for (const QVariant &no :
+         {QVariant(), null, QVariant(false), QVariant(0), QVariant(0.0), text(""), text("0"), text("false"),
+          text("no"), text("00"), text(" a1"), QVariant(QVariantList{1}), QVariant(QVariantMap{{"a", 1}})})
         EXPECT_FALSE(boolValue(no)) << textForm(no).toStdString();
 }
 
 TEST(Text, FillsModelsByNameAndKeepsWhatIsAbsentApartFromWhatIsEmpty)
 {
-    const auto user =
-        fromDictionary<TZUserModel>(QVariantMap{{QStringLiteral("api_token"), QStringLiteral("")},
-                                                {QStringLiteral("cell"), 13812345678LL},
-                                                {QStringLiteral("has_register"), true},
-                                                {QStringLiteral("name"), QVariantMap{}},
-                                                {QStringLiteral("unknown"), 1}});
-    EXPECT_EQ(user.cell, QStringLiteral("13812345678"));
-    EXPECT_EQ(user.has_register, QStringLiteral("1"));
+    const auto user = fromDictionary<TZUserModel>(QVariantMap{{"api_token", ""},
+                                                              {"cell", 13812345678LL},
+                                                              {"has_register", true},
+                                                              {"name", QVariantMap{}},
+                                                              {"unknown", 1}});
+    EXPECT_EQ(user.cell, "13812345678");
+    EXPECT_EQ(user.has_register, "1");
     const QVariantMap back = toDictionary(user);
-    EXPECT_EQ(back.keys(), QStringList({QStringLiteral("api_token"), QStringLiteral("cell"),
-                                        QStringLiteral("has_register"), QStringLiteral("name")}));
+    EXPECT_EQ(back.keys(), QStringList({"api_token", "cell", "has_register", "name"}));
     EXPECT_TRUE(toDictionary(fromDictionary<TZUserModel>(text("no dictionary"))).isEmpty());
     EXPECT_EQ(fromArray<TZUserModel>(QVariantList{1, null, QVariantMap()}).size(), 1);
     EXPECT_TRUE(fromArray<TZUserModel>(QVariantMap()).isEmpty());
@@ -162,8 +160,8 @@ TEST(Amount, CutsOnButtonsInSinglePrecisionAndRoundsOnLabels)
     for (const QVariant &empty : {text(""), text("  "), null, QVariant()})
         EXPECT_EQ(buttonAmount(empty) + labelAmount(empty) + labelAmountWithYuan(empty), "");
     EXPECT_EQ(buttonAmount(1e300), labelAmount(1e300));
-    EXPECT_EQ(buttonAmountWithYuan(text("12.349")), QStringLiteral("12.34元"));
-    EXPECT_EQ(labelAmountWithYuan(text("12.349")), QStringLiteral("12.35元"));
+    EXPECT_EQ(buttonAmountWithYuan(text("12.349")), "12.34元");
+    EXPECT_EQ(labelAmountWithYuan(text("12.349")), "12.35元");
 }
 
 TEST(Amount, SetsTheLastThreeCharactersApartAsTheUnit)
@@ -180,8 +178,8 @@ TEST(Amount, SetsTheLastThreeCharactersApartAsTheUnit)
 
 TEST(Amount, ClearsSpacesButKeepsLineBreaks)
 {
-    EXPECT_EQ(clearSpaceAndWrap(QStringLiteral("\t 1 2\n3 4\t")), QStringLiteral("12\n34"));
-    EXPECT_EQ(clearSpaceAndWrap(QStringLiteral("\n")), QStringLiteral("\n"));
+    EXPECT_EQ(clearSpaceAndWrap("\t 1 2\n3 4\t"), "12\n34");
+    EXPECT_EQ(clearSpaceAndWrap("\n"), "\n");
     EXPECT_EQ(clearSpaceAndWrap(QString()), QString());
 }
 
@@ -193,7 +191,7 @@ TEST(ColourTest, ReadsSixDigitsAndNothingElse)
     for (const char *bad :
          {"", "#FFF", "2787D", "2787DA0", "2787DA00", "GGGGGG", "#0x2787DA", "0x2787", "０１２３４５"})
         EXPECT_EQ(colorWithHexString(QString::fromUtf8(bad)), Colour()) << bad;
-    EXPECT_EQ(colorWithHexString(QStringLiteral("2787DA"), 0.25).alpha, 0.25);
+    EXPECT_EQ(colorWithHexString("2787DA", 0.25).alpha, 0.25);
 }
 
 } // namespace

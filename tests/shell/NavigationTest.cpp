@@ -12,7 +12,7 @@
 namespace {
 class EmptyDialog : public KRDialog {
 public:
-    QString view() const override { return QStringLiteral("EmptyDialog"); }
+    QString view() const override { return "EmptyDialog"; }
     void cancel() override { removeFromWindow(); }
 };
 
@@ -164,7 +164,7 @@ TEST_F(NavigationTest, WhatHappensUnderASignInAppearsOnceWhenItIsGone)
 TEST_F(NavigationTest, PresentingWhileAnotherIsBeingDismissedShowsOnlyTheNewOne)
 {
     auto first = screen("first");
-    first->on(QStringLiteral("willDisappear"), [this] { window.present(screen("second")); });
+    first->on("willDisappear", [this] { window.present(screen("second")); });
     KRNavigationController *const stack = window.present(std::move(first));
     told();
     window.dismiss(stack);
@@ -176,7 +176,7 @@ TEST_F(NavigationTest, PresentingWhileAnotherIsBeingDismissedShowsOnlyTheNewOne)
 TEST_F(NavigationTest, AScreenThatLeavesWhileItAppearsIsToldToTheEnd)
 {
     auto fleeting = screen("fleeting");
-    fleeting->on(QStringLiteral("willAppear"), [this] { content()->pop(); });
+    fleeting->on("willAppear", [this] { content()->pop(); });
     content()->push(std::move(fleeting));
     EXPECT_EQ(
         told(),
@@ -187,7 +187,7 @@ TEST_F(NavigationTest, AScreenThatLeavesWhileItAppearsIsToldToTheEnd)
 TEST_F(NavigationTest, AScreenMayAskForASignInWhileItAppears)
 {
     auto guarded = screen("guarded");
-    guarded->on(QStringLiteral("didAppear"), [this] { window.present(screen("entry")); });
+    guarded->on("didAppear", [this] { window.present(screen("entry")); });
     content()->push(std::move(guarded));
     EXPECT_EQ(told(),
               "guarded load\nhome willDisappear\nguarded willAppear\nhome didDisappear\nguarded didAppear\n"
@@ -288,24 +288,23 @@ TEST_F(NavigationTest, LeavingAScreenTakesItsBannersAndTheIndicatorAway)
 {
     push("detail");
     kits.calls.clear();
-    Service::showErrorWithMsg(QStringLiteral("余额不足"));
+    Service::showErrorWithMsg("余额不足");
     Service::showWaitingProgressView();
     content()->pop();
     EXPECT_EQ(banners(), QStringList());
     EXPECT_FALSE(overlays.isWaiting());
-    EXPECT_EQ(kits.calls, (QStringList{QStringLiteral("endLogPageView PageOne"),
-                                       QStringLiteral("beginLogPageView PageOne")}));
+    EXPECT_EQ(kits.calls, (QStringList{"endLogPageView PageOne", "beginLogPageView PageOne"}));
 }
 
 TEST_F(NavigationTest, TheLeftSlotHoldsWhatWasPutThereLast)
 {
     RecordingScreen *const detail = push("detail");
-    detail->createNavLeftItemWithTitle(QStringLiteral("取消"), QStringLiteral("common_close_gray"), {}, {});
+    detail->createNavLeftItemWithTitle("取消", "common_close_gray", {}, {});
     detail->setShowBackButton(true);
     EXPECT_EQ(detail->leftItemTitle() + detail->leftItemImage(), QString());
-    detail->createNavLeftItemWithTitle({}, {}, QStringLiteral("保存"), {});
+    detail->createNavLeftItemWithTitle({}, {}, "保存", {});
     EXPECT_TRUE(detail->showBackButton()) << "a right item leaves it alone";
-    detail->createNavLeftItemWithTitle(QStringLiteral("取消"), {}, {}, {});
+    detail->createNavLeftItemWithTitle("取消", {}, {}, {});
     EXPECT_FALSE(detail->showBackButton());
     detail->setShowBackButton(false);
     EXPECT_EQ(detail->leftItemTitle(), QString());

@@ -65,7 +65,7 @@ void ManualRunLoop::advance(std::chrono::milliseconds by)
 
 namespace {
 
-const QString base = QStringLiteral("https://service.test/");
+const QString base = "https://service.test/";
 
 QVariantMap decodeForm(const QString &form)
 {
@@ -182,9 +182,7 @@ PlatformTest::~PlatformTest()
 
 void PlatformTest::signIn()
 {
-    settings.setValue(SettingsKeys::user,
-                      QVariantMap{{QStringLiteral("api_token"), QStringLiteral("t0ken")},
-                                  {QStringLiteral("cell"), QStringLiteral("13812345678")}});
+    settings.setValue(SettingsKeys::user, QVariantMap{{"api_token", "t0ken"}, {"cell", "13812345678"}});
 }
 
 QStringList PlatformTest::banners() const
@@ -203,10 +201,10 @@ void PlatformTest::settle()
 
 QVariantMap succeeded(const QVariant &data)
 {
-    return {{QStringLiteral("success"), true}, {QStringLiteral("data"), data}};
+    return {{"success", true}, {"data", data}};
 }
 
 QVariantMap refused(const QString &message)
 {
-    return {{QStringLiteral("success"), false}, {QStringLiteral("message"), message}};
+    return {{"success", false}, {"message", message}};
 }

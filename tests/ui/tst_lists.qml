@@ -66,7 +66,7 @@ Item {
 
         function test_pullingDownFarEnoughRefreshesOnceAndShowsIt() {
             editing.clear()
-            pull(60, 90)
+            pull(60, 110)
             compare(root.screen.refreshes, 0)
             compare(editing.count, 1)
             tryCompare(list, "moving", false)

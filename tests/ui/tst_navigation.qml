@@ -107,7 +107,7 @@ Item {
                 { tag: "goes back", screens: 1, gesture: true, to: 300, left: 1 },
                 { tag: "too short, slides back in", screens: 1, gesture: true, to: 60, left: 2 },
                 { tag: "on a screen without the gesture", screens: 1, gesture: false, to: 300, left: 2 },
-                { tag: "on the root", screens: 0, to: 300, left: 1 }
+                { tag: "on the root", screens: 0, gesture: false, to: 300, left: 1 }
             ]
         }
 
@@ -116,6 +116,8 @@ Item {
                 pushed("second", row.gesture)
             swipe(row.to)
             compare(navigation.depth, row.left)
+            if (!row.gesture)
+                compare(slots()[row.left - 1].x, 0, "it did not move at all")
             tryVerify(() => slots()[row.left - 1].x === 0)
         }
 
