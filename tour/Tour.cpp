@@ -164,7 +164,7 @@ bool Tour::readStock()
 
 bool Tour::readCandles()
 {
-    return hand.press(QStringLiteral("日K")) && hand.waitForPart(QStringLiteral("日K线")) && hand.back();
+    return hand.press(QStringLiteral("日K")) && hand.waitForPart(QStringLiteral("日K线"));
 }
 
 bool Tour::receiveMessage()
@@ -174,14 +174,14 @@ bool Tour::receiveMessage()
                                              {QStringLiteral("source"), QStringLiteral("100")},
                                              {QStringLiteral("title"), title},
                                              {QStringLiteral("content"), QStringLiteral("二十二点起")}});
-    return hand.waitFor(QStringLiteral("消息详情")) && hand.waitFor(title) &&
-           hand.press(QStringLiteral("关闭"));
+    return hand.waitFor(QStringLiteral("消息详情")) && hand.waitFor(title);
 }
 
 bool Tour::readEntrustsAndDeals()
 {
-    return hand.press(QStringLiteral("查看")) && hand.waitForPart(QStringLiteral("已撤单")) &&
-           hand.press(QStringLiteral("当日成交")) && hand.waitForPart(stock);
+    return hand.press(QStringLiteral("关闭")) && hand.back() && hand.press(QStringLiteral("查看")) &&
+           hand.waitForPart(QStringLiteral("已撤单")) && hand.press(QStringLiteral("当日成交")) &&
+           hand.waitForPart(stock);
 }
 
 bool Tour::readDetail()
