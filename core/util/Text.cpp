@@ -158,6 +158,12 @@ double doubleValue(const QVariant &value)
     return finiteNumber(asciiNumber(leadingNumber(text)));
 }
 
+bool holdsNumber(const QVariant &value)
+{
+    const QString text = textForm(value);
+    return !leadingNumber(text).isEmpty();
+}
+
 qint64 integerValue(const QVariant &value)
 {
     if (isFloating(value))

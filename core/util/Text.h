@@ -14,6 +14,8 @@ QString textForm(const QVariant &value);
 /// The leading number of a text, blanks before it skipped, also in groups ("1,234.50"); 0 when there is none.
 /// Always finite.
 double doubleValue(const QVariant &value);
+/// Whether `doubleValue` finds a number in it.
+bool holdsNumber(const QVariant &value);
 /// The leading whole number of a text, read in the same way, clamped to the type; 0 when there is none.
 qint64 integerValue(const QVariant &value);
 /// A number that is not zero; a text whose first significant character (after blanks, a sign, zeros) is Y, y,

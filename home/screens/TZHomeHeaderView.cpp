@@ -14,6 +14,12 @@ QString filled(const QString &format, const QString &value)
 {
     return format.arg(Service::whetherAnEmptyString(value) ? QString() : value);
 }
+
+/// A service may have written the plus already.
+QString plusOf(int sign, const QString &money)
+{
+    return sign > 0 && !money.trimmed().startsWith(u'+') ? QStringLiteral("+") : QString();
+}
 } // namespace
 
 void TZHomeHeaderView::setModels(const TZUserIndexModel &index, const TZUserIndexAssetModel &asset,
@@ -22,7 +28,7 @@ void TZHomeHeaderView::setModels(const TZUserIndexModel &index, const TZUserInde
     const int sign = trendOf(doubleValue(asset.profitMoney));
     totalAsset = amounts.shown(labelAmount(asset.totalAsset));
     profitTrend = amounts.isHidden() ? 0 : sign;
-    profit = amounts.shown((sign > 0 ? QStringLiteral("+") : QString()) + asset.profitMoney);
+    profit = amounts.shown(plusOf(sign, asset.profitMoney) + asset.profitMoney);
     midProfit = amounts.shown(filled(QStringLiteral("%1元"), asset.profitMoney));
     midRate = filled(QStringLiteral("%1%"), asset.profitRate);
     setRate(asset.profitRate);
@@ -31,6 +37,10 @@ void TZHomeHeaderView::setModels(const TZUserIndexModel &index, const TZUserInde
 
 void TZHomeHeaderView::setRate(const QString &profitRate)
 {
+    rateTrend = 0;
+    rate = QStringLiteral("--");
+    if (!Service::whetherAnEmptyString(profitRate) && !holdsNumber(profitRate))
+        return;
     const QString text = twoDecimals(doubleValue(profitRate));
     // The sign is that of the figure shown: what rounds to zero is neither gain nor loss.
     rateTrend = trendOf(text.toDouble());

@@ -184,13 +184,14 @@ TEST_F(HomePageTest, RatesAreSignedByTheFigureThatIsShownAndProfitsWhenAboveZero
     } rates[] = {
         {"12.3", "+12.30%", 1},  {"-0.5", "-0.50%", -1}, {"0", " 0.00%", 0},     {"0.001", " 0.00%", 0},
         {"-0.001", " 0.00%", 0}, {"", " 0.00%", 0},      {"0.125", "+0.12%", 1}, {"0.375", "+0.38%", 1},
+        {"+1.5", "+1.50%", 1},   {"abc", "--", 0},
     };
     for (const auto &[rate, shown, trend] : rates) {
         EXPECT_EQ(header("profitRate", rate).rate, shown) << rate.toStdString();
         EXPECT_EQ(header("profitRate", rate).rateTrend, trend) << rate.toStdString();
     }
     for (const auto &[money, shown] :
-         {std::pair("0.01", "+0.01"), {"0", "0"}, {"-3.20", "-3.20"}, {"", ""}}) {
+         {std::pair("0.01", "+0.01"), {"0", "0"}, {"-3.20", "-3.20"}, {"+88.5", "+88.5"}, {"", ""}}) {
         EXPECT_EQ(header("profitMoney", money).profit, shown);
         EXPECT_EQ(header("profitMoney", money).midProfit, QString(money) + "元");
     }
