@@ -53,7 +53,11 @@ void TZSignInCodeController::verify(const QVariantMap &extra, std::function<void
     waitFor(TZUserTool::verifyCodeWithParam(
         param,
         Success{attempt.get(),
-                [verified = std::move(verified)](const Operation &, const QVariantMap &) { verified(); }},
+                [verified = std::move(verified)](const Operation &, const QVariantMap &) {
+                    if (!Service::isLogin())
+                        return Service::showLoadFailView();
+                    verified();
+                }},
         Failure{}));
 }
 

@@ -4,6 +4,7 @@
 #include "account/screens/TZRegisterController.h"
 #include "account/screens/TZRegisterFinishController.h"
 #include "core/session/NotificationNames.h"
+#include "core/session/SettingsKeys.h"
 #include "core/session/TZUserModel.h"
 #include "core/shell/KRNavigationController.h"
 #include "core/shell/KRWindow.h"
@@ -348,6 +349,25 @@ TEST_F(SignInTest, GoingBackWhileTheCodeIsCheckedLeavesTheUserSignedOut)
         EXPECT_EQ(TZUserModel::stored().api_token, QString()) << bizCode << stillSeen;
         EXPECT_EQ(stack->top(), entry);
         EXPECT_TRUE(events.isEmpty());
+    }
+}
+
+TEST_F(SignInTest, ASuccessThatNamesNobodyKeepsTheScreenAndSignsNobodyIn)
+{
+    for (const char *bizCode : {"1001", "1002"}) {
+        sendNumber(started(QLatin1String(bizCode)));
+        auto *const step = qobject_cast<TZSmsCodeController *>(stack->top());
+        step->textFiledEditChanged(QStringLiteral("123456"));
+        step->clickNextStepBtn();
+        runLoop.advance(500ms);
+        http.answer(verify, succeeded(QVariant()));
+        EXPECT_EQ(stack->top(), step) << bizCode;
+        EXPECT_EQ(step->code(), QStringLiteral("123456"));
+        EXPECT_EQ(banners(), QStringList(QStringLiteral("加载失败")));
+        EXPECT_FALSE(overlays.isWaiting());
+        EXPECT_FALSE(settings.values.contains(SettingsKeys::user));
+        EXPECT_TRUE(events.isEmpty());
+        stack->pop();
     }
 }
 
