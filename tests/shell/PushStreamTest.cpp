@@ -61,6 +61,8 @@ TEST_F(PushStreamTest, MessagesComeLineByLineHoweverTheyAreCut)
     ASSERT_TRUE(opened(1));
     EXPECT_EQ(server.requests.first().line(), "GET /sandbox/push HTTP/1.1");
     EXPECT_EQ(server.requests.first().header("alias"), "t0ken");
+    for (const char *common : {"api_token", "info_version", "version", "platform"})
+        EXPECT_EQ(server.requests.first().header(common), "") << common;
     write("{\"pageId\":2,\"data\":{}}\n\n{\"pageId\":");
     EXPECT_TRUE(wait([this] { return received.size() == 1; }));
     write("3}\nno json\n[4]\n{\"pageId\":5}\n");
