@@ -13,13 +13,13 @@ TEST(OrderEntryRules, APriceIsDigitsAndAPointWithAtMostTwoDecimals)
         EXPECT_TRUE(Rules::acceptsPrice(price)) << qPrintable(price);
     for (const QString &price :
          QStringList{"12.345", "1.2.3", "..", "-1", "+1", "1e5", "1,5", " 12", "12 ", "12\n", "１２", "١٢",
-                     "🙂", "9999999999.99", QString(10'000, u'9'), "0." + QString(10'000, u'0')})
+                     "🙂", "'", "9999999999.99", QString(10'000, u'9'), "0." + QString(10'000, u'0')})
         EXPECT_FALSE(Rules::acceptsPrice(price)) << qPrintable(price.left(20));
 }
 
 TEST(OrderEntryRules, AQuantityIsDigitsOfWhichTheFirstEightStay)
 {
-    for (const QString text : {"+100", "-100", "1 00", "1.5", "1e2", "１００", "🙂", "100股", "100\n"})
+    for (const QString text : {"+100", "-100", "1 00", "1.5", "1e2", "１００", "🙂", "'", "100股", "100\n"})
         EXPECT_FALSE(Rules::acceptsQuantity(text)) << qPrintable(text);
     for (const QString &text : QStringList{"", "0", "0100", QString(10'000, u'7')})
         EXPECT_TRUE(Rules::acceptsQuantity(text)) << qPrintable(text.left(20));
