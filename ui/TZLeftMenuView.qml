@@ -26,6 +26,7 @@ FocusScope {
 
                 width: parent.width
                 focus: index === 0
+                current: index === menu.controller.currentRow
                 Keys.onDownPressed: row.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
                 Keys.onUpPressed: row.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
                 onClicked: menu.controller.didSelectRow(index)

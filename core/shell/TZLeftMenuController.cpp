@@ -1,7 +1,12 @@
 #include "core/shell/TZLeftMenuController.h"
 
+#include "core/shell/KRNavigationController.h"
+#include "core/shell/KRSideMenu.h"
+#include "core/shell/KRWindow.h"
 #include "core/shell/Router.h"
 #include "core/util/Service.h"
+
+#include <algorithm>
 
 namespace {
 struct Destination {
@@ -26,6 +31,25 @@ TZLeftMenuController::TZLeftMenuController(Router &appRouter) : router(appRouter
         menu.append(
             {QString::fromUtf16(row.top), QString::fromUtf16(row.bottom), QString::fromUtf16(row.icon)});
     cells.setRows(menu);
+}
+
+void TZLeftMenuController::viewDidLoad()
+{
+    KRBaseController::viewDidLoad();
+    if (const KRSideMenu *const frame = window()->sideMenu())
+        connect(frame, &KRSideMenu::contentChanged, this, &TZLeftMenuController::currentRowChanged);
+}
+
+// Pages are called what their rows are called.
+int TZLeftMenuController::currentRow() const
+{
+    const KRSideMenu *const frame = window() ? window()->sideMenu() : nullptr;
+    if (!frame)
+        return -1;
+    const QString title = frame->content()->root()->title();
+    const auto found = std::find_if(cells.rows().begin(), cells.rows().end(),
+                                    [&title](const TZLeftMenuCell &cell) { return cell.topLabel == title; });
+    return found == cells.rows().end() ? -1 : static_cast<int>(found - cells.rows().begin());
 }
 
 void TZLeftMenuController::didSelectRow(int row)

@@ -21,11 +21,19 @@ public:
 class TZLeftMenuController : public KRBaseController {
     Q_OBJECT
     Q_PROPERTY(GadgetListModel *rows READ rows CONSTANT)
+    /// The row whose page is the content's root; -1 for none of them.
+    Q_PROPERTY(int currentRow READ currentRow NOTIFY currentRowChanged)
 public:
     explicit TZLeftMenuController(Router &router);
 
     RowListModel<TZLeftMenuCell> *rows() { return &cells; }
+    int currentRow() const;
     Q_INVOKABLE void didSelectRow(int row);
+
+    void viewDidLoad() override;
+
+Q_SIGNALS:
+    void currentRowChanged();
 
 private:
     Router &router;

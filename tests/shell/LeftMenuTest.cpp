@@ -1,4 +1,8 @@
+#include "core/shell/KRNavigationController.h"
+#include "core/shell/KRSideMenu.h"
+#include "core/shell/KRWindow.h"
 #include "core/shell/TZLeftMenuController.h"
+#include "core/shell/TZPlainPageController.h"
 #include "core/util/Service.h"
 #include "tests/support/RecordingRouter.h"
 #include "tests/support/TestPlatform.h"
@@ -22,6 +26,26 @@ TEST_F(LeftMenuTest, ThreeRowsInTheirOrderOpenTheirPages)
     for (int row = -1; row < 4; ++row)
         menu->didSelectRow(row);
     EXPECT_EQ(calls(), "showHome showMyAccount showCommissions");
+}
+
+TEST_F(LeftMenuTest, TheRowOfThePageThatIsShownIsMarked)
+{
+    const auto stackOf = [](const char *title) {
+        return std::make_unique<KRNavigationController>(
+            std::make_unique<TZPlainPageController>(QString::fromUtf8(title), QString()));
+    };
+    const TZLeftMenuController &shown = *menu;
+    int changes = 0;
+    QObject::connect(menu.get(), &TZLeftMenuController::currentRowChanged, [&changes] { ++changes; });
+    EXPECT_EQ(shown.currentRow(), -1);
+    KRWindow window;
+    window.setRoot(std::make_unique<KRSideMenu>(stackOf("首页"), std::move(menu)));
+    EXPECT_EQ(shown.currentRow(), 0);
+    window.sideMenu()->setContent(stackOf("我的账户"));
+    EXPECT_EQ(shown.currentRow(), 1);
+    EXPECT_EQ(changes, 1);
+    window.sideMenu()->content()->push(std::make_unique<TZPlainPageController>("超级合伙人", QString()));
+    EXPECT_EQ(shown.currentRow(), 1) << "the root counts, not what lies over it";
 }
 
 TEST_F(LeftMenuTest, SignedOutOnlyHomeOpensAndTheOthersFollowASignInWhileTheMenuIsThere)
