@@ -81,8 +81,12 @@ PageFrame {
                 }
             }
             Item {
+                id: charts
+                readonly property real wanted: Math.max(Theme.scaled(260), Math.round(page.height * 0.36))
+                readonly property real below: scroll.height - y - wanted
                 width: parent.width
-                height: Math.max(Theme.scaled(260), Math.round(page.height * 0.36))
+                // Where hardly more than the book's heading would be seen under it, nothing of the book is.
+                height: below > 0 && below < book.headingHeight + book.rowHeight ? wanted + below : wanted
 
                 StockChartView {
                     anchors { fill: parent; leftMargin: Theme.margin; rightMargin: Theme.margin }

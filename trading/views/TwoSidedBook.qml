@@ -12,6 +12,7 @@ Item {
     required property TZHandicapView sellView
     property bool stale: false
     property real rowHeight: Theme.scaled(30)
+    readonly property real headingHeight: title.height
 
     implicitHeight: title.height + levels.height
 
