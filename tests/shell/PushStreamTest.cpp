@@ -120,7 +120,9 @@ TEST_F(PushStreamTest, ALostStreamIsOpenedAgainAfterGrowingDelaysUntilAMessageCo
     ASSERT_TRUE(opened(1));
     int openings = 1;
     for (const std::chrono::seconds delay : {1s, 2s, 4s, 8s, 16s, 32s, 60s, 60s}) {
-        streams.last()->disconnectFromHost();
+        // The client may have ended what is no stream already.
+        if (streams.last())
+            streams.last()->disconnectFromHost();
         ASSERT_TRUE(wait([this] { return runLoop.activeTimers() == 1; })) << delay.count();
         runLoop.advance(delay - 1ms);
         wait([] { return false; }, 20ms);
