@@ -60,9 +60,6 @@ void signIn(const QVariantMap &answer)
 {
     const QVariantMap cleaned = Service::processDictionaryIsNSNull(answer).toMap();
     const auto user = fromDictionary<TZUserModel>(cleaned.value(QStringLiteral("data")));
-    // An answer without one names nobody; an empty one is stored.
-    if (user.api_token.isNull())
-        return;
     if (!Service::whetherAnEmptyString(user.api_token))
         Platform::current().push.setAlias(user.api_token, QStringLiteral("api_token"));
     store(user);

@@ -174,7 +174,7 @@ TEST_F(UserToolTest, AnAnswerWithoutATokenSignsNobodyIn)
     for (const QVariant &data : {QVariant(), QVariant(QVariantList{1}), QVariant(one("cell", "1"))}) {
         TZUserTool::verifyCodeWithParam({}, succeeds(), fails());
         http.answer("user/verify", succeeded(data));
-        EXPECT_FALSE(settings.values.contains(SettingsKeys::user));
+        EXPECT_FALSE(Service::isLogin());
     }
     EXPECT_EQ(kits.calls, QStringList());
     TZUserTool::verifyCodeWithParam({}, succeeds(), fails());

@@ -75,9 +75,15 @@ TEST_P(ScreensSoakTest, LeavesNothingBehind)
     // What the heap breathes by itself, and what a round may leave.
     constexpr size_t breath = 500'000;
     constexpr size_t crumbs = 1'000;
-    const size_t before = bytesAfter(10);
-    const size_t after = bytesAfter(rounds());
-    EXPECT_LT(after, before + breath + crumbs * static_cast<size_t>(rounds())) << "from " << before;
+    const size_t allowed = breath + crumbs * static_cast<size_t>(rounds());
+    size_t before = bytesAfter(10);
+    size_t after = bytesAfter(rounds());
+    // A store that fills once grows one time; what a screen leaves behind grows each time.
+    for (int again = 0; again < 2 && after >= before + allowed; ++again) {
+        before = after;
+        after = bytesAfter(rounds());
+    }
+    EXPECT_LT(after, before + allowed) << "from " << before;
 }
 
 INSTANTIATE_TEST_SUITE_P(Client, ScreensSoakTest, testing::ValuesIn(allScreens()),
