@@ -365,7 +365,7 @@ TEST_F(SignInTest, ASuccessThatNamesNobodyKeepsTheScreenAndSignsNobodyIn)
         EXPECT_EQ(step->code(), QStringLiteral("123456"));
         EXPECT_EQ(banners(), QStringList(QStringLiteral("加载失败")));
         EXPECT_FALSE(overlays.isWaiting());
-        EXPECT_FALSE(settings.values.contains(SettingsKeys::user));
+        EXPECT_FALSE(Service::isLogin());
         EXPECT_TRUE(events.isEmpty());
         stack->pop();
     }
