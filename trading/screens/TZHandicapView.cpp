@@ -18,9 +18,8 @@ bool isPrice(const QString &text)
 }
 
 /// Whole as far as it fits beside a price: "12345", "129.6万", "1.2亿".
-QString shortVolume(const QString &text)
+QString shortVolume(const QString &text, double volume)
 {
-    const double volume = doubleValue(text);
     if (volume < 100'000)
         return text;
     const bool hundredMillions = volume >= 100'000'000;
@@ -30,13 +29,15 @@ QString shortVolume(const QString &text)
 
 HandicapRow rowOf(const TZHandicapModel &level, const TZHandicapView::Scale &scale)
 {
-    const bool hasPrice = isPrice(level.price);
+    const double price = doubleValue(level.price);
+    const bool hasPrice = price > 0;
     const double volume = std::max(doubleValue(level.volume), 0.0);
+    const bool hasVolume = hasPrice && !Service::whetherAnEmptyString(level.volume);
     return {level.title,
             hasPrice ? level.price : noFigure,
-            !hasPrice || Service::whetherAnEmptyString(level.volume) ? noFigure : shortVolume(level.volume),
+            hasVolume ? shortVolume(level.volume, volume) : noFigure,
             scale.deepestVolume > 0 ? volume / scale.deepestVolume : 0,
-            hasPrice ? trendOf(doubleValue(level.price), scale.previousClose) : 0,
+            hasPrice ? trendOf(price, scale.previousClose) : 0,
             hasPrice};
 }
 } // namespace
