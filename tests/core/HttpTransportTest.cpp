@@ -102,24 +102,25 @@ TEST_F(HttpTransportTest, NeverSendsTwiceHoweverTheConnectionEndsAfterReading)
     } cases[] = {
         {"", true, true}, {"", true, false}, {"", false, false}, {half, true, false}, {half, false, false}};
     for (const char *method : {"GET", "POST", "PUT"}) {
-        for (const auto &[written, reset, warm] : cases) {
-            if (warm) {
+        for (const auto &ending : cases) {
+            if (ending.warm) {
                 server.answer = [](QTcpSocket &socket, auto &) { respond(socket, "200 OK", "", "{}"); };
                 EXPECT_EQ(described(get(server.url("warm"))), "200 {}");
             }
             server.answer = [&](QTcpSocket &socket, const WireServer::Request &) {
-                socket.write(written);
+                socket.write(ending.written);
                 socket.flush();
-                if (reset)
+                if (ending.reset)
                     resetConnection(socket);
                 else
                     socket.disconnectFromHost();
             };
             server.requests.clear();
             EXPECT_EQ(described(send(form(server.url("order"), method))), "connection")
-                << method << written.toStdString() << reset << warm;
+                << method << ending.written.toStdString() << ending.reset << ending.warm;
             linger();
-            EXPECT_EQ(server.requests.size(), 1) << method << written.toStdString() << reset << warm;
+            EXPECT_EQ(server.requests.size(), 1)
+                << method << ending.written.toStdString() << ending.reset << ending.warm;
         }
     }
 }
