@@ -15,7 +15,7 @@
 /// base URL with the alias as a header, and none of those that calls of the service have. It brings one JSON
 /// object a line, {"pageId": n, "data": {…}}; an empty line only says that the service is there. A lost
 /// stream is opened again after 1 second, then 2, 4, … up to 60, until a line has come through; where there
-/// is none (a status from 400 on), not until there is another alias.
+/// is none (a 4xx status that does not pass), not until there is another alias.
 class QtPushService : public QObject, public QuietPushService {
     Q_OBJECT
 public:

@@ -11,12 +11,6 @@
 namespace {
 const QString noFigure = QStringLiteral("--");
 
-/// A service fills the places of levels that nobody offers with zeros.
-bool isPrice(const QString &text)
-{
-    return doubleValue(text) > 0;
-}
-
 /// Whole as far as it fits beside a price: "12345", "129.6万", "1.2亿".
 QString shortVolume(const QString &text, double volume)
 {
@@ -30,6 +24,7 @@ QString shortVolume(const QString &text, double volume)
 HandicapRow rowOf(const TZHandicapModel &level, const TZHandicapView::Scale &scale)
 {
     const double price = doubleValue(level.price);
+    // A service fills the places of levels that nobody offers with zeros.
     const bool hasPrice = price > 0;
     const double volume = std::max(doubleValue(level.volume), 0.0);
     const bool hasVolume = hasPrice && !Service::whetherAnEmptyString(level.volume);
@@ -67,7 +62,7 @@ void TZHandicapView::setLevels(const QList<TZHandicapModel> &levels, const Scale
 
 bool TZHandicapView::isSelectable(int row) const
 {
-    return isPrice(shownLevels.value(row).price);
+    return shownRows.rows().value(row).selectable;
 }
 
 int TZHandicapView::rowBeyond(int row, int step) const
